@@ -1,0 +1,29 @@
+# A room of the house: a static library of the sources below this folder, with our flags.
+function(zentrox_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_link_libraries(${name} PUBLIC zentrox_flags)
+endfunction()
+
+# A program that lies directly in the build folder.
+function(zentrox_program name)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE zentrox_flags)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+endfunction()
+
+# A GoogleTest program: zentrox_test(NAME sources... LIBS libraries...). Its cases are CTest's.
+function(zentrox_test name)
+  cmake_parse_arguments(TEST "" "" "LIBS" ${ARGN})
+  add_executable(${name} ${TEST_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PRIVATE ${TEST_LIBS} zentrox_flags GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX ${name}. PROPERTIES TIMEOUT 300)
+endfunction()
+
+# A Google Benchmark program that the target `bench` runs: zentrox_bench(NAME sources... LIBS libraries...).
+function(zentrox_bench name)
+  cmake_parse_arguments(BENCH "" "" "LIBS" ${ARGN})
+  add_executable(${name} EXCLUDE_FROM_ALL ${BENCH_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PRIVATE ${BENCH_LIBS} zentrox_flags benchmark::benchmark_main)
+  add_custom_target(run_${name} COMMAND ${name} USES_TERMINAL)
+  add_dependencies(bench run_${name})
+endfunction()

@@ -1,0 +1,29 @@
+// Reading picture and icon files.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/bitmap.h"
+#include "platform/files.h"
+
+namespace zentrox {
+
+// A pointer's picture: 0xAARRGGBB a pixel, alpha 0 or more; the hot spot is the centre.
+struct Icon {
+    Size size;
+    std::vector<std::uint32_t> pixels;
+    Text file;  // the game path that it came from
+};
+
+// Reads a JPEG, bitmap or PNG file, told by its content. Throws `DataError` where it is missing or damaged.
+Bitmap loadPicture(const Files& files, TextView path);
+
+// Reads an icon file and takes the picture in it whose side is nearest to `side` pixels, the deeper one of two.
+// Throws `DataError` where it is missing or damaged.
+Icon loadIcon(const Files& files, TextView path, int side = 32);
+
+// Writes a PNG of `area` of a bitmap; false if that fails. `path` is a path of the system.
+bool savePng(const Bitmap& bitmap, const std::string& path);
+
+}  // namespace zentrox

@@ -1,0 +1,54 @@
+// The sound and video device: one voice, one effect, one song and one video at a time, none of which cuts another off.
+// Files are paths of the game; one that can't be played counts as silence. All calls return at once.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "platform/bitmap.h"
+#include "platform/text.h"
+
+namespace zentrox {
+
+using SoundHandle = std::uint32_t;  // 0 is none
+
+class SoundDevice {
+public:
+    virtual ~SoundDevice() = default;
+
+    // Opens and starts the output. False, with `errorCode` set, if there is no device.
+    virtual bool init() = 0;
+    virtual bool start() = 0;
+    // The code of the last failure, by the table of `BassFehlerText`.
+    virtual int errorCode() const = 0;
+    // Stops all and closes the output.
+    virtual void free() = 0;
+
+    // Opens a voice file without playing it yet; 0 if that fails.
+    virtual SoundHandle openVoice(TextView path) = 0;
+    virtual void playVoice(SoundHandle handle) = 0;
+    // Stops and closes it; harmless on 0 and on one that has ended.
+    virtual void freeVoice(SoundHandle handle) = 0;
+
+    // Plays an effect once; it replaces the one before.
+    virtual void playEffect(TextView path) = 0;
+
+    // Opens a song in place of the one before and plays it once.
+    virtual void playSong(TextView path) = 0;
+    virtual void stopSong() = 0;
+    // Milliseconds; both 0 when there is no song.
+    virtual std::int64_t songLength() = 0;
+    virtual std::int64_t songPosition() = 0;
+
+    // Opens a video and its sound and starts it; false if it can't be decoded.
+    virtual bool playVideo(TextView path) = 0;
+    virtual void stopVideo() = 0;
+    // Milliseconds; both 0 when there is no video.
+    virtual std::int64_t videoLength() = 0;
+    virtual std::int64_t videoPosition() = 0;
+    // The picture that should be seen now, if it is another one than at the last call.
+    virtual const Bitmap* videoFrame() = 0;
+};
+
+}  // namespace zentrox
