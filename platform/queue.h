@@ -93,6 +93,8 @@ private:
     void serveTimers();
     void turn();
     void deliver(const Input& input);
+    void forgetToolTip() { toolTipDue_.reset(); }
+    void serveToolTip();
     std::optional<Milliseconds> nextTimer() const;
     void sleepUntil(std::optional<Milliseconds> deadline);
 
@@ -101,8 +103,7 @@ private:
     std::vector<Window*> windows_;
     std::vector<Text> reasons_;
 
-    Control* tipControl_ = nullptr;
-    std::optional<Milliseconds> tipDue_;
+    std::optional<Milliseconds> toolTipDue_;
 };
 
 }  // namespace zentrox

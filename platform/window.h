@@ -65,9 +65,11 @@ public:
     Control* focus() const { return focus_; }
     void setFocus(Control* control);
 
-    // Brings the picture up to date and gives it; `news` grows by what has changed since it was taken last.
+    // Brings the picture up to date and gives it.
     const Bitmap& compose();
+    // What of the picture has changed since this was asked last.
     Rect takeNews();
+    bool stale() const { return !stale_.empty(); }
     void changed(const Rect& part) { stale_ = united(stale_, part); }
 
     // --- events, each called from a turn of the queue
@@ -88,14 +90,16 @@ public:
     void deliverKeyUp(int code);
     void deliverKeyPress(char c);
 
-    // What a person sees besides the controls: a tool tip over the control under the pointer.
+    // The control that the pointer was moved over last, null if none; and its tool tip, drawn over all controls.
+    Control* hovered() const { return hovered_; }
     void showToolTip(bool show);
+    bool toolTipShown() const { return toolTipShown_; }
     // Texts that stand in it, for the probe.
     bool shows(TextView part) const;
 
 private:
     friend class Control;
-    PointerEvent inControl(Control& control, Point at, Button button, int clicks) const;
+    PointerEvent inControl(const Control& control, Point at, Button button, int clicks) const;
     void forget(Control& control);
     void paintTree(Control& control, Point at, const Rect& clip);
     void focusNext(bool back);
@@ -113,6 +117,9 @@ private:
     Control* focus_ = nullptr;
     Control* captured_ = nullptr;  // the one that got a press keeps the pointer until the release
     Control* hovered_ = nullptr;
+    Point hoverAt_;
+    bool toolTipShown_ = false;
+    Rect toolTipArea_;
 };
 
 }  // namespace zentrox
