@@ -1,0 +1,18 @@
+// The mini-games as the interpreter knows them: a name and a call.
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "platform/text.h"
+
+namespace zentrox {
+
+// Shows the window of a game modally and returns when it has closed. It finds its parameter in `Übergabe` and
+// leaves its outcome there: a truth, or for "MEMORY" one of the texts "W", "L" and "U".
+using Spiel = std::function<void()>;
+
+// By names in upper case: "PI", "JUMP", "ESEL", "HDW", "PRÜGEL", "BRUHKS", "PONG", "MEMORY".
+using Spieltabelle = std::map<Text, Spiel, std::less<>>;
+
+}  // namespace zentrox
