@@ -1,10 +1,8 @@
-// The sound and video device: one voice, one effect, one song and one video at a time, none of which cuts another off.
-// Files are paths of the game; one that can't be played counts as silence. All calls return at once.
+// The sound and video device: one voice, one effect, one song and one video at a time, none of which cuts another
+// off. Files are paths of the game; one that can't be played counts as silence. All calls return at once.
 #pragma once
 
 #include <cstdint>
-#include <memory>
-#include <optional>
 
 #include "platform/bitmap.h"
 #include "platform/text.h"
@@ -17,7 +15,8 @@ class SoundDevice {
 public:
     virtual ~SoundDevice() = default;
 
-    // Opens and starts the output. False, with `errorCode` set, if there is no device.
+    // Finds the output, then opens it. False, with `errorCode` set, if there is none, or it is not to be had; then
+    // everything but videos is silence.
     virtual bool init() = 0;
     virtual bool start() = 0;
     // The code of the last failure, by the table of `BassFehlerText`.
@@ -25,7 +24,7 @@ public:
     // Stops all and closes the output.
     virtual void free() = 0;
 
-    // Opens a voice file without playing it yet; 0 if that fails.
+    // Opens a voice file, in place of the one before, without playing it yet; 0 if that fails.
     virtual SoundHandle openVoice(TextView path) = 0;
     virtual void playVoice(SoundHandle handle) = 0;
     // Stops and closes it; harmless on 0 and on one that has ended.
@@ -37,18 +36,41 @@ public:
     // Opens a song in place of the one before and plays it once.
     virtual void playSong(TextView path) = 0;
     virtual void stopSong() = 0;
-    // Milliseconds; both 0 when there is no song.
+    // Milliseconds; both 0 when there is no song. The position of a song that has ended is its length.
     virtual std::int64_t songLength() = 0;
     virtual std::int64_t songPosition() = 0;
 
-    // Opens a video and its sound and starts it; false if it can't be decoded.
+    // Opens a video and its sound, in place of the one before, and starts it; false if it can't be decoded.
     virtual bool playVideo(TextView path) = 0;
     virtual void stopVideo() = 0;
-    // Milliseconds; both 0 when there is no video.
+    // Milliseconds; both 0 when there is no video. The position of a video that has ended is its length.
     virtual std::int64_t videoLength() = 0;
     virtual std::int64_t videoPosition() = 0;
-    // The picture that should be seen now, if it is another one than at the last call.
+    // The picture that should be seen now, scaled to 640 by 480, if it is another one than at the last call; else
+    // null. It stays until the next call of the device.
     virtual const Bitmap* videoFrame() = 0;
+};
+
+// A device that is never heard and shows nothing, for programs and tests that need none.
+class NoSound final : public SoundDevice {
+public:
+    bool init() override { return true; }
+    bool start() override { return true; }
+    int errorCode() const override { return 0; }
+    void free() override {}
+    SoundHandle openVoice(TextView) override { return 0; }
+    void playVoice(SoundHandle) override {}
+    void freeVoice(SoundHandle) override {}
+    void playEffect(TextView) override {}
+    void playSong(TextView) override {}
+    void stopSong() override {}
+    std::int64_t songLength() override { return 0; }
+    std::int64_t songPosition() override { return 0; }
+    bool playVideo(TextView) override { return false; }
+    void stopVideo() override {}
+    std::int64_t videoLength() override { return 0; }
+    std::int64_t videoPosition() override { return 0; }
+    const Bitmap* videoFrame() override { return nullptr; }
 };
 
 }  // namespace zentrox
