@@ -43,20 +43,22 @@ public:
     void outline(const Rect& area, Colour colour);
     // One pixel wide, both ends included.
     void line(Point from, Point to, Colour colour);
-    // A one-pixel circle.
+    // A one-pixel circle; radius 0 is its centre, a negative one nothing.
     void circle(Point centre, int radius, Colour colour);
 
-    // Copies `from` of `source`, pixel for pixel, to `to`. The source may be this bitmap itself, overlapping or not.
-    // What lies outside either bitmap is left out.
+    // Copies `from` of `source`, pixel for pixel, to `to`. The source may be this bitmap itself, overlapping or
+    // not; it is taken as it was before. What lies outside either bitmap is left out.
     void copy(const Bitmap& source, const Rect& from, Point to, Op op = Op::plain);
     void copy(const Bitmap& source, Point to, Op op = Op::plain) { copy(source, source.bounds(), to, op); }
 
     // Copies `from` of `source`, scaled, onto `to`. A negative width or height mirrors: the area is then the one
     // from x + w to x (y + h to y). The pixel taken is floor(offset * source side / target side); source pixels
-    // outside the source are left out. The source must not be this bitmap.
+    // outside the source are left out. The source may be this bitmap itself; it is then taken as it was before.
     void stretch(const Bitmap& source, const Rect& from, const Rect& to, Op op = Op::plain);
 
-    friend bool operator==(const Bitmap& a, const Bitmap& b) { return a.size_ == b.size_ && a.pixels_ == b.pixels_; }
+    friend bool operator==(const Bitmap& a, const Bitmap& b) {
+        return a.size_ == b.size_ && a.pixels_ == b.pixels_;
+    }
 
 private:
     Size size_;

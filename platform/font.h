@@ -21,13 +21,13 @@ public:
 
     // Pixels from the top of one line to the top of the next.
     virtual int lineHeight() const = 0;
-    // Pixels that the pen moves over a text without line ends.
+    // Pixels that the pen moves over a text without line ends. It is the sum over its characters.
     virtual int width(TextView line) const = 0;
-    // Draws a text without line ends, its top left corner at `at`, the background left as it is.
+    // Draws a text without line ends, its top left corner at `at`, the background left as it is. Letters may lean
+    // out of their cell by less than a line's height.
     virtual void draw(Bitmap& target, Point at, TextView line, Colour colour) const = 0;
 
-    // The widest line, and the height of all lines. Carriage return, line feed and the pair of both each end a line;
-    // a line end at the very end starts one more line.
+    // The widest line, and the height of all lines as `linesOf` parts them.
     Size measure(TextView text) const;
 };
 

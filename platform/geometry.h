@@ -3,15 +3,26 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 
 namespace zentrox {
+
+// The nearest whole number that an int can hold: sums of wild coordinates stop at its ends instead of wrapping.
+constexpr int held(std::int64_t value) {
+    return static_cast<int>(
+        std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
 
 struct Point {
     int x = 0;
     int y = 0;
     friend bool operator==(const Point&, const Point&) = default;
-    friend Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
-    friend Point operator-(Point a, Point b) { return {a.x - b.x, a.y - b.y}; }
+    friend Point operator+(Point a, Point b) {
+        return {held(std::int64_t{a.x} + b.x), held(std::int64_t{a.y} + b.y)};
+    }
+    friend Point operator-(Point a, Point b) {
+        return {held(std::int64_t{a.x} - b.x), held(std::int64_t{a.y} - b.y)};
+    }
 };
 
 struct Size {
@@ -31,8 +42,8 @@ struct Rect {
     Rect(int left, int top, int width, int height) : x(left), y(top), w(width), h(height) {}
     Rect(Point at, Size size) : x(at.x), y(at.y), w(size.w), h(size.h) {}
 
-    int right() const { return x + w; }
-    int bottom() const { return y + h; }
+    int right() const { return held(std::int64_t{x} + w); }
+    int bottom() const { return held(std::int64_t{y} + h); }
     Point at() const { return {x, y}; }
     Size size() const { return {w, h}; }
     bool empty() const { return w <= 0 || h <= 0; }
@@ -43,7 +54,8 @@ struct Rect {
 inline Rect intersection(const Rect& a, const Rect& b) {
     const int left = std::max(a.x, b.x);
     const int top = std::max(a.y, b.y);
-    return {left, top, std::min(a.right(), b.right()) - left, std::min(a.bottom(), b.bottom()) - top};
+    return {left, top, held(std::int64_t{std::min(a.right(), b.right())} - left),
+            held(std::int64_t{std::min(a.bottom(), b.bottom())} - top)};
 }
 
 // The smallest rectangle that holds both; an empty one counts for nothing.
@@ -52,7 +64,8 @@ inline Rect united(const Rect& a, const Rect& b) {
     if (b.empty()) return a;
     const int left = std::min(a.x, b.x);
     const int top = std::min(a.y, b.y);
-    return {left, top, std::max(a.right(), b.right()) - left, std::max(a.bottom(), b.bottom()) - top};
+    return {left, top, held(std::int64_t{std::max(a.right(), b.right())} - left),
+            held(std::int64_t{std::max(a.bottom(), b.bottom())} - top)};
 }
 
 // A pixel's value, 0x00RRGGBB.

@@ -1,9 +1,9 @@
-// A surface: the thing that rooms and games are drawn on. It has a stored image, a `picture` underneath, and what is
-// on the screen. It may stand in a window or be a picture in memory that nobody sees.
+// A surface: the thing that rooms and games are drawn on. It has a stored image, a `picture` underneath, and what
+// is on the screen. It may stand in a window or be a picture in memory that nobody sees.
 #pragma once
 
 #include <optional>
-#include <set>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/font.h"
@@ -32,10 +32,11 @@ public:
     Colour back() const { return back_; }
     // Takes effect with the next clearing.
     void setBack(Colour colour) { back_ = colour; }
-    // Removes what was drawn; the picture stays, or the back colour where there is none.
+    // Removes what was drawn; the picture stays, or the back colour where there is none. The cursor goes to the top
+    // left corner.
     void clear();
-    // Replaces the picture, and with it the stored image. What of the picture lies outside the surface is cut; where
-    // it does not reach, the back colour shows.
+    // Replaces the picture, and with it the stored image. What of the picture lies outside the surface is cut;
+    // where it does not reach, the back colour shows.
     void setPicture(const Bitmap& picture);
     // The same, and the surface takes the picture's size.
     void takePicture(Bitmap picture);
@@ -60,7 +61,8 @@ public:
     Colour foreground = white;
     int currentX = 0;
     int currentY = 0;
-    // Prints the lines of a text and leaves the cursor at the left edge of the line below the last one.
+    // Prints the lines of a text, the first at the cursor and the others from the left edge, and leaves the cursor
+    // at the left edge of the line below the last one.
     void print(TextView text);
     // Prints a text without line ends at a place; the cursor ends behind it.
     void printAt(Point at, TextView text, Colour colour);
@@ -73,10 +75,17 @@ public:
     void paint(Bitmap& onto, Point at) override;
 
 private:
-    Bitmap& target() { return autoRedraw_ ? image_ : screen_; }
-    const Bitmap& target() const { return autoRedraw_ ? image_ : screen_; }
+    // What drawing goes to: the stored image, or a copy of it that is the screen.
+    Bitmap& target();
+    const Bitmap& target() const { return autoRedraw_ ? image_ : screen(); }
     // Notes that `part` of the target looks different.
     void drawn(const Rect& part);
+    void printLine(TextView line);
+    // Keeps a printed text for `shows`; the oldest are forgotten.
+    void remember(TextView text);
+    // The surface as clearing leaves it: the picture over the back colour.
+    void layGround(Bitmap& onto) const;
+    void adopt(const Bitmap& picture);
 
     Fonts& fonts_;
     Colour back_;
@@ -84,7 +93,7 @@ private:
     std::optional<Bitmap> picture_;
     Bitmap image_;
     Bitmap screen_;  // empty as long as it would equal the stored image
-    std::set<Text, std::less<>> printed_;
+    std::vector<Text> printed_;
 };
 
 }  // namespace zentrox

@@ -143,4 +143,14 @@ bool equalIgnoringCase(TextView a, TextView b) {
     return true;
 }
 
+std::vector<TextView> linesOf(TextView text) {
+    std::vector<TextView> lines;
+    for (;;) {
+        const std::size_t end = text.find_first_of("\r\n");
+        lines.push_back(text.substr(0, end));
+        if (end == TextView::npos) return lines;
+        text.remove_prefix(end + (text.substr(end, 2) == "\r\n" ? 2 : 1));
+    }
+}
+
 }  // namespace zentrox

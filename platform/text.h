@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zentrox {
 
@@ -33,21 +34,26 @@ Text upper(TextView text);
 Text lower(TextView text);
 bool equalIgnoringCase(TextView a, TextView b);
 
+// The lines of a text, at least one. Carriage return, line feed and the pair of both each end a line; a line end at
+// the very end starts one more, empty line.
+std::vector<TextView> linesOf(TextView text);
+
 namespace detail {
 
 template <std::size_t N>
 struct Utf8Literal {
     std::array<char, N> bytes{};
-    consteval Utf8Literal(const char (&literal)[N]) {  // NOLINT(google-explicit-constructor): a literal operator needs it
+    consteval Utf8Literal(
+        const char (&literal)[N]) {  // NOLINT(google-explicit-constructor): a literal operator needs it
         for (std::size_t i = 0; i < N; ++i) bytes[i] = literal[i];
     }
 };
 
 // Code page 1252 agrees with Latin-1 but for 0x80 to 0x9F.
-constexpr std::array<char32_t, 32> page1252{
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+constexpr std::array<char32_t, 32> page1252{0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                            0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                            0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                            0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
 constexpr char character1252(char32_t codePoint) {
     if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) return static_cast<char>(codePoint);
