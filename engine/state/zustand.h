@@ -31,7 +31,9 @@ public:
         return spalte >= 0 && spalte < Maskenspalten && zeile >= 0 && zeile < Maskenzeilen &&
                zellen_[static_cast<std::size_t>(spalte * Maskenzeilen + zeile)];
     }
-    void set(int spalte, int zeile, bool an) { zellen_[static_cast<std::size_t>(spalte * Maskenzeilen + zeile)] = an; }
+    void set(int spalte, int zeile, bool an) {
+        zellen_[static_cast<std::size_t>(spalte * Maskenzeilen + zeile)] = an;
+    }
     friend bool operator==(const Maske&, const Maske&) = default;
 
 private:

@@ -1,0 +1,70 @@
+#include "engine/files/raumdatei.h"
+
+#include "engine/files/fieldreader.h"
+#include "engine/state/felder.h"
+
+namespace zentrox {
+
+namespace {
+
+constexpr std::size_t FelderJeBefehl = 2;
+constexpr std::size_t FelderJeObjekt = 9 + Maskenspalten * Maskenzeilen;  // with three empty scripts
+constexpr std::int32_t Fehlerton = 16;
+
+// The lists grow as they are read: the number in front of them is only a claim.
+Skript readSkript(FieldReader& in) {
+    Skript skript;
+    skript.Letzter = in.readLast(FelderJeBefehl);
+    for (std::int32_t i = 0; i <= skript.Letzter; ++i) {
+        skript.Befehl.push_back(in.readNumber());
+        skript.Argument.push_back(in.readText());
+    }
+    return skript;
+}
+
+void readObjekt(FieldReader& in, RaumObjekt& objekt) {
+    for (std::size_t i = 0; i < objekt.Aktion.size(); ++i) {
+        objekt.HatSkript[i] = in.readTruth();
+        objekt.Aktion[i] = readSkript(in);
+    }
+    objekt.Zeiger = in.readText();
+    objekt.Aktiv = in.readTruth();
+    objekt.Name = in.readText();
+    in.readMask(objekt.Maske);
+}
+
+}  // namespace
+
+Raum parseRoom(TextView bytes, TextView name) {
+    const Text what = "Raumdatei " + Text(name);
+    FieldReader in(bytes, what);
+    Raum raum;
+    raum.Bild = Trim(in.readText().substr(0, LängstesBild));
+    raum.Startskript = readSkript(in);
+    raum.LetztesObjekt = in.readLast(FelderJeObjekt);
+    raum.Objekte.resize(static_cast<std::size_t>(raum.LetztesObjekt + 1));
+    for (RaumObjekt& objekt : raum.Objekte) readObjekt(in, objekt);
+    raum.CountDownSkript = readSkript(in);
+    return raum;
+}
+
+Raum readRoom(const Files& files, TextView path) {
+    return parseRoom(files.read(path), files.display(path));
+}
+
+Skript parseSkript(TextView bytes, TextView name) {
+    const Text what = "Skriptdatei " + Text(name);
+    FieldReader in(bytes, what);
+    return readSkript(in);
+}
+
+Skript LadeSkript(const Files& files, TextView path) {
+    if (files.exists(path)) return parseSkript(files.read(path), files.display(path));
+    Skript skript;
+    if (!path.ends_with("2.skp")) return skript;
+    skript.Befehl = {Fehlerton};
+    skript.Letzter = 0;
+    return skript;
+}
+
+}  // namespace zentrox

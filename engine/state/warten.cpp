@@ -1,0 +1,21 @@
+#include "engine/state/warten.h"
+
+namespace zentrox {
+
+void WarteFrame(Zustand& z, Platform& platform, std::int32_t ms) {
+    constexpr TextView grund = "WarteFrame";
+    platform.queue.yield(grund);
+    const Milliseconds jetzt = platform.queue.clock();
+    // The mark has 32 bits, so the clock wraps around; unsigned, the difference comes out right all the same.
+    const std::uint32_t vergangen = static_cast<std::uint32_t>(jetzt) - static_cast<std::uint32_t>(z.LetzterFrame);
+    if (ms > 0 && vergangen < static_cast<std::uint32_t>(ms))
+        platform.queue.waitUntil(
+            grund, [] { return false; }, jetzt + (ms - static_cast<Milliseconds>(vergangen)));
+    z.LetzterFrame = static_cast<std::int32_t>(static_cast<std::uint32_t>(platform.queue.clock()));
+}
+
+void TastaturLesen(Zustand& z, Platform& platform) {
+    z.Tastatur = platform.backend.keys();
+}
+
+}  // namespace zentrox
