@@ -48,6 +48,7 @@ private:
     void WennParameter(Lauf& lauf);
     void Sonst(Lauf& lauf);
     void Fall(Lauf& lauf);
+    void zumFall(Lauf& lauf, std::int32_t option);
     void Springe(Lauf& lauf);
 
     // State and room.
@@ -69,8 +70,7 @@ private:
     void Fehlerton(Lauf& lauf);
     void Musik(Lauf& lauf);
     void Auswahl(Lauf& lauf);
-    void baueAuswahl(const Lauf& lauf, TextView argument);
-    void warteAufAuswahl();
+    Text baueAuswahl(const Lauf& lauf);
 
     // Games and system.
     void Spielen(Lauf& lauf);

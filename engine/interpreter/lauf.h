@@ -21,7 +21,8 @@ struct Lauf {
         return std::min(skript.Letzter, static_cast<std::int32_t>(skript.Befehl.size()) - 1);
     }
     bool amEnde() const { return zeiger > letzter(); }
-    std::int32_t befehl() const { return skript.Befehl[static_cast<std::size_t>(zeiger)]; }
+    std::int32_t befehl() const { return befehl(zeiger); }
+    std::int32_t befehl(std::int32_t index) const { return skript.Befehl[static_cast<std::size_t>(index)]; }
     // Valid until the next wait: what is needed behind one has to be copied.
     TextView argument() const { return argument(zeiger); }
     TextView argument(std::int32_t index) const {

@@ -39,6 +39,10 @@ public:
     // Milliseconds; 0 switches it off.
     virtual void CountDownPeriode(std::int64_t ms) = 0;
     virtual std::int64_t CountDownPeriode() const = 0;
+    // Shows the video's present picture over `Picture1`.
+    virtual void FilmBild() = 0;
+    // Puts back what `Picture1` showed before the video.
+    virtual void FilmEnde() = 0;
     virtual void Abspann() = 0;
     // True when a saved game has been loaded and its room has been entered.
     virtual bool SpielLaden() = 0;

@@ -1,0 +1,104 @@
+#include "engine/interpreter/interpreter.h"
+
+#include <cassert>
+#include <cstdlib>
+#include <iostream>
+
+#include "engine/state/felder.h"
+#include "platform/error.h"
+
+namespace zentrox {
+
+namespace {
+
+// Counts how many runs stand inside each other.
+class Ebene {
+public:
+    explicit Ebene(int& tiefe) : tiefe_(tiefe) { ++tiefe_; }
+    ~Ebene() { --tiefe_; }
+    Ebene(const Ebene&) = delete;
+    Ebene& operator=(const Ebene&) = delete;
+
+private:
+    int& tiefe_;
+};
+
+}  // namespace
+
+Interpreter::Interpreter(Platform& platform, Zustand& zustand, Medien& medien, Raumfenster& raum,
+                         const Spieltabelle& spiele)
+    : platform_(platform),
+      z_(zustand),
+      medien_(medien),
+      raum_(raum),
+      spiele_(spiele) {}
+
+void Interpreter::SkriptAusführen(const Skript& skript, int objektIndex, Text parameter) {
+    assert(objektIndex >= -1 && objektIndex <= z_.AktuellerRaum.LetztesObjekt);
+    if (objektIndex != -1 && !z_.AktuellerRaum.Objekte[static_cast<std::size_t>(objektIndex)].Aktiv) return;
+    prüfeTiefe();
+    const Ebene ebene(tiefe_);
+    const Queue::Reason grund(platform_.queue, laufName(skript, objektIndex));
+
+    raum_.CountDownAn(false);
+    z_.SkriptLäuft = true;
+    const std::int32_t zeigerLetzter = z_.ZeigerLetzter;
+    eröffnen();
+    Lauf lauf{skript, std::move(parameter)};
+    durchlaufen(lauf);
+    if (lauf.schlussSchritte) schließen(zeigerLetzter);
+}
+
+void Interpreter::eröffnen() {
+    z_.ZeigerBilder[0] = z_.PfadCursors + "taste1.ico";
+    z_.ZeigerBilder[1] = z_.PfadCursors + "taste2.ico";
+    raum_.ZeigerLaden(z_.ZeigerBilder[0]);
+    z_.ZeigerLetzter = 1;
+    if (z_.LeisteBewegt) platform_.queue.waitUntil("Leiste", [this] { return !z_.LeisteBewegt; });
+    z_.LeisteGewünscht = false;
+    raum_.VersteckeLeiste();
+}
+
+void Interpreter::durchlaufen(Lauf& lauf) {
+    for (; !lauf.schluss && !lauf.amEnde(); ++lauf.zeiger) {
+#ifndef NDEBUG
+        verfolgen(lauf);
+#endif
+        if (const Opcode* const opcode = findOpcode(lauf.befehl())) (this->*opcode->run)(lauf);
+    }
+}
+
+void Interpreter::schließen(std::int32_t zeigerLetzter) {
+    raum_.CountDownAn(true);
+    raum_.ZeigerStandard();
+    z_.SkriptLäuft = false;
+    z_.ZeigerLetzter = zeigerLetzter;
+    z_.GezogenerGegenstand = -1;
+    raum_.ZeigerAuffrischen();
+}
+
+void Interpreter::prüfeTiefe() const {
+    if (tiefe_ < TiefsterLauf) return;
+    throw DataError("Raum " + z_.RaumDatei + ": mehr als " + std::to_string(TiefsterLauf) +
+                    Text(" Skripte stehen ineinander; führen hier Räume ohne Ende zueinander?"_t));
+}
+
+// For the reasons of a wait and for the trace.
+Text Interpreter::laufName(const Skript& skript, int objektIndex) const {
+    if (&skript == &z_.AktuellerRaum.Startskript) return "Lade " + z_.RaumDatei;
+    if (&skript == &z_.AktuellerRaum.CountDownSkript) return "CountDown";
+    if (objektIndex == -1) return "Skript";
+    return "Skript " + z_.AktuellerRaum.Objekte[static_cast<std::size_t>(objektIndex)].Name;
+}
+
+// Builds for the debugger only: each instruction, on standard error.
+void Interpreter::verfolgen(const Lauf& lauf) const {
+    static const bool an = std::getenv("ZENTROX_TRACE") != nullptr;
+    if (!an) return;
+    const Opcode* const opcode = findOpcode(lauf.befehl());
+    std::cerr << toUtf8(z_.RaumDatei) << ": " << toUtf8(platform_.queue.reasons()) << ": " << lauf.zeiger << " "
+              << (opcode != nullptr ? toUtf8(opcode->name) : std::to_string(lauf.befehl())) << " \""
+              << toUtf8(lauf.argument()) << "\"\n";
+}
+
+}  // namespace zentrox

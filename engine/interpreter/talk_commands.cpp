@@ -1,0 +1,122 @@
+// What a script says and plays: texts, choices, voice, music, video.
+#include "engine/interpreter/interpreter.h"
+#include "engine/state/felder.h"
+#include "media/medien.h"
+#include "platform/error.h"
+#include "platform/keys.h"
+
+namespace zentrox {
+
+namespace {
+
+constexpr TextView zeilenende = "\r\n";
+
+// The files of the refusal remarks: "Error10.mp3" to "Error18.mp3".
+constexpr int ersterFehlerton = 10;
+constexpr int Fehlertöne = 9;
+
+Text mitZeilenenden(TextView text) {
+    Text ergebnis;
+    for (const char c : text) {
+        if (c == '#')
+            ergebnis += zeilenende;
+        else
+            ergebnis += c;
+    }
+    return ergebnis;
+}
+
+// A voice may be there in another format than the script says.
+Text stimmDatei(const Files& files, const Text& pfad) {
+    if (files.exists(pfad)) return pfad;
+    const Text stamm = pfad.substr(0, pfad.size() - std::min<std::size_t>(pfad.size(), 3));
+    return stamm + (files.exists(stamm + "mp3") ? "mp3" : "wav");
+}
+
+}  // namespace
+
+void Interpreter::Ton(Lauf& lauf) {
+    medien_.StimmeFrei();
+    medien_.TonStart(stimmDatei(platform_.files, z_.PfadSounds + Dateiname(lauf.argument())));
+}
+
+void Interpreter::TextZeigen(Lauf& lauf) {
+    const Text text(lauf.argument());
+    raum_.ZeigText(text);
+    z_.TastenCode = 0;
+    z_.MausTaste = 0;
+    platform_.queue.waitUntil("Text", [this] { return z_.TastenCode != 0 || z_.MausTaste != 0; });
+    raum_.WegText(text);
+    medien_.StimmeFrei();
+}
+
+void Interpreter::Film(Lauf& lauf) {
+    medien_.VideoStart(z_.PfadMovies + Dateiname(lauf.argument()), false);
+    while (z_.TastenCode != key::escape) {
+        platform_.queue.nextFrame("Film");
+        raum_.FilmBild();
+        if (medien_.VideoPosition() >= medien_.VideoLänge()) break;
+    }
+    medien_.VideoStop();
+    raum_.FilmEnde();
+}
+
+void Interpreter::Fehlerton(Lauf& /*lauf*/) {
+    medien_.StimmeFrei();
+    const int nummer = ersterFehlerton + platform_.random.below(Fehlertöne);
+    medien_.TonStart(z_.PfadSounds + "Error" + std::to_string(nummer) + ".mp3");
+}
+
+void Interpreter::Musik(Lauf& lauf) {
+    const Text datei = Dateiname(Trim(Feld(lauf.argument(), ",", 1)));
+    if (datei.empty())
+        medien_.SongStop();
+    else
+        medien_.SongStart(z_.PfadMusics + datei);
+}
+
+void Interpreter::Auswahl(Lauf& lauf) {
+    const Text text = baueAuswahl(lauf);
+    z_.AuswahlErgebnis = -2;
+    raum_.ZeigText(text);
+    raum_.ZeigerStandard();
+    z_.ZeigerLetzter = -1;
+    z_.AuswahlErgebnis = -1;
+    raum_.ZeigerAuffrischen();
+    z_.MausTaste = 0;
+    platform_.queue.waitUntil("Auswahl", [this] { return z_.AuswahlErgebnis != -1; });
+    raum_.ZeigerEigen();
+    z_.ZeigerLetzter = 1;
+    raum_.WegText(text);
+    medien_.StimmeFrei();
+    zumFall(lauf, z_.AuswahlErgebnis);
+}
+
+// Fills the tables of the choice and gives the whole text that is shown. Its edges are measured on the text as it
+// grows: each is the lower edge of what stands so far.
+Text Interpreter::baueAuswahl(const Lauf& lauf) {
+    const TextView argument = lauf.argument();
+    const std::int32_t n = std::max(Runden(Val(Feld(argument, "|", 1))), 0);
+    if (n > MeisteOptionen)
+        throw DataError("Raum " + z_.RaumDatei + ", Befehl " + std::to_string(lauf.zeiger) +
+                        Text(": \"Auswahl\" mit "_t) + std::to_string(n) + Text(" Möglichkeiten; höchstens "_t) +
+                        std::to_string(MeisteOptionen) + Text(" sind möglich"_t));
+    z_.AuswahlTexte.assign(static_cast<std::size_t>(n) + 1, {});
+    z_.AuswahlKanten.assign(static_cast<std::size_t>(n) + 1, 0);
+
+    Text text = mitZeilenenden(Feld(argument, "|", 2)) + Text(zeilenende) + Text(zeilenende);
+    z_.AuswahlKanten[0] = raum_.TextHöhe(text);
+    text += zeilenende;
+    z_.AuswahlTexte[0] = text;
+    for (std::int32_t i = 1; i <= n; ++i) {
+        const auto option = static_cast<std::size_t>(i);
+        z_.AuswahlTexte[option] = mitZeilenenden(Trim(Feld(argument, "|", i + 2)));
+        text += z_.AuswahlTexte[option];
+        z_.AuswahlHöhe = raum_.TextHöhe(text);
+        z_.AuswahlKanten[option] = z_.AuswahlHöhe;
+        if (i != n) text += zeilenende;
+    }
+    return text;
+}
+
+}  // namespace zentrox
