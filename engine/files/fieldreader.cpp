@@ -164,8 +164,8 @@ void FieldReader::failFound(TextView expected) const {
 }
 
 void FieldReader::fail(TextView why) const {
-    throw DataError(Text(what_) + ": Feld " + std::to_string(finished_ + 1) + " (Zeile " + std::to_string(line()) +
-                    "): " + Text(why));
+    const Text place = ": Feld " + std::to_string(finished_ + 1) + " (Zeile " + std::to_string(line()) + "): ";
+    throw FieldError(Text(what_) + place + Text(why), Text(why), offset());
 }
 
 }  // namespace zentrox

@@ -6,11 +6,28 @@
 #include <cstdint>
 
 #include "engine/state/zustand.h"
+#include "platform/error.h"
 #include "platform/text.h"
 
 namespace zentrox {
 
-// Every call reads the next field. It throws `DataError` where the file has ended or holds something else; the
+// What is wrong in a file of fields, and the byte at which the bad field begins.
+class FieldError : public DataError {
+public:
+    FieldError(const Text& message, const Text& why, std::size_t offset)
+        : DataError(message),
+          why_(why),
+          offset_(offset) {}
+    // The message without the file and the place in it.
+    const Text& why() const { return why_; }
+    std::size_t offset() const { return offset_; }
+
+private:
+    Text why_;
+    std::size_t offset_;
+};
+
+// Every call reads the next field. It throws `FieldError` where the file has ended or holds something else; the
 // message names the file, the number of the field, its line, what was expected and what was found.
 class FieldReader {
 public:
@@ -28,6 +45,9 @@ public:
     std::int32_t readLast(std::size_t fieldsEach);
     // 3072 numbers, column by column; 255 sets a cell. `mask` must be clear.
     void readMask(Maske& mask);
+
+    // The byte at which the field begins that was read last; of a mask it is not told.
+    std::size_t offset() const { return static_cast<std::size_t>(field_ - begin_); }
 
 private:
     std::size_t left() const { return static_cast<std::size_t>(end_ - at_); }

@@ -12,39 +12,45 @@ constexpr std::size_t FelderJeObjekt = 9 + Maskenspalten * Maskenzeilen;  // wit
 constexpr std::int32_t Fehlerton = 16;
 
 // The lists grow as they are read: the number in front of them is only a claim.
-Skript readSkript(FieldReader& in) {
+Skript readSkript(FieldReader& in, SkriptOrte* orte) {
     Skript skript;
     skript.Letzter = in.readLast(FelderJeBefehl);
+    if (orte) orte->anfang = in.offset();
     for (std::int32_t i = 0; i <= skript.Letzter; ++i) {
         skript.Befehl.push_back(in.readNumber());
+        if (orte) orte->befehle.push_back(in.offset());
         skript.Argument.push_back(in.readText());
     }
     return skript;
 }
 
-void readObjekt(FieldReader& in, RaumObjekt& objekt) {
+void readObjekt(FieldReader& in, RaumObjekt& objekt, ObjektOrte* orte) {
     for (std::size_t i = 0; i < objekt.Aktion.size(); ++i) {
         objekt.HatSkript[i] = in.readTruth();
-        objekt.Aktion[i] = readSkript(in);
+        objekt.Aktion[i] = readSkript(in, orte ? &orte->aktion[i] : nullptr);
     }
     objekt.Zeiger = in.readText();
+    if (orte) orte->zeiger = in.offset();
     objekt.Aktiv = in.readTruth();
     objekt.Name = in.readText();
+    if (orte) orte->name = in.offset();
     in.readMask(objekt.Maske);
 }
 
 }  // namespace
 
-Raum parseRoom(TextView bytes, TextView name) {
+Raum parseRoom(TextView bytes, TextView name, RaumOrte* orte) {
     const Text what = "Raumdatei " + Text(name);
     FieldReader in(bytes, what);
     Raum raum;
     raum.Bild = Trim(in.readText().substr(0, LängstesBild));
-    raum.Startskript = readSkript(in);
+    raum.Startskript = readSkript(in, orte ? &orte->startskript : nullptr);
     raum.LetztesObjekt = in.readLast(FelderJeObjekt);
     raum.Objekte.resize(static_cast<std::size_t>(raum.LetztesObjekt + 1));
-    for (RaumObjekt& objekt : raum.Objekte) readObjekt(in, objekt);
-    raum.CountDownSkript = readSkript(in);
+    if (orte) orte->objekte.resize(raum.Objekte.size());
+    for (std::size_t i = 0; i < raum.Objekte.size(); ++i)
+        readObjekt(in, raum.Objekte[i], orte ? &orte->objekte[i] : nullptr);
+    raum.CountDownSkript = readSkript(in, orte ? &orte->countDownSkript : nullptr);
     return raum;
 }
 
@@ -52,10 +58,10 @@ Raum readRoom(const Files& files, TextView path) {
     return parseRoom(files.read(path), files.display(path));
 }
 
-Skript parseSkript(TextView bytes, TextView name) {
+Skript parseSkript(TextView bytes, TextView name, SkriptOrte* orte) {
     const Text what = "Skriptdatei " + Text(name);
     FieldReader in(bytes, what);
-    return readSkript(in);
+    return readSkript(in, orte);
 }
 
 Skript LadeSkript(const Files& files, TextView path) {
