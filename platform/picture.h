@@ -16,14 +16,15 @@ struct Icon {
     Text file;  // the game path that it came from
 };
 
-// Reads a JPEG, bitmap or PNG file, told by its content. Throws `DataError` where it is missing or damaged.
+// Reads a JPEG, bitmap or PNG file, told by its content. Throws `DataError` where it is missing, cut or damaged, or
+// claims to be larger than its bytes can be.
 Bitmap loadPicture(const Files& files, TextView path);
 
-// Reads an icon file and takes the picture in it whose side is nearest to `side` pixels, the deeper one of two.
-// Throws `DataError` where it is missing or damaged.
+// Reads an icon file (1, 4, 8, 24 or 32 bits a pixel, or PNG) and takes the picture in it whose width is nearest to
+// `side` pixels, the one of more colours where two are. Throws `DataError` where it is missing or damaged.
 Icon loadIcon(const Files& files, TextView path, int side = 32);
 
-// Writes a PNG of `area` of a bitmap; false if that fails. `path` is a path of the system.
+// Writes a bitmap as a PNG; false if that fails. `path` is a path of the system.
 bool savePng(const Bitmap& bitmap, const std::string& path);
 
 }  // namespace zentrox
