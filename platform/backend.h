@@ -24,6 +24,7 @@ struct Input {
     Button button = Button::none;   // press, release; of a move the one held
     int clicks = 1;                 // press
     int code = 0;                   // keyDown, keyUp: virtual code; wheel: lines, up positive
+    bool repeat = false;            // keyDown: the keyboard repeats a held key
     bool shift = false;             // keyDown
     bool control = false;           // keyDown
     char character = 0;             // keyPress

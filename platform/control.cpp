@@ -56,7 +56,9 @@ void Control::setToolTip(TextView text) {
     if (Window* const home = window()) home->showToolTip(false);
 }
 
-bool Control::shows(TextView part) const { return shownText().find(part) != Text::npos; }
+bool Control::shows(TextView part) const {
+    return shownText().find(part) != Text::npos;
+}
 
 Window* Control::window() const {
     const Control* top = this;

@@ -38,9 +38,9 @@ struct Rect {
     int w = 0;
     int h = 0;
 
-    Rect() = default;
-    Rect(int left, int top, int width, int height) : x(left), y(top), w(width), h(height) {}
-    Rect(Point at, Size size) : x(at.x), y(at.y), w(size.w), h(size.h) {}
+    constexpr Rect() = default;
+    constexpr Rect(int left, int top, int width, int height) : x(left), y(top), w(width), h(height) {}
+    constexpr Rect(Point at, Size size) : x(at.x), y(at.y), w(size.w), h(size.h) {}
 
     int right() const { return held(std::int64_t{x} + w); }
     int bottom() const { return held(std::int64_t{y} + h); }

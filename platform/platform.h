@@ -22,6 +22,8 @@ public:
     Files files;
     Queue queue;
     Random random;
+    // Where the CD is looked for, in this order: paths of the system.
+    std::vector<std::filesystem::path> roots;
 };
 
 }  // namespace zentrox

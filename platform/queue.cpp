@@ -13,12 +13,17 @@ constexpr Milliseconds toolTipRest = 500;  // how long the pointer rests before 
 }  // namespace
 
 Timer::Timer(Queue& queue, Milliseconds period, bool enabled, std::function<void()> onTick)
-    : queue_(queue), period_(period), enabled_(enabled), onTick_(std::move(onTick)) {
+    : queue_(queue),
+      period_(period),
+      enabled_(enabled),
+      onTick_(std::move(onTick)) {
     queue_.timers_.push_back(this);
     begin();
 }
 
-Timer::~Timer() { std::erase(queue_.timers_, this); }
+Timer::~Timer() {
+    std::erase(queue_.timers_, this);
+}
 
 void Timer::setEnabled(bool on) {
     if (on == enabled_) return;
@@ -35,8 +40,12 @@ void Timer::begin() {
     if (ticking()) due_ = queue_.clock() + step();
 }
 
-Queue::Reason::Reason(Queue& queue, TextView why) : queue_(queue) { queue_.reasons_.emplace_back(why); }
-Queue::Reason::~Reason() { queue_.reasons_.pop_back(); }
+Queue::Reason::Reason(Queue& queue, TextView why) : queue_(queue) {
+    queue_.reasons_.emplace_back(why);
+}
+Queue::Reason::~Reason() {
+    queue_.reasons_.pop_back();
+}
 
 Text Queue::reasons() const {
     Text all;
@@ -44,7 +53,9 @@ Text Queue::reasons() const {
     return all;
 }
 
-void Queue::endProgram(int status) { throw ProgramEnd{status}; }
+void Queue::endProgram(int status) {
+    throw ProgramEnd{status};
+}
 
 void Queue::yield(TextView why) {
     const Reason reason(*this, why);
@@ -86,7 +97,8 @@ void Queue::nextFrame(TextView why) {
 }
 
 void Queue::turn() {
-    while (serveInput()) {}
+    while (serveInput()) {
+    }
     serveTimers();
 }
 
@@ -114,7 +126,7 @@ void Queue::deliver(const Input& input) {
         case Kind::press: return window->deliverDown(input.at, input.button, input.clicks);
         case Kind::release: return window->deliverUp(input.at, input.button);
         case Kind::wheel: return window->deliverWheel(input.at, input.code);
-        case Kind::keyDown: return window->deliverKeyDown(input.code, input.shift, input.control);
+        case Kind::keyDown: return window->deliverKeyDown(input.code, input.shift, input.control, input.repeat);
         case Kind::keyUp: return window->deliverKeyUp(input.code);
         case Kind::keyPress: return window->deliverKeyPress(input.character);
         case Kind::resize: return window->resizeClient(input.size);
@@ -122,7 +134,8 @@ void Queue::deliver(const Input& input) {
     }
 }
 
-// Each timer that is due when this begins fires once, the earliest deadline first; a handler may make and end timers.
+// Each timer that is due when this begins fires once, the earliest deadline first; a handler may make and end
+// timers.
 void Queue::serveTimers() {
     serveToolTip();
     const Milliseconds now = clock();
@@ -153,7 +166,9 @@ std::optional<Milliseconds> Queue::nextTimer() const {
     return next;
 }
 
-void Queue::present() { backend_.present(windows_); }
+void Queue::present() {
+    backend_.present(windows_);
+}
 
 void Queue::sleepUntil(std::optional<Milliseconds> deadline) {
     present();

@@ -17,7 +17,11 @@ constexpr int toolTipDrop = 20;  // pixels below the pointer's hot spot
 }  // namespace
 
 Window::Window(Platform& platform, TextView name, TextView title, Size client, Frame frame)
-    : platform_(platform), name_(name), title_(title), frame_(frame), root_(nullptr, {{0, 0}, client}, face) {
+    : platform_(platform),
+      name_(name),
+      title_(title),
+      frame_(frame),
+      root_(nullptr, {{0, 0}, client}, face) {
     root_.window_ = this;
     picture_ = Bitmap(client, face);
     stale_ = picture_.bounds();
@@ -108,11 +112,17 @@ void collectFocusable(Control& control, std::vector<Control*>& into) {
 
 }  // namespace
 
-Control& Window::controlAt(Point p) { return *topmostAt(root_, p); }
+Control& Window::controlAt(Point p) {
+    return *topmostAt(root_, p);
+}
 
-Control* Window::find(TextView name) { return name.empty() ? nullptr : named(root_, name); }
+Control* Window::find(TextView name) {
+    return name.empty() ? nullptr : named(root_, name);
+}
 
-bool Window::shows(TextView part) const { return showsIn(root_, part); }
+bool Window::shows(TextView part) const {
+    return showsIn(root_, part);
+}
 
 void Window::setFocus(Control* control) {
     if (control == focus_) return;
@@ -219,15 +229,17 @@ void Window::deliverWheel(Point at, int lines) {
     if (hit->enabled()) hit->wheel(lines);
 }
 
-void Window::deliverKeyDown(int code, bool shift, bool control) {
+void Window::deliverKeyDown(int code, bool shift, bool control, bool repeat) {
     Control* const target = focus_;
-    onKeyDown(code);
+    if (!repeat) onKeyDown(code);
     if (!open_ || target == nullptr || target != focus_ || !target->enabled()) return;
     if (target->keyDown(code, shift, control)) return;
     if (code == key::tab && !control) focusNext(shift);
 }
 
-void Window::deliverKeyUp(int code) { onKeyUp(code); }
+void Window::deliverKeyUp(int code) {
+    onKeyUp(code);
+}
 
 void Window::deliverKeyPress(char c) {
     Control* const target = focus_;

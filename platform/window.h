@@ -86,7 +86,8 @@ public:
     void deliverMove(Point at, Button held);
     void deliverUp(Point at, Button button);
     void deliverWheel(Point at, int lines);
-    void deliverKeyDown(int code, bool shift, bool control);
+    // A repeat of a held key reaches the control with the focus only.
+    void deliverKeyDown(int code, bool shift, bool control, bool repeat = false);
     void deliverKeyUp(int code);
     void deliverKeyPress(char c);
 

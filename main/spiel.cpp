@@ -1,0 +1,42 @@
+#include "main/spiel.h"
+
+#include "media/medien.h"
+#include "platform/error.h"
+#include "room/form1.h"
+
+namespace zentrox {
+
+namespace {
+
+constexpr int datenfehler = 1;
+
+// The games of the story by their names. A game that is not there yet counts as lost.
+Spieltabelle spiele() { return {}; }
+
+int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile) {
+    try {
+        Medien medien(platform, zustand);
+        const Spieltabelle tabelle = spiele();
+        Form1 form(platform, zustand, medien, tabelle, kommandozeile);
+        form.Zeigen();
+    } catch (const ProgramEnd& end) {
+        return end.status;
+    }
+}
+
+}  // namespace
+
+int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile) {
+    try {
+        return fenster(platform, zustand, kommandozeile);
+    } catch (const DataError& error) {
+        try {
+            showMessageBox(platform, {"Zentrox", error.message(), MessageBox::Icon::critical});
+        } catch (const ProgramEnd&) {
+            // The box was cut off with the process.
+        }
+        return datenfehler;
+    }
+}
+
+}  // namespace zentrox

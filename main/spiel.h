@@ -1,0 +1,13 @@
+// The whole program between its start and its end, the same for the desktop and the probe.
+#pragma once
+
+#include "engine/state/zustand.h"
+#include "platform/platform.h"
+
+namespace zentrox {
+
+// Opens the first window and plays until the process ends; gives its exit status. Data that can't be used end it with
+// a message box and the status 1. `kommandozeile` is the game's command line, a room file name or empty.
+int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile);
+
+}  // namespace zentrox

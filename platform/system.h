@@ -1,0 +1,19 @@
+// The few things about the running process that both programs need before anything else.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace zentrox {
+
+// The file of the running program.
+std::filesystem::path programFile();
+// The directory that it lies in.
+std::filesystem::path programDirectory();
+
+// Starts a program without a shell and without waiting for it; a name without a slash is sought in the search path.
+// False if it can't be started.
+bool startProcess(const std::vector<std::string>& command);
+
+}  // namespace zentrox

@@ -1,0 +1,126 @@
+// zentrox-probe: the whole game with no screen and no sound, played by a walk.
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "main/spiel.h"
+#include "platform/error.h"
+#include "platform/probe/player.h"
+#include "platform/probe/recorder.h"
+#include "platform/system.h"
+#include "tools/probe/story.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace zentrox;
+
+constexpr int failed = 1;
+constexpr int unreadable = 2;
+
+struct Options {
+    std::string directory;
+    std::vector<std::string> roots;
+    std::string arguments;
+    std::uint64_t seed = 1;
+    std::string pictures = ".";
+    bool quiet = false;
+    std::string walk = "-";
+};
+
+std::string readWalk(const std::string& name) {
+    if (name == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
+    std::ifstream file(name, std::ios::binary);
+    if (!file || fs::is_directory(name)) throw probe::WalkError(name + ":0: expected a walk, found no readable file");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// One life of the program, from its first window to its end; gives its exit status.
+int live(const Options& options, probe::ProbeBackend& backend, probe::Player& player, const Text& arguments) {
+    backend.beginAnew();
+    const auto fonts = makeFonts();
+    Recorder recorder(
+        options.directory, [&] { return backend.clock(); },
+        [&](Milliseconds at, const Text& line) { backend.trace(at, toUtf8(line)); });
+    backend.setClockMoved([&] { recorder.settle(); });
+    Platform platform(backend, *fonts, recorder, options.directory);
+    platform.roots.assign(options.roots.begin(), options.roots.end());
+    Zustand zustand;
+    probe::Story story(platform, zustand, recorder);
+    player.attach(&platform, &story);
+    const int status = Spielen(platform, zustand, arguments);
+    player.attach(nullptr, nullptr);
+    backend.setClockMoved(nullptr);
+    return status;
+}
+
+int play(const Options& options) {
+    probe::Walk walk = probe::parseWalk(options.walk, readWalk(options.walk));
+    fs::create_directories(options.pictures);
+    // The game's paths are relative to the program's directory; the walk's pictures are not.
+    const fs::path pictures = fs::absolute(options.pictures);
+    probe::ProbeBackend backend(options.seed, options.quiet ? nullptr : &std::cout);
+    probe::Player player(std::move(walk), backend, pictures, std::cout);
+    backend.setPerson(&player);
+    Text arguments = fromUtf8(options.arguments);
+    try {
+        int status = live(options, backend, player, arguments);
+        while (backend.restartWanted() && !player.over()) status = live(options, backend, player, {});
+        backend.trace("end");
+        if (status != 0 && backend.lastBox() != nullptr && !backend.boxExpected)
+            throw probe::WalkFailure{player.place() + ": expected the story to go on, found the failure \"" +
+                                     probe::onOneLine(backend.lastBox()->text) + '"'};
+        player.finish();
+    } catch (const probe::WalkFailure& failure) {
+        std::cout.flush();
+        std::cerr << failure.message << '\n';
+        return failed;
+    }
+    return 0;
+}
+
+int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
+    app.add_option("--dir", options.directory, "The program's directory: where the data directories and saves lie");
+    app.add_option("--root", options.roots, "A root to search for the CD's marker file; may be repeated")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    app.add_option("--args", options.arguments, "The game's command line, a room file name");
+    app.add_option("--seed", options.seed, "Seed of the random numbers");
+    app.add_option("--out", options.pictures, "Where shot writes");
+    app.add_flag("--quiet", options.quiet, "No trace, only what say prints and what fails");
+    app.add_option("WALK", options.walk, "A file, or - for standard input");
+    app.set_version_flag("--version", "zentrox-probe " ZENTROX_VERSION);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& shown) {
+        app.exit(shown);
+        return -1;
+    } catch (const CLI::ParseError& error) {
+        app.exit(error);
+        return unreadable;
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    CLI::App app{"Plays a walk through a story, without screen and sound."};
+    Options options;
+    options.directory = zentrox::programDirectory().string();
+    if (const int result = readOptions(app, options, argc, argv)) return result < 0 ? 0 : result;
+    if (!fs::is_directory(options.directory)) {
+        std::cerr << options.directory << ": expected a directory, found none\n";
+        return unreadable;
+    }
+    try {
+        return play(options);
+    } catch (const probe::WalkError& error) {
+        std::cerr << error.what() << '\n';
+        return unreadable;
+    } catch (const fs::filesystem_error& error) {
+        std::cerr << error.what() << '\n';
+        return unreadable;
+    }
+}

@@ -1,0 +1,42 @@
+// What a walk knows of the story: flags, items, the places where things of a room take a click.
+#pragma once
+
+#include "engine/state/zustand.h"
+#include "platform/probe/player.h"
+#include "platform/probe/recorder.h"
+
+namespace zentrox::probe {
+
+class Story : public Game {
+public:
+    Story(Platform& platform, Zustand& zustand, const Recorder& recorder)
+        : platform_(platform), z_(zustand), recorder_(recorder) {}
+
+    bool idle() override;
+    bool flag(TextView name) override;
+    bool carries(TextView item) override;
+    bool inRoom(TextView file) override;
+    int evil() override { return z_.BösePunkte; }
+    bool choiceOpen() override { return z_.SkriptLäuft && z_.AuswahlErgebnis == -1; }
+    bool barOpen() override { return z_.LeisteOffen; }
+    bool barSlides() override { return z_.LeisteBewegt; }
+    std::optional<Point> object(TextView name) override;
+    std::optional<Point> item(TextView name) override;
+    std::optional<Point> option(int number) override;
+    std::optional<Point> aboveBar() override;
+    std::vector<Text> state() override;
+
+private:
+    // The room picture's place in the active window; nothing if that is not the room window.
+    std::optional<Rect> picture() const;
+    std::optional<Point> inPicture(Point p) const;
+    // The row of the picture above which nothing is covered by the bar.
+    int freeHeight() const;
+    int lowestAt(int column, int row) const;
+
+    Platform& platform_;
+    Zustand& z_;
+    const Recorder& recorder_;
+};
+
+}  // namespace zentrox::probe
