@@ -69,6 +69,7 @@ Text BassFehlerText(int code) {
 }
 
 Tonstart Medien::Start() {
+    device_.useSoundFontsIn(z_.PfadMusics);
     if (!device_.init()) return Tonstart::keinSystem;
     if (!device_.start()) return Tonstart::keineAusgabe;
     return Tonstart::gelungen;

@@ -15,6 +15,9 @@ class SoundDevice {
 public:
     virtual ~SoundDevice() = default;
 
+    // A directory to look into for a sound font before those of the system; to be told before the first song.
+    virtual void useSoundFontsIn(TextView /*directory*/) {}
+
     // Finds the output, then opens it. False, with `errorCode` set, if there is none, or it is not to be had; then
     // everything but videos is silence.
     virtual bool init() = 0;

@@ -1,0 +1,56 @@
+// One stream of a media file, opened and decoded frame by frame.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+}
+
+namespace zentrox::ffmpeg {
+
+struct Closer {
+    void operator()(AVFormatContext* format) const { avformat_close_input(&format); }
+    void operator()(AVCodecContext* codec) const { avcodec_free_context(&codec); }
+    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
+    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
+};
+
+template <class T>
+using Owned = std::unique_ptr<T, Closer>;
+
+class Input {
+public:
+    // Null if the file has no such stream or nothing that decodes it is there.
+    static std::unique_ptr<Input> open(const std::filesystem::path& file, AVMediaType type);
+
+    // The next frame; false at the end. What is broken within the file is left out.
+    bool next(AVFrame& frame);
+    // Milliseconds from the start of the file, of a time stamp of this stream.
+    double milliseconds(std::int64_t stamp) const;
+    // Milliseconds that a frame lasts; 0 if the file does not say.
+    double duration(const AVFrame& frame) const;
+    // Milliseconds of the whole file by its header; 0 if that does not say.
+    std::int64_t headerLength() const;
+    // Reads all that is left without decoding it, and tells when its last packet ends. Nothing can be read after
+    // it.
+    std::int64_t countedLength();
+
+    const AVStream& stream() const { return *format_->streams[stream_]; }
+
+private:
+    Input() = default;
+    bool openCodec(const AVCodec& codec);
+    bool feed();
+
+    Owned<AVFormatContext> format_;
+    Owned<AVCodecContext> codec_;
+    Owned<AVPacket> packet_;
+    int stream_ = -1;
+    bool drained_ = false;
+};
+
+}  // namespace zentrox::ffmpeg
