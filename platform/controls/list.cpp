@@ -145,7 +145,7 @@ void List::paint(Bitmap& onto, Point at) {
     if (clip.empty()) return;
     const Font& font = look::fontFor(*this, {});
     const auto first = static_cast<std::size_t>(bar_.position());
-    const std::size_t end = std::min(items_.size(), first + static_cast<std::size_t>(visibleRows()) + 1);
+    const std::size_t end = std::min(items_.size(), first + static_cast<std::size_t>(visibleRows()));
     for (std::size_t i = first; i < end; ++i) {
         const Rect row{at.x + look::edge, at.y + look::edge + static_cast<int>(i - first) * rowHeight(), room,
                        rowHeight()};

@@ -26,7 +26,9 @@ public:
     int sleeps = 0;
 
     // --- the script: each of these is done once the one before is, in a turn of its own
-    void input(const Input& input) { script_.push_back({now_(), [input] { return std::optional(input); }}); }
+    void input(const Input& input) {
+        script_.push_back({now_(), [input] { return std::optional(input); }});
+    }
     // Runs a piece of the test, for a look at what is on the screen.
     void then(std::function<void()> look) {
         script_.push_back({now_(), [look = std::move(look)]() -> std::optional<Input> {
@@ -37,7 +39,9 @@ public:
     // Lets time pass before what follows.
     void wait(Milliseconds ms) { scripted_ = now_() + ms; }
 
-    void move(Point at, Button held = Button::none) { input({.kind = Input::Kind::move, .at = at, .button = held}); }
+    void move(Point at, Button held = Button::none) {
+        input({.kind = Input::Kind::move, .at = at, .button = held});
+    }
     void press(Point at, int clicks = 1, Button button = Button::left) {
         input({.kind = Input::Kind::press, .at = at, .button = button, .clicks = clicks});
     }

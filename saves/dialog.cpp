@@ -1,0 +1,77 @@
+#include "saves/dialog.h"
+
+#include <algorithm>
+
+#include "platform/keys.h"
+#include "platform/platform.h"
+
+namespace zentrox {
+
+namespace {
+
+constexpr TextView Endung = ".xtc";
+constexpr TextView Verboten = "*?/\\|<>";
+constexpr Size Fläche{396, 269};  // pixels
+
+bool istSpielstand(TextView name) {
+    return name.size() >= Endung.size() && equalIgnoringCase(name.substr(name.size() - Endung.size()), Endung);
+}
+
+// A name that a file can have.
+Text zulässig(Text name) {
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return Verboten.find(c) != TextView::npos; }, '_');
+    if (!istSpielstand(name)) name += Endung;
+    return name;
+}
+
+Text titel(const Zustand& z) {
+    const Text* const text = std::get_if<Text>(&z.Übergabe);
+    return text != nullptr ? *text : Text();
+}
+
+}  // namespace
+
+Text Speicherverzeichnis(const Files& files) {
+    return files.programDirectory() + "saves\\";
+}
+
+Dialog::Dialog(Platform& platform, Zustand& zustand)
+    : Window(platform, "Dialog", titel(zustand), Fläche, Frame::dialog),
+      z_(zustand),
+      File1(&root(), {0, 0, 393, 214}),
+      Text1(&root(), {0, 216, 393, 19}, zustand.LetzterSpielstand),
+      OKButton(&root(), {224, 240, 81, 25}, "OK"),
+      CancelButton(&root(), {312, 240, 81, 25}, "Abbrechen") {
+    std::vector<Text> namen = platform.files.list(Speicherverzeichnis(platform.files));
+    std::erase_if(namen, [](const Text& name) { return !istSpielstand(name); });
+    File1.setItems(std::move(namen));
+    File1.onSelect = [this] { File1_Click(); };
+    File1.onDoubleClick = [this] { OKButton_Click(); };
+    OKButton.onClick = [this] { OKButton_Click(); };
+    OKButton.setDefault(true);
+    CancelButton.onClick = [this] { close(); };
+    z_.Übergabe = Text();
+}
+
+void Dialog::onOpen() {
+    setFocus(&Text1);
+    Text1.selectAll();
+}
+
+void Dialog::onKeyDown(int code) {
+    if (code == key::escape) return close();
+    if (code == key::enter && focus() != &CancelButton) OKButton_Click();
+}
+
+void Dialog::File1_Click() {
+    Text1.setText(File1.selectedText());
+}
+
+void Dialog::OKButton_Click() {
+    z_.LetzterSpielstand = zulässig(Text1.text());
+    z_.Übergabe = Speicherverzeichnis(platform().files) + z_.LetzterSpielstand;
+    close();
+}
+
+}  // namespace zentrox

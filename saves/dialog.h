@@ -1,0 +1,35 @@
+// The small window that names a saved game. It neither reads nor writes one.
+#pragma once
+
+#include "engine/state/zustand.h"
+#include "platform/controls/button.h"
+#include "platform/controls/field.h"
+#include "platform/controls/list.h"
+#include "platform/files.h"
+#include "platform/window.h"
+
+namespace zentrox {
+
+// The directory of the saved games, with a backslash at its end.
+Text Speicherverzeichnis(const Files& files);
+
+// `Übergabe` is its title at first, and when it has closed the full path of the game, or empty if nothing was
+// chosen.
+class Dialog : public Window {
+public:
+    Dialog(Platform& platform, Zustand& zustand);
+
+private:
+    void onOpen() override;
+    void onKeyDown(int code) override;
+    void File1_Click();
+    void OKButton_Click();
+
+    Zustand& z_;
+    List File1;
+    Field Text1;
+    PushButton OKButton;
+    PushButton CancelButton;
+};
+
+}  // namespace zentrox

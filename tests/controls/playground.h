@@ -1,0 +1,31 @@
+// A window with one control in it, to be played with as a person would.
+#pragma once
+
+#include "platform/window.h"
+#include "tests/support/stage.h"
+
+namespace zentrox::test {
+
+struct Playground : Stage {
+    Window window{platform, "Probe", "", {400, 300}, Frame::fixed};
+
+    void key(int code, bool shift = false, bool control = false) {
+        window.deliverKeyDown(code, shift, control);
+        window.deliverKeyUp(code);
+    }
+    void type(TextView text) {
+        for (const char c : text) window.deliverKeyPress(c);
+    }
+    void press(Point at, int clicks = 1) {
+        window.deliverMove(at, Button::none);
+        window.deliverDown(at, Button::left, clicks);
+    }
+    void drag(Point to) { window.deliverMove(to, Button::left); }
+    void release(Point at) { window.deliverUp(at, Button::left); }
+    void click(Point at, int clicks = 1) {
+        press(at, clicks);
+        release(at);
+    }
+};
+
+}  // namespace zentrox::test

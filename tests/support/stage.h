@@ -1,0 +1,22 @@
+// A platform for tests with nothing behind it: a machine, fonts and a sound device of the tests' own, and a
+// directory.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/sound.h"
+#include "tests/support/fake_backend.h"
+#include "tests/support/fake_fonts.h"
+#include "tests/support/silent_sound.h"
+#include "tests/support/temp_directory.h"
+
+namespace zentrox::test {
+
+struct Stage {
+    TempDirectory directory;
+    FakeBackend backend;
+    FakeFonts fonts;
+    SilentSound sound;
+    Platform platform{backend, fonts, sound, directory.path()};
+};
+
+}  // namespace zentrox::test
