@@ -49,6 +49,7 @@ Window& Player::active(const std::string& wanted) {
 
 std::optional<Input> Player::next() {
     if (failed_) throw ProgramEnd{1};
+    if (!somethingShown()) return std::nullopt;
     for (;;) {
         if (steps_.empty()) {
             if (position_ == walk_.commands.size()) throw ProgramEnd{};
@@ -87,7 +88,11 @@ std::optional<Input> Player::next() {
     }
 }
 
+// Before its first window is open there is nothing that a person could do.
+bool Player::somethingShown() const { return platform_ != nullptr && platform_->queue.active() != nullptr; }
+
 bool Player::ready() {
+    if (!somethingShown()) return false;
     if (failed_ || steps_.empty()) return true;
     const Step& step = steps_.front();
     if (step.input || step.unfold) return true;
@@ -95,7 +100,7 @@ bool Player::ready() {
 }
 
 std::optional<Milliseconds> Player::due() {
-    if (steps_.empty()) return std::nullopt;
+    if (steps_.empty() || !somethingShown()) return std::nullopt;
     return steps_.front().deadline;
 }
 

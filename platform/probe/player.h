@@ -69,6 +69,7 @@ private:
         std::function<void()> unfold;
     };
 
+    bool somethingShown() const;
     void begin(const Command& command);
     void beginPointer(const Command& command);
     void beginKeys(const Command& command);
