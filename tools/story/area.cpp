@@ -1,0 +1,93 @@
+#include "tools/story/area.h"
+
+#include <algorithm>
+
+namespace zentrox::story {
+
+namespace {
+
+// How finely a cell that holds no middle is searched for a touch, and how bright a white pixel at least is.
+constexpr int samples = 10;
+constexpr unsigned whiteFrom = 3 * 128;
+
+template <typename Inside>
+bool addWhere(Maske& mask, const Inside& inside) {
+    bool any = false;
+    for (int column = 0; column < Maskenspalten; ++column) {
+        for (int row = 0; row < Maskenzeilen; ++row) {
+            if (!inside(column, row)) continue;
+            mask.set(column, row, true);
+            any = true;
+        }
+    }
+    return any;
+}
+
+Corner middleOf(int column, int row) {
+    return {(column + 0.5) * Maskenzelle, (row + 0.5) * Maskenzelle};
+}
+
+bool insidePolygon(const std::vector<Corner>& corners, Corner p) {
+    bool inside = false;
+    for (std::size_t i = 0, j = corners.size() - 1; i < corners.size(); j = i++) {
+        const Corner& a = corners[i];
+        const Corner& b = corners[j];
+        if ((a.y > p.y) != (b.y > p.y) && p.x < (b.x - a.x) * (p.y - a.y) / (b.y - a.y) + a.x) inside = !inside;
+    }
+    return inside;
+}
+
+bool touchesCell(const std::vector<Corner>& corners, int column, int row) {
+    for (int i = 0; i < samples * samples; ++i) {
+        const double step = static_cast<double>(Maskenzelle) / samples;
+        if (insidePolygon(corners, {column * Maskenzelle + (i % samples + 0.5) * step,
+                                    row * Maskenzelle + (i / samples + 0.5) * step}))
+            return true;
+    }
+    return false;
+}
+
+bool isWhite(std::uint32_t pixel) {
+    return (pixel >> 16U & 0xFFU) + (pixel >> 8U & 0xFFU) + (pixel & 0xFFU) >= whiteFrom;
+}
+
+// The share of white in the part of the picture that lies under a cell; at least one pixel is looked at.
+double whiteShare(const Bitmap& picture, int column, int row) {
+    const int left = column * picture.width() / Maskenspalten;
+    const int top = row * picture.height() / Maskenzeilen;
+    const int right = std::max(left + 1, (column + 1) * picture.width() / Maskenspalten);
+    const int bottom = std::max(top + 1, (row + 1) * picture.height() / Maskenzeilen);
+    int white = 0;
+    for (int y = top; y < bottom; ++y)
+        for (int x = left; x < right; ++x) white += isWhite(picture.row(y)[x]) ? 1 : 0;
+    return static_cast<double>(white) / ((right - left) * (bottom - top));
+}
+
+}  // namespace
+
+bool addRectangle(Maske& mask, Corner a, Corner b) {
+    if (a.x > b.x) std::swap(a.x, b.x);
+    if (a.y > b.y) std::swap(a.y, b.y);
+    const auto holdsMiddle = [&](int column, int row) {
+        const Corner p = middleOf(column, row);
+        return p.x >= a.x && p.x < b.x && p.y >= a.y && p.y < b.y;
+    };
+    const auto touches = [&](int column, int row) {
+        return a.x < (column + 1) * Maskenzelle && b.x > column * Maskenzelle && a.y < (row + 1) * Maskenzelle &&
+               b.y > row * Maskenzelle && a.x < b.x && a.y < b.y;
+    };
+    return addWhere(mask, holdsMiddle) || addWhere(mask, touches);
+}
+
+bool addPolygon(Maske& mask, const std::vector<Corner>& corners) {
+    return addWhere(mask, [&](int column, int row) { return insidePolygon(corners, middleOf(column, row)); }) ||
+           addWhere(mask, [&](int column, int row) { return touchesCell(corners, column, row); });
+}
+
+bool addPicture(Maske& mask, const Bitmap& picture) {
+    if (picture.empty()) return false;
+    return addWhere(mask, [&](int column, int row) { return whiteShare(picture, column, row) >= 0.5; }) ||
+           addWhere(mask, [&](int column, int row) { return whiteShare(picture, column, row) > 0; });
+}
+
+}  // namespace zentrox::story

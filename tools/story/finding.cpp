@@ -1,0 +1,132 @@
+#include "tools/story/finding.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <tuple>
+
+namespace zentrox::story {
+
+namespace {
+
+constexpr std::size_t longestShown = 60;
+
+const char* nameOf(Severity severity) {
+    return severity == Severity::error ? "error" : "warning";
+}
+
+std::string quotedJson(std::string_view utf8) {
+    constexpr std::string_view hex = "0123456789abcdef";
+    std::string out = "\"";
+    for (const char c : utf8) {
+        if (c == '"' || c == '\\') {
+            (out += '\\') += c;
+        } else if (static_cast<unsigned char>(c) < ' ') {
+            out.append("\\u00");
+            out += hex[static_cast<unsigned char>(c) >> 4U];
+            out += hex[static_cast<unsigned char>(c) & 0xFU];
+        } else {
+            out += c;
+        }
+    }
+    return out + '"';
+}
+
+// How many single characters have to change to get from one word to the other, without regard to case.
+std::size_t distance(TextView a, TextView b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0]++;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t changed = diagonal + (lower(a[i - 1]) != lower(b[j - 1]) ? 1 : 0);
+            diagonal = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, changed});
+        }
+    }
+    return row[b.size()];
+}
+
+// A name that came from outside may hold anything but must not break the line of a finding.
+std::string oneLine(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    return text;
+}
+
+}  // namespace
+
+void Findings::broken(Place place, std::string_view code, const std::string& message) {
+    findings_.push_back({place, Severity::error, std::string(code), message, true});
+}
+
+void Findings::error(Place place, std::string_view code, const std::string& message) {
+    findings_.push_back({place, Severity::error, std::string(code), message, false});
+}
+
+void Findings::warning(Place place, std::string_view code, const std::string& message) {
+    findings_.push_back({place, Severity::warning, std::string(code), message, false});
+}
+
+void Findings::settle(const Story& story) {
+    const std::set<Silence> silences(story.silences.begin(), story.silences.end());
+    std::erase_if(findings_, [&](const Finding& f) {
+        return !f.fixed && silences.contains({f.place.file, f.place.line, f.code});
+    });
+    const auto key = [&](const Finding& f) {
+        return std::make_tuple(std::string_view(story.files[static_cast<std::size_t>(f.place.file)]), f.place,
+                               std::string_view(f.code), std::string_view(f.message));
+    };
+    std::sort(findings_.begin(), findings_.end(),
+              [&](const Finding& a, const Finding& b) { return key(a) < key(b); });
+    findings_.erase(std::unique(findings_.begin(), findings_.end(),
+                                [&](const Finding& a, const Finding& b) { return key(a) == key(b); }),
+                    findings_.end());
+}
+
+bool Findings::hasErrors() const {
+    return std::any_of(findings_.begin(), findings_.end(),
+                       [](const Finding& f) { return f.severity == Severity::error; });
+}
+
+std::string asLines(const Story& story, const Findings& findings) {
+    std::string out;
+    for (const Finding& f : findings.all())
+        out += story.files[static_cast<std::size_t>(f.place.file)] + ":" + std::to_string(f.place.line) + ":" +
+               std::to_string(f.place.column) + ": " + nameOf(f.severity) + " [" + f.code +
+               "]: " + oneLine(f.message) + "\n";
+    return out;
+}
+
+std::string asJson(const Story& story, const Findings& findings) {
+    std::string out = "[";
+    for (const Finding& f : findings.all()) {
+        out += out.size() > 1 ? ",\n " : "\n ";
+        out += "{\"file\": " + quotedJson(story.files[static_cast<std::size_t>(f.place.file)]) +
+               ", \"line\": " + std::to_string(f.place.line) + ", \"column\": " + std::to_string(f.place.column) +
+               ", \"severity\": \"" + nameOf(f.severity) + "\", \"code\": " + quotedJson(f.code) +
+               ", \"message\": " + quotedJson(f.message) + "}";
+    }
+    return out + (findings.empty() ? "]\n" : "\n]\n");
+}
+
+std::string shown(TextView text) {
+    Text cut(text.substr(0, longestShown));
+    std::replace_if(
+        cut.begin(), cut.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
+    return "\"" + toUtf8(cut) + (text.size() > longestShown ? "...\"" : "\"");
+}
+
+std::string perhaps(TextView word, const std::vector<Text>& candidates) {
+    const Text* best = nullptr;
+    std::size_t least = std::max<std::size_t>(word.size() / 3, 1) + 1;
+    for (const Text& candidate : candidates) {
+        const std::size_t far = distance(word.substr(0, longestShown), candidate);
+        if (far >= least) continue;
+        least = far;
+        best = &candidate;
+    }
+    return best ? "; gemeint ist vielleicht " + shown(*best) : "";
+}
+
+}  // namespace zentrox::story

@@ -1,0 +1,82 @@
+// A story in memory, compiled: its rooms and its item scripts, each with the place it came from, be that a readable
+// source or a data file.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "engine/state/zustand.h"
+
+namespace zentrox::story {
+
+// A place in one of `Story::files`. Lines and columns count from 1, columns in characters.
+struct Place {
+    int file = 0;
+    int line = 1;
+    int column = 1;
+    friend auto operator<=>(const Place&, const Place&) = default;
+};
+
+struct CommandPlace {
+    Place command;
+    std::vector<Place> argument;  // where its argument stands; of a shown text one for each line; may be empty
+    bool raw = false;             // written with `Roh`: the author takes it as it is
+};
+
+struct ScriptPlaces {
+    Place head;
+    std::vector<CommandPlace> commands;  // one for each instruction
+
+    // Where the argument of an instruction stands, or if that is not known the instruction.
+    Place argument(std::size_t index) const;
+};
+
+struct ObjectPlaces {
+    Place name;
+    Place pointer;
+    std::array<ScriptPlaces, 3> action;
+};
+
+struct StoryRoom {
+    Text file;  // below the directory of rooms, with backslashes
+    Raum room;
+    Place head;
+    Place picture;
+    ScriptPlaces start;
+    ScriptPlaces countDown;
+    std::vector<ObjectPlaces> objects;
+};
+
+struct StoryScript {
+    Text file;  // in the directory of items
+    Skript script;
+    ScriptPlaces places;
+};
+
+// A comment that silences a finding of one kind on one line.
+struct Silence {
+    int file = 0;
+    int line = 0;
+    std::string code;
+    friend auto operator<=>(const Silence&, const Silence&) = default;
+};
+
+struct Story {
+    std::vector<std::string> files;  // names for people, UTF-8
+    std::vector<StoryRoom> rooms;
+    std::vector<StoryScript> scripts;
+    std::vector<Silence> silences;
+
+    // Where an item's picture is first named by `Gegenstand`.
+    struct Item {
+        Text picture;
+        Place place;
+    };
+    std::vector<Item> items;
+};
+
+// The script file of an item: `which` is 0 for the right button, 1 for the left one, 2 for a dropped item.
+Text itemScriptFile(TextView picture, std::size_t which);
+
+}  // namespace zentrox::story
