@@ -1,0 +1,208 @@
+// How a run begins and ends, and what may happen inside it.
+#include "engine/files/raumdatei.h"
+#include "engine/state/merker.h"
+#include "platform/error.h"
+#include "tests/engine/engine_fixture.h"
+
+namespace zentrox {
+namespace {
+
+using Notizen = std::vector<Text>;
+
+class Runs : public test::EngineTest {
+protected:
+    // Makes the fake window enter rooms as the real one does.
+    void betreteRäume() {
+        raum.onLade = [this](TextView pfad) {
+            z.RaumDatei = pfad.substr(pfad.rfind('\\') + 1);
+            z.AktuellerRaum = readRoom(platform.files, pfad);
+            interpreter.SkriptAusführen(z.AktuellerRaum.Startskript, -1, "");
+        };
+    }
+    void raumdatei(TextView name, TextView startskript, TextView countDown = "-1") {
+        directory.write("rooms/" + Text(name), "bild.jpg," + Text(startskript) + ",-1," + Text(countDown) + "\r\n");
+    }
+};
+
+TEST_F(Runs, AnEmptyScriptDoesAllOpeningAndClosingSteps) {
+    z.ZeigerLetzter = 4;
+    z.GezogenerGegenstand = 3;
+    z.LeisteGewünscht = true;
+    raum.onVersteckeLeiste = [&] {
+        EXPECT_TRUE(z.SkriptLäuft);
+        EXPECT_FALSE(z.LeisteGewünscht);
+        EXPECT_EQ(z.ZeigerLetzter, 1);
+        EXPECT_EQ(z.ZeigerBilder[0], "c\\taste1.ico");
+        EXPECT_EQ(z.ZeigerBilder[1], "c\\taste2.ico");
+        EXPECT_EQ(raum.pointer, "own c\\taste1.ico");
+        EXPECT_EQ(z.GezogenerGegenstand, 3);
+    };
+    interpreter.SkriptAusführen(Skript{}, -1, "");
+    EXPECT_EQ(raum.notes, (Notizen{"CountDown off", "ZeigerLaden c\\taste1.ico", "VersteckeLeiste", "CountDown on",
+                                   "ZeigerAuffrischen"}));
+    EXPECT_FALSE(z.SkriptLäuft);
+    EXPECT_EQ(z.ZeigerLetzter, 4);
+    EXPECT_EQ(z.GezogenerGegenstand, -1);
+    EXPECT_EQ(raum.pointer, "arrow");
+}
+
+TEST_F(Runs, AnInactiveObjectStartsNothing) {
+    z.AktuellerRaum.Objekte.resize(2);
+    z.AktuellerRaum.LetztesObjekt = 1;
+    z.AktuellerRaum.Objekte[1].Aktiv = true;
+    const Skript s = test::skript({{"SetzeMerker", "M"}});
+    interpreter.SkriptAusführen(s, 0, "");
+    EXPECT_TRUE(raum.notes.empty());
+    EXPECT_FALSE(MerkerGesetzt(z, "M"));
+    interpreter.SkriptAusführen(s, 1, "");
+    EXPECT_TRUE(MerkerGesetzt(z, "M"));
+}
+
+TEST_F(Runs, ARunWaitsForTheSlideOfTheBar) {
+    z.LeisteBewegt = true;
+    nach(300, [this] { z.LeisteBewegt = false; });
+    raum.onVersteckeLeiste = [&] { EXPECT_EQ(backend.now, 300); };
+    führeAus({});
+    EXPECT_FALSE(z.SkriptLäuft);
+}
+
+TEST_F(Runs, NothingYieldsButWhatWaits) {
+    bool bedient = false;
+    backend.then([&] { bedient = true; });
+    führeAus({{"SetzeMerker", "A"},
+              {"WennMerker", "A"},
+              {"NimmGegenstand", "x"},
+              {"EndeWenn"},
+              {"Ton", "x.mp3"},
+              {"Musik", "m"},
+              {"CountDownSetzen", "5"},
+              {"ZeigBild", "b"},
+              {"Portrait", "1,b"},
+              {"RahmenZu"}});
+    EXPECT_FALSE(bedient);
+}
+
+TEST_F(Runs, TheReasonsOfAWaitTellTheStory) {
+    raumdatei("Keller.lsd", "0,2,\"Zu.\"");
+    betreteRäume();
+    Text gründe;
+    raum.onZeigText = [&](TextView) {
+        nach(10, [&] {
+            gründe = platform.queue.reasons();
+            z.TastenCode = 65;
+        });
+    };
+    z.AktuellerRaum.Objekte.resize(1);
+    z.AktuellerRaum.LetztesObjekt = 0;
+    z.AktuellerRaum.Objekte[0] = {.Name = Text("Tür"_t), .Aktiv = true};
+    interpreter.SkriptAusführen(test::skript({{"Raumwechsel", "Keller.lsd"}}), 0, "");
+    EXPECT_EQ(gründe, "Skript Tür > Lade Keller.lsd > Text"_t);
+    EXPECT_EQ(platform.queue.reasons(), "");
+}
+
+TEST_F(Runs, ARoomChangeEndsTheRunBehindTheRunOfTheNewRoom) {
+    raumdatei("b.lsd", "1,5,\"b1\",4,\"c.lsd\"");
+    raumdatei("c.lsd", "1,5,\"c1\",31,\"2\"");
+    betreteRäume();
+    // The room's own script runs in place and is overwritten under its own feet.
+    z.AktuellerRaum.Startskript = test::skript(
+        {{"ZeigBild", "a1"}, {"Raumwechsel", "b.lsd"}, {"ZeigBild", "a2"}, {"ZeigBild", "a3"}, {"ZeigBild", "a4"}});
+    interpreter.SkriptAusführen(z.AktuellerRaum.Startskript, -1, "");
+    Notizen notizen;
+    for (const Text& n : raum.notes)
+        if (!n.starts_with("ZeigerLaden") && n != "VersteckeLeiste") notizen.push_back(n);
+    EXPECT_EQ(notizen,
+              (Notizen{"CountDown off", "BildLaden g\\a1", "Lade " + z.PfadRooms + "b.lsd", "CountDown off",
+                       "BildLaden g\\b1", "Lade " + z.PfadRooms + "c.lsd", "CountDown off", "BildLaden g\\c1",
+                       "CountDown off", "CountDown 2000", "CountDown on", "CountDown on", "ZeigerAuffrischen",
+                       "CountDown on", "ZeigerAuffrischen", "CountDown on", "ZeigerAuffrischen"}));
+    EXPECT_EQ(z.RaumDatei, "c.lsd");
+    EXPECT_FALSE(z.SkriptLäuft);
+}
+
+TEST_F(Runs, ALoadedGameEndsTheRunWithoutItsClosingSteps) {
+    z.ZeigerLetzter = 2;
+    raum.onSpielLaden = [this] {
+        interpreter.SkriptAusführen(Skript{}, -1, "");
+        raum.notes.clear();
+        return true;
+    };
+    führeAus({{"System", "Open"}, {"ZeigBild", "x"}});
+    EXPECT_TRUE(raum.notes.empty());
+    EXPECT_EQ(z.ZeigerLetzter, 1) << "what the loaded room's run found";
+}
+
+// A count-down that a script has started ticks in its later waits, and may even leave the room: the outer run then
+// goes on at its place in the new room's script.
+TEST_F(Runs, ACountDownMayChangeTheRoomUnderAWaitingScript) {
+    raumdatei("neu.lsd", "4,5,\"n0\",5,\"n1\",5,\"n2\",5,\"n3\",5,\"n4\"");
+    betreteRäume();
+    z.AktuellerRaum.Startskript = test::skript({{"CountDownSetzen", "1"}, {"Text", "Tick"}, {"ZeigBild", "alt"}});
+    z.AktuellerRaum.CountDownSkript = test::skript({{"Raumwechsel", "neu.lsd"}});
+    Timer countDown(platform.queue, 1000, true, [&] {
+        countDown.setEnabled(false);
+        interpreter.SkriptAusführen(z.AktuellerRaum.CountDownSkript, -1, "");
+        EXPECT_FALSE(z.SkriptLäuft);
+        nach(500, [this] { z.TastenCode = 65; });
+    });
+    interpreter.SkriptAusführen(z.AktuellerRaum.Startskript, -1, "");
+    EXPECT_EQ(raum.commandNotes(),
+              (Notizen{"CountDown 1000", "ZeigText Tick", "Lade " + z.PfadRooms + "neu.lsd", "BildLaden g\\n0",
+                       "BildLaden g\\n1", "BildLaden g\\n2", "BildLaden g\\n3", "BildLaden g\\n4", "WegText Tick",
+                       "BildLaden g\\n2", "BildLaden g\\n3", "BildLaden g\\n4"}));
+}
+
+TEST_F(Runs, ShorterScriptsMayTakeThePlaceOfAWaitingOne) {
+    raumdatei("neu.lsd", "-1");
+    betreteRäume();
+    z.AktuellerRaum.Startskript =
+        test::skript({{"ZeigBild", "1"}, {"Auswahl", "1|Ja?|Ja"}, {"Fall", "1"}, {"ZeigBild", "2"}});
+    raum.onZeigText = [this](TextView) {
+        nach(10, [this] {
+            raum.Lade(z.PfadRooms + "neu.lsd");
+            z.AuswahlErgebnis = 1;
+        });
+    };
+    interpreter.SkriptAusführen(z.AktuellerRaum.Startskript, -1, "");
+    EXPECT_EQ(raum.notes.back(), "ZeigerAuffrischen");
+}
+
+TEST_F(Runs, RoomsThatLeadToEachOtherAreStopped) {
+    raumdatei("hin.lsd", "0,4,\"her.lsd\"");
+    raumdatei("her.lsd", "0,4,\"hin.lsd\"");
+    betreteRäume();
+    try {
+        führeAus({{"Raumwechsel", "hin.lsd"}});
+        FAIL();
+    } catch (const DataError& error) {
+        EXPECT_NE(error.message().find("her.lsd"), Text::npos) << error.message();
+        EXPECT_NE(error.message().find(std::to_string(TiefsterLauf)), Text::npos);
+    }
+    // Behind the failure everything is as before a run.
+    EXPECT_EQ(platform.queue.reasons(), "");
+    EXPECT_EQ(notizen({{"ZeigBild", "x"}}).back(), "BildLaden g\\x");
+}
+
+TEST_F(Runs, AChainOfRoomsMayBeAsDeepAsTheBound) {
+    int betreten = 0;
+    raum.onLade = [&](TextView) {
+        ++betreten;
+        const Skript weiter = test::skript({{"Raumwechsel", "x"}});
+        interpreter.SkriptAusführen(betreten < TiefsterLauf - 1 ? weiter : Skript{}, -1, "");
+    };
+    führeAus({{"Raumwechsel", "x"}});
+    EXPECT_EQ(betreten, TiefsterLauf - 1);
+}
+
+TEST_F(Runs, TheEndOfTheProgramLeavesEveryWait) {
+    for (const std::vector<test::Zeile>& s :
+         {std::vector<test::Zeile>{{"Text", "a"}}, {{"Auswahl", "1|a|b"}}, {{"Film", "f"}}}) {
+        sound.videoEnd = 10'000;
+        nach(100, [] { Queue::endProgram(3); });
+        EXPECT_THROW(führeAus(s), ProgramEnd);
+        EXPECT_EQ(platform.queue.reasons(), "");
+    }
+}
+
+}  // namespace
+}  // namespace zentrox
