@@ -6,7 +6,7 @@
 #include "platform/sound.h"
 #include "tests/support/fake_backend.h"
 #include "tests/support/fake_fonts.h"
-#include "tests/support/silent_sound.h"
+#include "tests/support/fake_sound.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox::test {
@@ -15,7 +15,7 @@ struct Stage {
     TempDirectory directory;
     FakeBackend backend;
     FakeFonts fonts;
-    SilentSound sound;
+    FakeSound sound{backend};
     Platform platform{backend, fonts, sound, directory.path()};
 };
 

@@ -1,0 +1,111 @@
+#include "saves/saves.h"
+
+#include <gtest/gtest.h>
+
+#include "saves_fixture.h"
+
+namespace zentrox::test {
+namespace {
+
+TEST(SpielSpeichern, WritesTheGameAndSaysSo) {
+    SavesPlay play;
+    playOn(play.z);
+    play.answer("Mein Spiel");
+    play.backend.then([&] { EXPECT_EQ(play.lastBox(), "Speichern erfolgreich unter Mein Spiel.xtc!"); });
+    play.backend.key(key::enter);
+    SpielSpeichern(play.platform, play.z, play.room);
+    EXPECT_EQ(play.bytes("Mein Spiel.xtc"), savedPart(play.z));
+    EXPECT_EQ(play.backend.boxes.back().icon, MessageBox::Icon::information);
+    EXPECT_EQ(play.fileCount(), 1U) << "the directory was made, and nothing else lies in it";
+
+    play.z.BösePunkte = 99;
+    play.backend.key(key::enter);  // the same name stands there
+    play.backend.key(key::enter);
+    SpielSpeichern(play.platform, play.z, play.room);
+    EXPECT_EQ(play.bytes("Mein Spiel.xtc"), savedPart(play.z)) << "replaced without asking";
+}
+
+TEST(SpielSpeichern, IsRefusedWhileTheCountDownRuns) {
+    SavesPlay play;
+    play.room.countDown = 5000;
+    play.backend.key(key::space);
+    SpielSpeichern(play.platform, play.z, play.room);
+    EXPECT_EQ(play.lastBox(), "Speichern nicht möglich!"_t);
+    EXPECT_EQ(play.backend.opens, std::vector<Text>{"MsgBox"}) << "the dialog does not open";
+}
+
+TEST(SpielSpeichern, ChangesNothingWhenCancelled) {
+    SavesPlay play;
+    play.backend.key(key::escape);
+    SpielSpeichern(play.platform, play.z, play.room);
+    EXPECT_TRUE(play.backend.boxes.empty());
+    EXPECT_TRUE(play.room.notes.empty());
+}
+
+TEST(SpielSpeichern, AFailedWriteIsABoxAndTheGameGoesOn) {
+    SavesPlay play;
+    playOn(play.z);
+    play.answer(Text(300, 'n'));
+    play.backend.key(key::enter);
+    SpielSpeichern(play.platform, play.z, play.room);
+    EXPECT_NE(play.lastBox().find("Der Name ist zu lang."), Text::npos);
+
+    play.directory.write("saves/ordner.xtc/x", "");
+    play.answer("ordner");
+    play.backend.key(key::enter);
+    SpielSpeichern(play.platform, play.z, play.room);
+    EXPECT_NE(play.lastBox().find("gespeichert werden!"), Text::npos);
+    EXPECT_EQ(play.backend.boxes.back().icon, MessageBox::Icon::critical);
+    EXPECT_EQ(play.fileCount(), 1U);
+}
+
+TEST(SpielLaden, EntersTheSavedRoom) {
+    SavesPlay play;
+    Zustand saved;
+    playOn(saved);
+    play.directory.write("saves/alt.xtc", savedPart(saved));
+    play.z.PfadRooms = "\\rooms\\";
+    play.z.GezogenerGegenstand = 2;
+    play.room.countDown = 700;
+    play.answer("ALT");  // as it is found on the disk without regard to case
+    EXPECT_TRUE(SpielLaden(play.platform, play.z, play.room));
+    EXPECT_EQ(savedPart(play.z), savedPart(saved));
+    EXPECT_EQ(play.z.GezogenerGegenstand, -1);
+    EXPECT_EQ(std::get<Text>(play.z.Übergabe), "");
+    EXPECT_EQ(play.room.notes, (std::vector<Text>{"CountDown off", "CountDown 0", "CountDown on", "VersteckeLeiste",
+                                                  "GegenstaendeLaden", Text("Lade \\rooms\\Küche.lsd"_t)}));
+    EXPECT_TRUE(play.backend.boxes.empty());
+}
+
+TEST(SpielLaden, CancelledOrNotFoundLetsTheCountDownRunOn) {
+    SavesPlay play;
+    play.room.countDown = 700;
+    play.backend.key(key::escape);
+    EXPECT_FALSE(SpielLaden(play.platform, play.z, play.room));
+    play.answer("gibt es nicht");
+    EXPECT_FALSE(SpielLaden(play.platform, play.z, play.room));
+    EXPECT_EQ(play.room.notes,
+              (std::vector<Text>{"CountDown off", "CountDown on", "CountDown off", "CountDown on"}));
+    EXPECT_EQ(play.room.countDown, 700);
+    EXPECT_TRUE(play.backend.boxes.empty());
+}
+
+TEST(SpielLaden, AnUnusableFileIsABoxAndLeavesTheCountDownOff) {
+    Zustand saved;
+    playOn(saved);
+    const Text whole = savedPart(saved);
+    for (const Text& bytes : {Text(), Text("PK\x03\x04"), whole.substr(0, whole.size() - 1), whole.substr(0, 40)}) {
+        SavesPlay play;
+        play.directory.write("saves/alt.xtc", bytes);
+        play.room.countDown = 700;
+        play.answer("alt");
+        play.backend.key(key::enter);
+        EXPECT_FALSE(SpielLaden(play.platform, play.z, play.room));
+        EXPECT_EQ(play.lastBox(), "Daten nicht geladen!");
+        EXPECT_EQ(play.room.notes, (std::vector<Text>{"CountDown off", "CountDown 0"}));
+        EXPECT_FALSE(play.room.countDownOn);
+    }
+}
+
+}  // namespace
+}  // namespace zentrox::test
