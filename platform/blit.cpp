@@ -54,6 +54,7 @@ Axis axisOf(const Stretch& from, const Stretch& to, int sourceSide, int clipBegi
     const std::int64_t end = std::min<std::int64_t>(to.begin + to.length, clipEnd);
     const bool mirrored = from.mirrored != to.mirrored;
     Axis axis;
+    if (from.length == 0) return axis;
     for (std::int64_t at = first; at < end; ++at) {
         const std::int64_t offset = mirrored ? to.begin + to.length - 1 - at : at - to.begin;
         const std::int64_t source = from.begin + offset * from.length / to.length;

@@ -9,11 +9,16 @@ namespace {
 
 constexpr std::size_t printedKept = 256;
 
+// A corner further out than this is taken to be here, far outside any surface, so that the sides fit a rectangle.
+constexpr int farAway = (1 << 30) - 1;
+
 // The rectangle of two corners in any order, edges included.
 Rect spanning(Point a, Point b) {
-    const std::int64_t width = std::int64_t{std::max(a.x, b.x)} - std::min(a.x, b.x) + 1;
-    const std::int64_t height = std::int64_t{std::max(a.y, b.y)} - std::min(a.y, b.y) + 1;
-    return {std::min(a.x, b.x), std::min(a.y, b.y), held(width), held(height)};
+    const auto [left, right] =
+        std::minmax({std::clamp(a.x, -farAway, farAway), std::clamp(b.x, -farAway, farAway)});
+    const auto [top, bottom] =
+        std::minmax({std::clamp(a.y, -farAway, farAway), std::clamp(b.y, -farAway, farAway)});
+    return {left, top, right - left + 1, bottom - top + 1};
 }
 
 // The area that a scaled copy covers, mirrored or not.
