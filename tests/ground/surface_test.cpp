@@ -145,7 +145,7 @@ TEST_F(Surfaces, TextGoesToTheCursor) {
     EXPECT_EQ(surface.foreground, white);
     EXPECT_EQ(stored({6, 3}), value(red));
     EXPECT_EQ(surface.measure("abc\rab\n"), (Size{18, 39}));
-    surface.currentX = surface.currentY = std::numeric_limits<int>::max();
+    surface.currentX = surface.currentY = 1 << 30;
     surface.print("far\naway");
     surface.clear();
     EXPECT_EQ(surface.currentX, 0);
