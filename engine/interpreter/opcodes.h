@@ -48,18 +48,28 @@ struct Opcode {
     const char* doc;  // a sentence for the reference page, from the story author's view
 };
 
-// The numbers by which scripts are built and scanned.
+// The numbers by which scripts are built, scanned and checked.
 namespace opcode {
 constexpr std::int32_t WennMerker = 0;
+constexpr std::int32_t SetzeMerker = 3;
+constexpr std::int32_t Raumwechsel = 4;
+constexpr std::int32_t NimmGegenstand = 6;
+constexpr std::int32_t GibGegenstand = 7;
 constexpr std::int32_t WennParameter = 8;
 constexpr std::int32_t Sonst = 9;
 constexpr std::int32_t EndeWenn = 10;
+constexpr std::int32_t LöscheMerker = 12;
 constexpr std::int32_t Fehlerton = 16;
+constexpr std::int32_t RahmenAuf = 20;
+constexpr std::int32_t BöseÄndern = 22;
 constexpr std::int32_t Auswahl = 24;
 constexpr std::int32_t Fall = 25;
 constexpr std::int32_t EndeAuswahl = 26;
+constexpr std::int32_t Spiel = 27;
 constexpr std::int32_t Springe = 28;
 constexpr std::int32_t Marke = 29;
+constexpr std::int32_t System = 30;
+constexpr std::int32_t CountDownSetzen = 31;
 }  // namespace opcode
 
 constexpr std::size_t OpcodeAnzahl = 33;
