@@ -114,8 +114,9 @@ std::int32_t FieldReader::readLast(std::size_t fieldsEach) {
 void FieldReader::readMask(Maske& mask) {
     for (int column = 0; column < Maskenspalten; ++column) {
         for (int row = 0; row < Maskenzeilen; ++row) {
-            const char* const p = at_;
+            while (left() > 0 && *at_ == ' ') ++at_;
             if (left() >= 5) {
+                const char* const p = at_;
                 const bool set = std::memcmp(p, "255", 3) == 0;
                 const char* const behind = set ? p + 3 : p + 1;
                 if ((set || isDigit(*p)) && isSeparator(*behind)) {

@@ -14,7 +14,7 @@ class Medien;
 
 // So many runs may stand inside each other before the story is stopped. Rooms that lead on by their start scripts
 // nest as deep as their chain is long; the bound lies where the stack still has room, sanitizers included.
-constexpr int TiefsterLauf = 250;
+constexpr int TiefsterLauf = 500;
 // More options than this in one choice are damaged data.
 constexpr int MeisteOptionen = 1000;
 
