@@ -8,7 +8,7 @@ namespace zentrox {
 
 namespace {
 
-constexpr int Rand = 2;         // pixels left of and above the text
+constexpr int Rand = 2;  // pixels left of and above the text
 constexpr int Zeichenbreite = 8;
 constexpr int Zeilenhöhe = 14;
 constexpr std::size_t ErstesZeichen = 3;

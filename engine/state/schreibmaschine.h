@@ -1,5 +1,5 @@
-// A text that types itself on a surface. A letter appears dark, turns grey with the next step, and white with the one
-// after. In a page "|" ends a line, and "#", with the two characters behind it, is a mark that prints nothing.
+// A text that types itself on a surface. A letter appears dark, turns grey with the next step, and white with the
+// one after. In a page "|" ends a line, and "#", with the two characters behind it, is a mark that prints nothing.
 #pragma once
 
 #include "platform/surface.h"

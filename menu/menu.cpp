@@ -1,0 +1,181 @@
+#include "menu/menu.h"
+
+#include <cmath>
+
+#include "engine/state/warten.h"
+#include "menu/datensuche.h"
+#include "menu/titelbild.h"
+#include "menu/welle.h"
+#include "platform/keys.h"
+
+namespace zentrox {
+
+namespace {
+
+constexpr Size Fläche{501, 397};  // pixels
+constexpr Colour Gelb{255, 255, 0};
+constexpr Colour Grün{0, 192, 0};
+constexpr Colour Dunkelgrün{0, 128, 0};
+constexpr int Zeilenmitte = 100;  // pixels; the lines are centred on it
+constexpr int ErsteZeile = 40;
+constexpr int Zeilenabstand = 50;
+constexpr int Bonuszeile = 2;
+constexpr int TicksProBild = 5;
+constexpr std::int32_t Tick = 16;  // milliseconds
+constexpr float Wellenschritt = 8;
+
+constexpr std::array<TextView, 4> Hauptseite{"Spiel beginnen", "Altes Spiel laden", "Bonusmaterial",
+                                             "Menü verlassen"_t};
+constexpr std::array<TextView, 4> Bonusseite{"Videos", "Bilder Sessions", "Mathe-Physik-LernCD", "Zurück"_t};
+constexpr std::array<TextView, 3> Bonusmaterial{"Videos", "Bilder\\index.html", "LernCD"};
+
+FontSpec zeilenschrift(bool fett) {
+    return {"MS Sans Serif", 12, fett};
+}
+
+}  // namespace
+
+Menu::Menu(Platform& platform, Zustand& zustand, const std::vector<std::filesystem::path>& wurzeln,
+           std::function<void()> form1Zeigen)
+    : Window(platform, "Menu", "Zentrox - Menü"_t, Fläche, Frame::fixed),
+      z_(zustand),
+      form1Zeigen_(std::move(form1Zeigen)),
+      Image1(&root(), {0, 0, 501, 121}),
+      Label3(&root(), {360, 88, 36, 13}, "V. 1.3"),
+      Label2(&root(), {112, 88, 124, 13}, "www.zentrox.example"),
+      Picture1(platform.fonts, &root(), {0, 120, 505, 281}),
+      Label1{Label(&Picture1, {0, 0, 0, 0}, Hauptseite[0]), Label(&Picture1, {0, 0, 0, 0}, Hauptseite[1]),
+             Label(&Picture1, {0, 0, 0, 0}, Hauptseite[2]), Label(&Picture1, {0, 0, 0, 0}, Hauptseite[3])},
+      Picture2(platform.fonts, &Picture1, {184, 0, 257, 273}),
+      Timer1(platform.queue, 10, false, [this] { Timer1_Timer(); }) {
+    Image1.setPicture(Titelbild());
+    Label3.setColour(Grün);
+    Label2.setColour(Dunkelgrün);
+    Picture2.font = {"Fixedsys", 9, true};
+    for (int i = 0; i < Zeilen; ++i) {
+        zeile(i).setColour(Gelb);
+        zeile(i).setFont(zeilenschrift(false));
+        zeile(i).setAlign(Label::Align::centre);
+        zeile(i).setAutoSize(true);
+        zeile(i).onClick = [this, i] { LabelAusfuehren(i); };
+        zeile(i).onMove = [this, i](const PointerEvent&) { Label1_MouseMove(i); };
+    }
+    Form_Load(wurzeln);
+}
+
+void Menu::Form_Load(const std::vector<std::filesystem::path>& wurzeln) {
+    platform().random.reseed(platform().backend.seed());
+    z_.PI = 4 * std::atan(1.0F);
+    CDLaufwerk = DatenSuchen(platform().files, wurzeln, z_);
+    zeile(Bonuszeile).setVisible(!CDLaufwerk.empty());
+
+    MenuBonusSetzen(0);
+    LabelAufbau(0);
+    for (int i = 0; i < Zeilen; ++i)
+        zeile(i).moveTo({Zeilenmitte - zeile(i).width() / 2, ErsteZeile + Zeilenabstand * i});
+    Timer1.setEnabled(true);
+}
+
+bool Menu::onQueryClose() {
+    MenuSchluss = true;
+    return true;
+}
+
+void Menu::Timer1_Timer() {
+    Timer1.setEnabled(false);
+    DoLoop();
+}
+
+void Menu::LabelAufbau(int Index) {
+    for (int i = 0; i < Zeilen; ++i) zeile(i).setFont(zeilenschrift(i == Index));
+}
+
+// The captions follow the screen that is left: the first setting finds them as they are.
+void Menu::MenuBonusSetzen(int Index) {
+    if (MenuSeite != -1) {
+        const auto& texte = MenuSeite == 0 ? Bonusseite : Hauptseite;
+        for (int i = 0; i < Zeilen; ++i) zeile(i).setText(texte[static_cast<std::size_t>(i)]);
+        MenuPunkt = 0;
+        LabelAufbau(0);
+    }
+    MenuSeite = Index;
+}
+
+void Menu::Label1_MouseMove(int Index) {
+    if (MenuPunkt == Index) return;
+    MenuPunkt = Index;
+    LabelAufbau(Index);
+}
+
+// The line of the bonus material may be hidden; the first and the last one never are.
+void Menu::markierungRücken(int richtung) {
+    if (MenuPunkt + richtung < 0 || MenuPunkt + richtung >= Zeilen) return;
+    do MenuPunkt += richtung;
+    while (!zeile(MenuPunkt).visible());
+    LabelAufbau(MenuPunkt);
+}
+
+void Menu::Form_KeyDown(int code) {
+    switch (code) {
+        case key::enter: return LabelAusfuehren(MenuPunkt);
+        case key::up: return markierungRücken(-1);
+        case key::down: return markierungRücken(1);
+        case key::escape:
+            if (MenuSeite == 0) Queue::endProgram();
+            return MenuBonusSetzen(0);
+        default: return;
+    }
+}
+
+void Menu::LabelAusfuehren(int Index) {
+    if (MenuSeite == 1) {
+        if (Index == Zeilen - 1) return MenuBonusSetzen(0);
+        return öffnen(Bonusmaterial[static_cast<std::size_t>(Index)]);
+    }
+    switch (Index) {
+        case 0: return beginnen({});
+        case 1: return beginnen("Laden.lsd");
+        case Bonuszeile: return MenuBonusSetzen(1);
+        default: Queue::endProgram();
+    }
+}
+
+// The whole game runs inside this call, and with it inside the loop that handed in the click.
+void Menu::beginnen(TextView raum) {
+    z_.Übergabe = Text(raum);
+    MenuSchluss = true;
+    close();
+    form1Zeigen_();
+}
+
+void Menu::öffnen(TextView was) {
+    const std::string pfad = platform().files.systemPath(CDLaufwerk + Text(was)).string();
+    if (platform().backend.start({"xdg-open", pfad})) return;
+    const Text text = "\"" + Text(was) + Text("\" kann nicht geöffnet werden, weil das Programm xdg-open fehlt."_t);
+    showMessageBox(platform(), {"Zentrox", text, MessageBox::Icon::critical});
+}
+
+void Menu::DoLoop() {
+    Schreibmaschine maschine;
+    Hilfetexte MenuTexte;
+    std::size_t seite = 0;
+    int letzteSeite = 1;  // another one than is shown, so that the first round builds the texts
+    int ticks = 0;
+    Picture2.clear();
+    while (!MenuSchluss) {
+        if (++ticks >= TicksProBild) {
+            ticks = 0;
+            if (MenuSeite != letzteSeite) {
+                letzteSeite = MenuSeite;
+                MenuTexte = MenuTexteFür(MenuSeite == 1);
+                maschine.Anfangen();
+            }
+            if (maschine.Schritt(Picture2, MenuTexte[seite]) == Schreibmaschine::Ereignis::seitenende)
+                seite = (seite + 1) % MenuTexte.size();
+            WelleZeichnen(Picture1, WellenPhase += Wellenschritt);
+        }
+        WarteFrame(z_, platform(), Tick);
+    }
+}
+
+}  // namespace zentrox
