@@ -54,26 +54,4 @@ public:
     virtual const Bitmap* videoFrame() = 0;
 };
 
-// A device that is never heard and shows nothing, for programs and tests that need none.
-class NoSound final : public SoundDevice {
-public:
-    bool init() override { return true; }
-    bool start() override { return true; }
-    int errorCode() const override { return 0; }
-    void free() override {}
-    SoundHandle openVoice(TextView) override { return 0; }
-    void playVoice(SoundHandle) override {}
-    void freeVoice(SoundHandle) override {}
-    void playEffect(TextView) override {}
-    void playSong(TextView) override {}
-    void stopSong() override {}
-    std::int64_t songLength() override { return 0; }
-    std::int64_t songPosition() override { return 0; }
-    bool playVideo(TextView) override { return false; }
-    void stopVideo() override {}
-    std::int64_t videoLength() override { return 0; }
-    std::int64_t videoPosition() override { return 0; }
-    const Bitmap* videoFrame() override { return nullptr; }
-};
-
 }  // namespace zentrox

@@ -1,7 +1,7 @@
 # Sound and video of the desktop. FFmpeg's libraries cost 20 MB and 30 ms as soon as they are linked, so that all that
 # uses them is a module of its own, which is loaded on first use.
 pkg_check_modules(FFMPEG REQUIRED IMPORTED_TARGET libavformat libavcodec libavutil libswscale libswresample)
-pkg_check_modules(SOUND REQUIRED IMPORTED_TARGET SDL2_mixer fluidsynth)
+pkg_check_modules(SOUND REQUIRED IMPORTED_TARGET SDL2_mixer fluidsynth libmpg123)
 
 file(GLOB ffmpeg_sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/ffmpeg/*.cpp)
 add_library(zentrox_decoder_module MODULE ${ffmpeg_sources})
@@ -16,6 +16,7 @@ target_link_libraries(zentrox_decode_media PUBLIC zentrox_platform ${CMAKE_DL_LI
 add_dependencies(zentrox_decode_media zentrox_decoder_module)
 
 zentrox_library(zentrox_sound
+  ${CMAKE_CURRENT_LIST_DIR}/sound/mp3.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sound/sound.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sound/soundfont.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sound/streams.cpp

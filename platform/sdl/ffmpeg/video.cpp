@@ -32,6 +32,8 @@ public:
     bool begin() {
         if (!shown_ || !ahead_) return false;
         fetch();
+        // It is seen at once, also where the sound comes a little before it.
+        begins_ = 0;
         return more_;
     }
 

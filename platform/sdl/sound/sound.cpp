@@ -4,15 +4,17 @@
 #include <SDL_mixer.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 #include <string>
 
-#include "platform/error.h"
 #include "platform/files.h"
 #include "platform/midi.h"
 #include "platform/sdl/sound/levels.h"
+#include "platform/sdl/sound/mp3.h"
 #include "platform/sdl/sound/soundfont.h"
 #include "platform/sdl/sound/streams.h"
 #include "platform/sdl/sound/synthesiser.h"
@@ -38,17 +40,23 @@ struct Closer {
     void operator()(Mix_Chunk* chunk) const { Mix_FreeChunk(chunk); }
 };
 
-// What SDL2_mixer shall take a file for. It would guess at anything else, with decoders that the game has no use
-// for.
-Mix_MusicType typeOf(SDL_RWops& file) {
+enum class Kind { wav, mp3, other };
+
+Kind kindOf(const std::filesystem::path& file) {
     std::array<char, 3> begin{};
-    const bool read = SDL_RWread(&file, begin.data(), 1, begin.size()) == begin.size();
-    SDL_RWseek(&file, 0, RW_SEEK_SET);
+    std::ifstream(file, std::ios::binary).read(begin.data(), begin.size());
     const std::string_view magic(begin.data(), begin.size());
-    if (!read) return MUS_NONE;
-    if (magic == "RIF") return MUS_WAV;
+    if (magic == "RIF") return Kind::wav;
     const bool frame = begin[0] == '\xFF' && (static_cast<unsigned char>(begin[1]) & 0xE0U) == 0xE0U;
-    return magic == "ID3" || frame ? MUS_MP3 : MUS_NONE;
+    return magic == "ID3" || frame ? Kind::mp3 : Kind::other;
+}
+
+// Whatever can be decoded at all.
+std::unique_ptr<AudioReader> openAny(const std::filesystem::path& file) {
+    auto reader = kindOf(file) == Kind::mp3 ? openMp3(file) : nullptr;
+    if (reader) return reader;
+    auto* decoder = mediaDecoder();
+    return decoder != nullptr ? decoder->openAudio(file) : nullptr;
 }
 
 }  // namespace
@@ -88,8 +96,6 @@ public:
 private:
     bool openDevice();
     bool loadVoice(const std::filesystem::path& file);
-    bool loadEffect(const std::filesystem::path& file);
-    std::unique_ptr<AudioReader> decode(const std::filesystem::path& file);
     std::unique_ptr<AudioReader> synthesise(const std::string& midi);
     SoundHandle failed(int code);
 
@@ -160,11 +166,6 @@ SoundHandle DesktopSound::failed(int code) {
     return 0;
 }
 
-std::unique_ptr<AudioReader> DesktopSound::decode(const std::filesystem::path& file) {
-    auto* decoder = mediaDecoder();
-    return decoder != nullptr ? decoder->openAudio(file) : nullptr;
-}
-
 SoundHandle DesktopSound::openVoice(TextView path) {
     freeVoice(voice_);
     if (!open_) return failed(notStarted);
@@ -175,15 +176,10 @@ SoundHandle DesktopSound::openVoice(TextView path) {
 }
 
 bool DesktopSound::loadVoice(const std::filesystem::path& file) {
-    if (SDL_RWops* stream = SDL_RWFromFile(file.c_str(), "rb")) {
-        const auto type = typeOf(*stream);
-        // The music of SDL2_mixer is what it streams best: here it is the voice.
-        if (type != MUS_NONE)
-            voiceMusic_.reset(Mix_LoadMUSType_RW(stream, type, SDL_TRUE));
-        else
-            SDL_RWclose(stream);
-    }
-    if (!voiceMusic_) voiceReader_ = decode(file);
+    // What SDL2_mixer calls its music is what it reads while it plays: here that is the voice.
+    if (kindOf(file) == Kind::wav)
+        voiceMusic_.reset(Mix_LoadMUSType_RW(SDL_RWFromFile(file.c_str(), "rb"), MUS_WAV, SDL_TRUE));
+    if (!voiceMusic_) voiceReader_ = openAny(file);
     return voiceMusic_ || voiceReader_;
 }
 
@@ -210,20 +206,11 @@ void DesktopSound::playEffect(TextView path) {
     streams_.stop(Track::effect);
     if (!files_.exists(path)) return;
     const auto file = files_.systemPath(path);
-    if (loadEffect(file))
+    if (kindOf(file) == Kind::wav) effect_.reset(Mix_LoadWAV_RW(SDL_RWFromFile(file.c_str(), "rb"), SDL_TRUE));
+    if (effect_)
         Mix_PlayChannel(effectChannel, effect_.get(), 0);
-    else if (auto reader = decode(file))
+    else if (auto reader = openAny(file))
         streams_.start(Track::effect, std::move(reader));
-}
-
-bool DesktopSound::loadEffect(const std::filesystem::path& file) {
-    SDL_RWops* stream = SDL_RWFromFile(file.c_str(), "rb");
-    if (stream == nullptr) return false;
-    if (typeOf(*stream) == MUS_WAV)
-        effect_.reset(Mix_LoadWAV_RW(stream, SDL_TRUE));
-    else
-        SDL_RWclose(stream);
-    return effect_ != nullptr;
 }
 
 std::unique_ptr<AudioReader> DesktopSound::synthesise(const std::string& midi) {
@@ -244,8 +231,9 @@ void DesktopSound::playSong(TextView path) {
     if (const auto midi = readMidi(file)) {
         songLength_ = midiLength(*midi).value_or(0);
         if (songLength_ > 0) reader = synthesise(*midi);
-    } else if ((reader = decode(file))) {
-        songLength_ = mediaDecoder()->audioLength(file);
+    } else if (auto* decoder = mediaDecoder()) {
+        reader = openAny(file);
+        songLength_ = reader ? decoder->audioLength(file) : 0;
     }
     if (songLength_ > 0) streams_.start(Track::song, std::move(reader));
 }

@@ -1,0 +1,68 @@
+// A sound device whose output goes to a file, so that it can be measured.
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <numbers>
+#include <thread>
+#include <vector>
+
+#include "platform/sdl/sound/sound.h"
+#include "tests/support/temp_directory.h"
+
+namespace zentrox::test {
+
+// A variable of the environment for the length of a scope.
+class Environment {
+public:
+    Environment(const char* name, const std::string& value) : name_(name) { setenv(name, value.c_str(), 1); }
+    ~Environment() { unsetenv(name_); }
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+
+private:
+    const char* name_;
+};
+
+inline void wait(int milliseconds) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+struct Speaker {
+    TempDirectory directory;
+    Environment driver{"SDL_AUDIODRIVER", "disk"};
+    Environment file{"SDL_DISKAUDIOFILE", (directory.path() / "heard.raw").string()};
+    std::unique_ptr<SoundDevice> device = desktopSound(directory.path());
+
+    // The left samples of all that has been heard; closes the output.
+    std::vector<double> heard() {
+        device->free();
+        std::ifstream raw(directory.path() / "heard.raw", std::ios::binary);
+        std::vector<double> samples;
+        std::int16_t frame[2];
+        while (raw.read(reinterpret_cast<char*>(frame), sizeof frame)) samples.push_back(frame[0] / 32768.0);
+        return samples;
+    }
+};
+
+// How loud one pitch is from `from` to `to` seconds: the amplitude of its sine, 1 at full scale.
+inline double loudness(const std::vector<double>& samples, double hertz, double from, double to) {
+    constexpr double rate = 44100;
+    const double step = 2 * std::cos(2 * std::numbers::pi * hertz / rate);
+    const auto end = std::min(static_cast<std::size_t>(to * rate), samples.size());
+    const auto begin = std::min(static_cast<std::size_t>(from * rate), end);
+    double last = 0;
+    double beforeLast = 0;
+    for (std::size_t i = begin; i < end; ++i) {
+        const double next = samples[i] + step * last - beforeLast;
+        beforeLast = last;
+        last = next;
+    }
+    const double power = last * last + beforeLast * beforeLast - step * last * beforeLast;
+    return end > begin ? 2 * std::sqrt(std::max(power, 0.0)) / static_cast<double>(end - begin) : 0;
+}
+
+}  // namespace zentrox::test
