@@ -129,7 +129,9 @@ void Queue::deliver(const Input& input) {
         case Kind::keyDown: return window->deliverKeyDown(input.code, input.shift, input.control, input.repeat);
         case Kind::keyUp: return window->deliverKeyUp(input.code);
         case Kind::keyPress: return window->deliverKeyPress(input.character);
-        case Kind::resize: return window->resizeClient(input.size);
+        case Kind::resize:
+            if (window->frame() == Frame::sizable) window->resizeClient(input.size);
+            return;
         case Kind::close: return window->requestClose();
     }
 }

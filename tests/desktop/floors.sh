@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Each room of the house includes only rooms below it, and only platform/sdl/ knows the libraries of the machine.
+set -u
+shopt -s nullglob
+cd "$1"
+status=0
+
+forbid() {  # forbid FOLDER PATTERN-OF-INCLUDES
+    [ -d "$1" ] || return
+    local hits
+    hits=$(grep -rnE "#include [<\"]($2)" --include='*.h' --include='*.cpp' "$1")
+    [ -z "$hits" ] || { printf '%s may not include:\n%s\n' "$1" "$hits"; status=1; }
+}
+
+forbid platform 'engine|media|room|saves|menu|games|main|tools/'
+forbid engine/state 'engine/(files|interpreter)|media|room|saves|menu|games|main|tools/'
+forbid engine/files 'engine/interpreter|media|room|saves|menu|games|main|tools/'
+forbid engine/interpreter 'room|saves|menu|games|main|tools/'
+forbid media 'engine/(files|interpreter)|room|saves|menu|games|main|tools/'
+forbid saves 'room|menu|games|main|tools/'
+forbid room 'menu|games|main|tools/'
+forbid menu 'games|main|tools/'
+forbid games 'room/|saves|menu|main|tools/'
+for game in games/*/; do
+    game=$(basename "$game")
+    others=$(basename -a games/*/ | grep -vxE "$game|sparks" | paste -sd"|")
+    [ -z "$others" ] || forbid "games/$game" "games/($others)"
+done
+hits=$(grep -rlE '#include <(SDL|fluidsynth|fontconfig|lib(av|sw))' --include='*.h' --include='*.cpp' . |
+    grep -vE '^\./(platform/sdl|tests|bench|build)/')
+[ -z "$hits" ] || { printf 'only platform/sdl/ knows the libraries of the machine:\n%s\n' "$hits"; status=1; }
+exit $status

@@ -1,0 +1,4 @@
+Raum "Fenster.lsd"
+    Bild "red.bmp"
+    Start
+        Text "Hallo#$AGrün##$4Rot"
