@@ -1,6 +1,7 @@
 #include "main/spiel.h"
 
 #include "media/medien.h"
+#include "menu/menu.h"
 #include "platform/error.h"
 #include "room/form1.h"
 
@@ -17,8 +18,15 @@ int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile) {
     try {
         Medien medien(platform, zustand);
         const Spieltabelle tabelle = spiele();
-        Form1 form(platform, zustand, medien, tabelle, kommandozeile);
-        form.Zeigen();
+        const auto form1Zeigen = [&] {
+            Form1 form(platform, zustand, medien, tabelle, kommandozeile);
+            form.Zeigen();
+        };
+        // A room named on the command line needs no menu.
+        if (!kommandozeile.empty()) form1Zeigen();
+        Menu menu(platform, zustand, platform.roots, form1Zeigen);
+        menu.showModal();
+        return 0;
     } catch (const ProgramEnd& end) {
         return end.status;
     }

@@ -33,7 +33,7 @@ Raum "Klick.lsd"
             SetzeZeiger "schläfer" "werfen.ico"
         Rechts
             ObjektAus "Schläfer"
-            ObjektAn " Oben"
+            Roh ObjektAn " Oben"
     Objekt "Tür"
         Fläche
             Rechteck 600 0 640 20
