@@ -36,6 +36,11 @@ public:
                                return std::nullopt;
                            }});
     }
+    // The same at a time of the clock.
+    void schedule(Milliseconds at, std::function<void()> look) {
+        scripted_ = at;
+        then(std::move(look));
+    }
     // Lets time pass before what follows.
     void wait(Milliseconds ms) { scripted_ = now_() + ms; }
 
