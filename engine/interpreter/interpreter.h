@@ -13,7 +13,8 @@ namespace zentrox {
 class Medien;
 
 // So many runs may stand inside each other before the story is stopped. Rooms that lead on by their start scripts
-// nest as deep as their chain is long; the bound lies where the stack still has room, sanitizers included.
+// nest as deep as their chain is long. A level takes 2 to 3 KB of stack with sanitizers, its room window not
+// counted, so there is room to spare.
 constexpr int TiefsterLauf = 500;
 // More options than this in one choice are damaged data.
 constexpr int MeisteOptionen = 1000;

@@ -106,6 +106,9 @@ TEST_F(Commands, TheEvilCounterKeepsItsFlag) {
     führeAus({{"LöscheMerker"_t, "böse"_t}, {"BöseÄndern"_t, "1"}});
     EXPECT_EQ(z.BösePunkte, 2);
     EXPECT_FALSE(MerkerGesetzt(z, "BÖSE"_t)) << "only a crossing sets the flag again";
+    z.BösePunkte = 0;
+    führeAus({{"SetzeMerker", "böse"_t}, {"BöseÄndern"_t, "-1"}});
+    EXPECT_TRUE(MerkerGesetzt(z, "BÖSE"_t)) << "and only a crossing clears it";
 }
 
 TEST_F(Commands, TheCountDownHasAPeriodInSeconds) {
@@ -220,6 +223,10 @@ TEST_F(Commands, AChoiceMeasuresItsLines) {
             z.AuswahlErgebnis = 3;
         });
         nach(0, [&] { z.TastenCode = key::enter; });
+    };
+    raum.onWegText = [&] {
+        EXPECT_EQ(raum.pointer, "own") << "busy again";
+        EXPECT_EQ(z.ZeigerLetzter, 1);
     };
     EXPECT_EQ(weg({{"Ton", "a.mp3"},
                    {"Auswahl", "4.4|Was#nun?| Gehen |Bleiben#und warten|"},

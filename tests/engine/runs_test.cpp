@@ -102,7 +102,7 @@ TEST_F(Runs, TheReasonsOfAWaitTellTheStory) {
 
 TEST_F(Runs, ARoomChangeEndsTheRunBehindTheRunOfTheNewRoom) {
     raumdatei("b.lsd", "1,5,\"b1\",4,\"c.lsd\"");
-    raumdatei("c.lsd", "1,5,\"c1\",31,\"2\"");
+    raumdatei("c.lsd", "4,5,\"c1\",31,\"2\",10,\"\",10,\"\",5,\"c2\"");
     betreteRäume();
     // The room's own script runs in place and is overwritten under its own feet.
     z.AktuellerRaum.Startskript = test::skript(
@@ -111,11 +111,11 @@ TEST_F(Runs, ARoomChangeEndsTheRunBehindTheRunOfTheNewRoom) {
     Notizen notizen;
     for (const Text& n : raum.notes)
         if (!n.starts_with("ZeigerLaden") && n != "VersteckeLeiste") notizen.push_back(n);
-    EXPECT_EQ(notizen,
-              (Notizen{"CountDown off", "BildLaden g\\a1", "Lade " + z.PfadRooms + "b.lsd", "CountDown off",
-                       "BildLaden g\\b1", "Lade " + z.PfadRooms + "c.lsd", "CountDown off", "BildLaden g\\c1",
-                       "CountDown off", "CountDown 2000", "CountDown on", "CountDown on", "ZeigerAuffrischen",
-                       "CountDown on", "ZeigerAuffrischen", "CountDown on", "ZeigerAuffrischen"}));
+    EXPECT_EQ(notizen, (Notizen{"CountDown off", "BildLaden g\\a1", "Lade " + z.PfadRooms + "b.lsd",
+                                "CountDown off", "BildLaden g\\b1", "Lade " + z.PfadRooms + "c.lsd",
+                                "CountDown off", "BildLaden g\\c1", "CountDown off", "CountDown 2000",
+                                "CountDown on", "BildLaden g\\c2", "CountDown on", "ZeigerAuffrischen",
+                                "CountDown on", "ZeigerAuffrischen", "CountDown on", "ZeigerAuffrischen"}));
     EXPECT_EQ(z.RaumDatei, "c.lsd");
     EXPECT_FALSE(z.SkriptLäuft);
 }

@@ -21,7 +21,7 @@ public:
 
     // What else happens in a call, where a test wants more than the note.
     std::function<void(TextView)> onLade, onZeigText;
-    std::function<void()> onVersteckeLeiste, onFilmBild;
+    std::function<void()> onWegText, onVersteckeLeiste, onFilmBild;
     std::function<bool()> onSpielLaden;
 
     void Lade(TextView Name) override {
@@ -33,7 +33,10 @@ public:
         note("ZeigText", Text);
         if (onZeigText) onZeigText(Text);
     }
-    void WegText(TextView Text) override { note("WegText", Text); }
+    void WegText(TextView Text) override {
+        note("WegText", Text);
+        if (onWegText) onWegText();
+    }
     // 16 pixels a line.
     int TextHöhe(TextView Text) override {
         return 16 * (1 + static_cast<int>(std::count(Text.begin(), Text.end(), '\n')));
