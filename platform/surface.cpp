@@ -40,7 +40,10 @@ Surface::Surface(Fonts& fonts, Control* parent, const Rect& area, Colour back)
 // --- the stored image, the picture and the screen
 
 Bitmap& Surface::target() {
-    if (autoRedraw_) return image_;
+    if (autoRedraw_) {
+        keepPicture();
+        return image_;
+    }
     if (screen_.empty()) screen_ = image_;
     return screen_;
 }
@@ -67,34 +70,46 @@ void Surface::layGround(Bitmap& onto) const {
     if (picture_) onto.copy(*picture_, {0, 0});
 }
 
+// Most pictures are never drawn on; a copy of one is made only when the first stroke comes.
+void Surface::keepPicture() {
+    if (!untouched_) return;
+    picture_ = image_;
+    untouched_ = false;
+}
+
 void Surface::clear() {
-    layGround(target());
+    if (!untouched_ || !autoRedraw_) layGround(target());
     printed_.clear();
     currentX = 0;
     currentY = 0;
     drawn({{0, 0}, area().size()});
 }
 
-void Surface::adopt(const Bitmap& picture) {
-    picture_ = picture;
-    picture_->setClip(picture_->bounds());
-    layGround(image_);
+void Surface::adopt(Bitmap picture) {
+    picture.setClip(picture.bounds());
+    untouched_ = picture.size() == area().size();
+    if (untouched_) {
+        image_ = std::move(picture);
+        picture_.reset();
+    } else {
+        picture_ = std::move(picture);
+        layGround(image_);
+    }
     printed_.clear();
     screen_ = Bitmap();
     changed();
 }
 
-void Surface::setPicture(const Bitmap& picture) {
-    adopt(picture);
-}
+void Surface::setPicture(const Bitmap& picture) { adopt(picture); }
 
 void Surface::takePicture(Bitmap picture) {
-    resize(picture.size());
-    adopt(picture);
+    setArea({area().at(), picture.size()});
+    adopt(std::move(picture));
 }
 
 void Surface::removePicture() {
     picture_.reset();
+    untouched_ = false;
     layGround(image_);
     printed_.clear();
     screen_ = Bitmap();
@@ -102,6 +117,7 @@ void Surface::removePicture() {
 }
 
 void Surface::resize(Size size) {
+    keepPicture();
     setArea({area().at(), size});
     screen_ = Bitmap();
     Bitmap larger(size, back_);

@@ -85,12 +85,14 @@ private:
     void remember(TextView text);
     // The surface as clearing leaves it: the picture over the back colour.
     void layGround(Bitmap& onto) const;
-    void adopt(const Bitmap& picture);
+    void adopt(Bitmap picture);
+    void keepPicture();
 
     Fonts& fonts_;
     Colour back_;
     bool autoRedraw_ = true;
     std::optional<Bitmap> picture_;
+    bool untouched_ = false;  // the image is the picture, which is then not kept a second time
     Bitmap image_;
     Bitmap screen_;  // empty as long as it would equal the stored image
     std::vector<Text> printed_;
