@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "main/spiel.h"
+#include "platform/roots.h"
 #include "platform/sdl/desktop.h"
-#include "platform/sdl/roots.h"
 #include "platform/sdl/sound/sound.h"
 #include "platform/system.h"
 
@@ -78,7 +78,7 @@ int main(int argc, char** argv) {
     const auto fonts = makeFonts();
     const auto sound = desktopSound(options.directory);
     Platform platform(desktop, *fonts, *sound, options.directory);
-    platform.roots = sdl::roots(options.directory);
+    platform.roots = searchRoots(options.directory);
     const auto zustand = std::make_unique<Zustand>();
     return Spielen(platform, *zustand, fromUtf8(options.commandLine));
 }
