@@ -48,6 +48,20 @@ bool plausibleBitmap(const FileBytes& file) {
 
 constexpr std::string_view pngMagic = "\x89PNG\r\n\x1A\n";
 
+constexpr std::size_t chunkHead = 8;  // length and name
+constexpr std::size_t chunkSum = 4;
+
+// Goes from chunk to chunk up to the one at the end: the decoder takes whatever lies in memory for what is cut off.
+bool completePng(const FileBytes& file) {
+    for (std::size_t at = pngMagic.size(); file.has(at, chunkHead);) {
+        const std::size_t length = file.bigU32(at);
+        if (!file.has(at + chunkHead, length + chunkSum)) return false;
+        if (file.from(at + 4).starts_with("IEND")) return true;
+        at += chunkHead + length + chunkSum;
+    }
+    return false;
+}
+
 bool plausiblePng(const FileBytes& file) {
     return file.has(16, 8) && plausible(file.bigU32(16), file.bigU32(20), file.size() * pngPixelsPerByte);
 }
@@ -100,7 +114,7 @@ bool completeJpeg(const FileBytes& file) {
 
 const char* usableFormat(const FileBytes& file) {
     if (file.startsWith("BM")) return plausibleBitmap(file) ? "BMP" : nullptr;
-    if (file.startsWith(pngMagic)) return plausiblePng(file) ? "PNG" : nullptr;
+    if (file.startsWith(pngMagic)) return plausiblePng(file) && completePng(file) ? "PNG" : nullptr;
     if (file.startsWith(jpegMagic)) return completeJpeg(file) ? "JPG" : nullptr;
     return nullptr;
 }
