@@ -30,15 +30,25 @@ TEST(OpcodeTable, EachRowStandsAtItsNumber) {
     EXPECT_EQ(findOpcode(33), nullptr);
     EXPECT_EQ(findOpcode("text"), nullptr);
     const std::pair<TextView, std::int32_t> benannt[]{{"WennMerker", opcode::WennMerker},
+                                                      {"SetzeMerker", opcode::SetzeMerker},
+                                                      {"Raumwechsel", opcode::Raumwechsel},
+                                                      {"NimmGegenstand", opcode::NimmGegenstand},
+                                                      {"GibGegenstand", opcode::GibGegenstand},
                                                       {"WennParameter", opcode::WennParameter},
                                                       {"Sonst", opcode::Sonst},
                                                       {"EndeWenn", opcode::EndeWenn},
+                                                      {"LöscheMerker"_t, opcode::LöscheMerker},
                                                       {"Fehlerton", opcode::Fehlerton},
+                                                      {"RahmenAuf", opcode::RahmenAuf},
+                                                      {"BöseÄndern"_t, opcode::BöseÄndern},
                                                       {"Auswahl", opcode::Auswahl},
                                                       {"Fall", opcode::Fall},
                                                       {"EndeAuswahl", opcode::EndeAuswahl},
+                                                      {"Spiel", opcode::Spiel},
                                                       {"Springe", opcode::Springe},
-                                                      {"Marke", opcode::Marke}};
+                                                      {"Marke", opcode::Marke},
+                                                      {"System", opcode::System},
+                                                      {"CountDownSetzen", opcode::CountDownSetzen}};
     for (const auto& [name, nummer] : benannt) EXPECT_EQ(findOpcode(nummer)->name, name);
 }
 

@@ -34,8 +34,8 @@ TEST_F(Flow, ConditionsTakeOneBranch) {
 }
 
 TEST_F(Flow, AParameterIsComparedInUpperCase) {
-    const std::vector<test::Zeile> s{
-        {"WennParameter", " schlüssel"_t}, {"ZeigBild", "1"}, {"EndeWenn"}, {"ZeigBild", "2"}};
+    const TextView name = " schlüssel"_t;
+    const std::vector<test::Zeile> s{{"WennParameter", name}, {"ZeigBild", "1"}, {"EndeWenn"}, {"ZeigBild", "2"}};
     EXPECT_EQ(weg(s, Text("SCHLÜSSEL"_t)), "1 2");
     EXPECT_EQ(weg(s, Text("SCHLÜSSELBUND"_t)), "2");
     EXPECT_EQ(weg(s, Text("schlüssel"_t)), "2") << "the parameter itself is taken as it is";
