@@ -23,6 +23,7 @@ public:
     std::vector<Text> opens;  // names of the windows opened, in order
     int restarts = 0;
     int presents = 0;
+    std::function<void()> onPresent;
     int sleeps = 0;
 
     // --- the script: each of these is done once the one before is, in a turn of its own
@@ -99,7 +100,10 @@ public:
     void closed(Window& /*window*/) override {}
     void reshaped(Window& /*window*/) override {}
     void pointerChanged(Window& /*window*/) override {}
-    void present(const std::vector<Window*>& /*windows*/) override { ++presents; }
+    void present(const std::vector<Window*>& /*windows*/) override {
+        ++presents;
+        if (onPresent) onPresent();
+    }
     void messageBoxOpened(const MessageBox& box) override { boxes.push_back(box); }
     std::array<std::uint8_t, 256> keys() override { return held_; }
     std::string clipboard() override { return clip; }

@@ -1,0 +1,150 @@
+// The real program under a display of its own: how soon its first room stands, what it takes while it stands idle.
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <benchmark/benchmark.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+
+// Another program, ended with this object.
+class Process {
+public:
+    explicit Process(std::vector<std::string> words) {
+        std::vector<char*> arguments;
+        for (std::string& word : words) arguments.push_back(word.data());
+        arguments.push_back(nullptr);
+        id_ = fork();
+        if (id_ == 0) {
+            execv(arguments[0], arguments.data());
+            _exit(127);
+        }
+    }
+    ~Process() {
+        kill(id_, SIGKILL);
+        waitpid(id_, nullptr, 0);
+    }
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+    pid_t id() const { return id_; }
+
+private:
+    pid_t id_ = 0;
+};
+
+// An X server without a screen, and a look at its middle.
+class Screen {
+public:
+    Screen() : server_({XVFB_PROGRAM, ":97", "-screen", "0", "800x600x24", "-nolisten", "tcp"}) {
+        setenv("DISPLAY", ":97", 1);
+        setenv("ZENTROX_SOUND", "none", 1);
+        for (int i = 0; i < 100 && display_ == nullptr; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            display_ = XOpenDisplay(":97");
+        }
+        if (display_ == nullptr) throw std::runtime_error("no display");
+    }
+    ~Screen() { XCloseDisplay(display_); }
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    // The root window is black where no picture stands.
+    bool shown() const {
+        XImage* const image = XGetImage(display_, DefaultRootWindow(display_), 400, 300, 1, 1, AllPlanes, ZPixmap);
+        const bool lit = (XGetPixel(image, 0, 0) & 0xFFFFFFU) != 0;
+        XDestroyImage(image);
+        return lit;
+    }
+
+private:
+    Process server_;
+    Display* display_ = nullptr;
+};
+
+Screen& screen() {
+    static Screen one;
+    return one;
+}
+
+// A small story to stand in.
+const fs::path& story() {
+    static const fs::path directory = [] {
+        fs::path made = fs::temp_directory_path() / ("zentrox-bench-" + std::to_string(getpid()));
+        const std::string command = std::string(STORY_COMPILER) + " new '" + made.string() + "' >/dev/null";
+        if (std::system(command.c_str()) != 0) throw std::runtime_error("no story");
+        return made;
+    }();
+    return directory;
+}
+
+std::vector<std::string> game() { return {ZENTROX_PROGRAM, "--dir", story().string(), "Start.lsd"}; }
+
+double untilShown(const std::vector<std::string>& command) {
+    while (screen().shown()) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    const auto begin = Clock::now();
+    const Process process(command);
+    while (!screen().shown()) {
+        if (Clock::now() - begin > std::chrono::seconds(20)) throw std::runtime_error("nothing is shown");
+        std::this_thread::sleep_for(std::chrono::microseconds(500));
+    }
+    return std::chrono::duration<double>(Clock::now() - begin).count();
+}
+
+void bareWindow(benchmark::State& state) {
+    for (auto _ : state) state.SetIterationTime(untilShown({BARE_WINDOW}));
+}
+BENCHMARK(bareWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+
+void firstRoom(benchmark::State& state) {
+    for (auto _ : state) state.SetIterationTime(untilShown(game()));
+}
+BENCHMARK(firstRoom)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+
+double fieldOf(pid_t id, const char* name) {
+    std::ifstream status("/proc/" + std::to_string(id) + "/status");
+    std::string line;
+    while (std::getline(status, line))
+        if (line.rfind(name, 0) == 0) return std::strtod(line.c_str() + std::string(name).size() + 1, nullptr);
+    return 0;
+}
+
+double processorSeconds(pid_t id) {
+    std::ifstream file("/proc/" + std::to_string(id) + "/schedstat");
+    double nanoseconds = 0;
+    file >> nanoseconds;
+    return nanoseconds / 1e9;
+}
+
+void idleRoom(benchmark::State& state) {
+    constexpr double seconds = 10;
+    for (auto _ : state) {
+        while (screen().shown()) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        const Process process(game());
+        std::this_thread::sleep_for(std::chrono::seconds(4));  // the start script is over
+        const double before = processorSeconds(process.id());
+        const double wakesBefore = fieldOf(process.id(), "voluntary_ctxt_switches");
+        const auto begin = Clock::now();
+        std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
+        const double passed = std::chrono::duration<double>(Clock::now() - begin).count();
+        state.SetIterationTime(passed);
+        state.counters["core_percent"] = 100 * (processorSeconds(process.id()) - before) / passed;
+        state.counters["wakes_per_s"] = (fieldOf(process.id(), "voluntary_ctxt_switches") - wakesBefore) / passed;
+        state.counters["resident_MB"] = fieldOf(process.id(), "VmRSS") / 1024;
+    }
+}
+BENCHMARK(idleRoom)->UseManualTime()->Iterations(1);
+
+}  // namespace
