@@ -100,7 +100,9 @@ void Surface::adopt(Bitmap picture) {
     changed();
 }
 
-void Surface::setPicture(const Bitmap& picture) { adopt(picture); }
+void Surface::setPicture(const Bitmap& picture) {
+    adopt(picture);
+}
 
 void Surface::takePicture(Bitmap picture) {
     setArea({area().at(), picture.size()});
