@@ -12,6 +12,6 @@ constexpr int clean = 0;
 constexpr int hasFindings = 1;
 constexpr int wrongCall = 2;
 
-int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err);
+int run(std::vector<std::string> arguments, std::ostream& out, std::ostream& err);
 
 }  // namespace zentrox::story

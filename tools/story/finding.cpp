@@ -5,6 +5,8 @@
 #include <set>
 #include <tuple>
 
+#include "tools/story/grammar.h"
+
 namespace zentrox::story {
 
 namespace {
@@ -32,14 +34,14 @@ std::string quotedJson(std::string_view utf8) {
     return out + '"';
 }
 
-// How many single characters have to change to get from one word to the other, without regard to case.
+// How many single characters have to change to get from one word to the other.
 std::size_t distance(TextView a, TextView b) {
     std::vector<std::size_t> row(b.size() + 1);
     for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
     for (std::size_t i = 1; i <= a.size(); ++i) {
         std::size_t diagonal = row[0]++;
         for (std::size_t j = 1; j <= b.size(); ++j) {
-            const std::size_t changed = diagonal + (lower(a[i - 1]) != lower(b[j - 1]) ? 1 : 0);
+            const std::size_t changed = diagonal + (a[i - 1] != b[j - 1] ? 1 : 0);
             diagonal = row[j];
             row[j] = std::min({row[j] + 1, row[j - 1] + 1, changed});
         }
@@ -119,14 +121,16 @@ std::string shown(TextView text) {
 
 std::string perhaps(TextView word, const std::vector<Text>& candidates) {
     const Text* best = nullptr;
-    std::size_t least = std::max<std::size_t>(word.size() / 3, 1) + 1;
+    const Text sought = normalised(word.substr(0, longestShown));
+    std::size_t least = std::max<std::size_t>(sought.size() / 3, 1) + 1;
     for (const Text& candidate : candidates) {
-        const std::size_t far = distance(word.substr(0, longestShown), candidate);
+        if (candidate.empty() || candidate.size() > longestShown) continue;
+        const std::size_t far = distance(sought, normalised(candidate));
         if (far >= least) continue;
         least = far;
         best = &candidate;
     }
-    return best ? "; gemeint ist vielleicht " + shown(*best) : "";
+    return best && sought.size() > 1 ? "; gemeint ist vielleicht " + shown(*best) : "";
 }
 
 }  // namespace zentrox::story

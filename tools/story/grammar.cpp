@@ -103,7 +103,7 @@ bool isBareWord(TextView text) {
 }
 
 std::string bareOrQuoted(TextView text) {
-    return isBareWord(text) ? toUtf8(text) : quoted(text);
+    return isBareWord(text) ? toUtf8(text) : inQuotes(text);
 }
 
 std::vector<Text> split(TextView text, char mark) {
@@ -140,7 +140,7 @@ std::string writtenFields(const Opcode& opcode, const std::vector<Text>& fields)
         if (numbers && i == 0 && (fields[0] == "1" || fields[0] == "2"))
             out += toUtf8(fields[0] == "1" ? numbers->one : numbers->two);
         else
-            out += takesBareWord(opcode.arg, i) ? bareOrQuoted(fields[i]) : quoted(fields[i]);
+            out += takesBareWord(opcode.arg, i) ? bareOrQuoted(fields[i]) : inQuotes(fields[i]);
     }
     return out;
 }
@@ -157,6 +157,10 @@ bool comesBack(const Opcode& opcode, const std::string& written, TextView argume
 }
 
 }  // namespace
+
+std::span<const Form> allForms() {
+    return forms;
+}
 
 const Form& formOf(Arg arg) {
     return *std::find_if(forms.begin(), forms.end(), [&](const Form& form) { return form.arg == arg; });
@@ -240,7 +244,7 @@ std::vector<Place> linePlaces(std::span<const Token> words) {
 
 std::optional<std::vector<std::string>> writtenArgument(const Opcode& opcode, TextView argument) {
     if (opcode.arg == Arg::choice || opcode.arg == Arg::option) return std::nullopt;
-    if (opcode.arg == Arg::text) return quotedLines(argument);
+    if (opcode.arg == Arg::text) return linesInQuotes(argument);
     const Form& form = formOf(opcode.arg);
     std::string written;
     if (!argument.empty() || form.least > 0)
@@ -249,7 +253,7 @@ std::optional<std::vector<std::string>> writtenArgument(const Opcode& opcode, Te
     return std::vector{written};
 }
 
-std::string quoted(TextView text) {
+std::string inQuotes(TextView text) {
     constexpr std::string_view hex = "0123456789ABCDEF";
     std::string out;
     bool open = false;
@@ -272,9 +276,9 @@ std::string quoted(TextView text) {
     return out;
 }
 
-std::vector<std::string> quotedLines(TextView text) {
+std::vector<std::string> linesInQuotes(TextView text) {
     std::vector<std::string> lines;
-    for (const Text& line : split(text, lineMark)) lines.push_back(quoted(line));
+    for (const Text& line : split(text, lineMark)) lines.push_back(inQuotes(line));
     return lines;
 }
 

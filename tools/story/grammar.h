@@ -19,6 +19,7 @@ struct Form {
     const char* meaning;  // for the reference page
 };
 
+std::span<const Form> allForms();
 const Form& formOf(Arg arg);
 
 // A keyword or command word as it is looked up: without regard to case, "ae" for "ä" and so on.
@@ -39,8 +40,8 @@ std::vector<Place> linePlaces(std::span<const Token> words);
 // line is one entry, of everything else all stands in one.
 std::optional<std::vector<std::string>> writtenArgument(const Opcode& opcode, TextView argument);
 // A text in quotes, characters that have no place between quotes by their number.
-std::string quoted(TextView text);
+std::string inQuotes(TextView text);
 // The lines of a shown text, each in quotes.
-std::vector<std::string> quotedLines(TextView text);
+std::vector<std::string> linesInQuotes(TextView text);
 
 }  // namespace zentrox::story

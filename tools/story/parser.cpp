@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::size_t deepestInclude = 50;
 constexpr int mostIncludes = 10000;
-constexpr std::size_t shortestItem = 5;  // a character, a dot, and three of an extension
+constexpr std::size_t shortestItem = 5;  // a character, and the four of an extension
 constexpr double farthest = 1e6;         // pixels; beyond that lies no corner
 
 constexpr std::string_view outsideScript =
@@ -414,9 +414,9 @@ private:
         keepItem_ = oneName(s) && isPlainFileName(s[1]);
         if (!keepItem_) return;
         item_ = s[1];
-        if (item_.value.size() < shortestItem || item_.value[item_.value.size() - 4] != '.') {
+        if (item_.value.size() < shortestItem || item_.value.find('.', 1) == Text::npos) {
             findings_.broken(item_.place, "name",
-                             "ein Gegenstand heißt wie sein Bild, mit drei Buchstaben hinter dem Punkt, etwa "
+                             "ein Gegenstand heißt wie die Datei seines Bildes, etwa "
                              "\"schluessel.bmp\"; hier steht " +
                                  shown(item_.value));
             keepItem_ = false;

@@ -13,6 +13,27 @@ Place ScriptPlaces::argument(std::size_t index) const {
     return command.argument.empty() ? command.command : command.argument.front();
 }
 
+std::vector<ScriptView> scriptsOf(const StoryRoom& room) {
+    using Role = ScriptView::Role;
+    std::vector<ScriptView> views{{room.room.Startskript, room.start, &room, Role::start}};
+    for (std::size_t i = 0; i < room.room.Objekte.size(); ++i)
+        for (std::size_t which = 0; which < room.room.Objekte[i].Aktion.size(); ++which)
+            views.push_back(
+                {room.room.Objekte[i].Aktion[which], room.objects[i].action[which], &room, Role::action});
+    views.push_back({room.room.CountDownSkript, room.countDown, &room, Role::countDown});
+    return views;
+}
+
+std::vector<ScriptView> scriptsOf(const Story& story) {
+    std::vector<ScriptView> views;
+    for (const StoryRoom& room : story.rooms) {
+        for (const ScriptView& view : scriptsOf(room)) views.push_back(view);
+    }
+    for (const StoryScript& script : story.scripts)
+        views.push_back({script.script, script.places, nullptr, ScriptView::Role::item});
+    return views;
+}
+
 Text itemScriptFile(TextView picture, std::size_t which) {
     const TextView base = picture.substr(0, picture.size() - std::min(picture.size(), extensionLength));
     return Text(base) + std::to_string(which) + ".skp";

@@ -76,6 +76,19 @@ struct Story {
     std::vector<Item> items;
 };
 
+// One script of a story and where it belongs.
+struct ScriptView {
+    enum class Role { start, countDown, action, item };
+    const Skript& script;
+    const ScriptPlaces& places;
+    const StoryRoom* room = nullptr;  // null for the script of an item
+    Role role = Role::item;
+};
+
+// All scripts, rooms first, in their order.
+std::vector<ScriptView> scriptsOf(const Story& story);
+std::vector<ScriptView> scriptsOf(const StoryRoom& room);
+
 // The script file of an item: `which` is 0 for the right button, 1 for the left one, 2 for a dropped item.
 Text itemScriptFile(TextView picture, std::size_t which);
 

@@ -1,0 +1,134 @@
+#include "tools/story/blocks.h"
+
+#include <algorithm>
+
+#include "engine/interpreter/opcodes.h"
+#include "engine/state/felder.h"
+
+namespace zentrox::story {
+
+namespace {
+
+constexpr char optionMark = '|';
+
+bool isCondition(std::int32_t command) {
+    return command == opcode::WennMerker || command == opcode::WennParameter;
+}
+
+// Walks over a script once and keeps the blocks that are open.
+class BlockFinder {
+public:
+    explicit BlockFinder(const Skript& script) : script_(script) {
+        result_.blockOf.assign(script.Befehl.size(), nowhere);
+    }
+
+    Blocks find() {
+        for (std::size_t i = 0; i < script_.Befehl.size(); ++i) step(i);
+        while (!open_.empty()) leaveOpen();
+        std::sort(result_.problems.begin(), result_.problems.end(),
+                  [](const BlockProblem& a, const BlockProblem& b) { return a.index < b.index; });
+        return std::move(result_);
+    }
+
+private:
+    bool isChoice(const Block& block) const { return script_.Befehl[block.begin] == opcode::Auswahl; }
+
+    void step(std::size_t i) {
+        const std::int32_t command = script_.Befehl[i];
+        if (isCondition(command) || command == opcode::Auswahl) {
+            Block block;
+            block.begin = i;
+            open_.push_back(std::move(block));
+        }
+        if (command == opcode::Sonst) otherwise(i);
+        if (command == opcode::Fall) aCase(i);
+        if (command == opcode::EndeWenn) close(i, false);
+        if (command == opcode::EndeAuswahl) close(i, true);
+    }
+
+    void problem(std::size_t i, const std::string& message) { result_.problems.push_back({i, message}); }
+
+    void otherwise(std::size_t i) {
+        if (open_.empty() || isChoice(open_.back()))
+            problem(i, "\"Sonst\" gehört in ein WennMerker oder WennParameter, hier ist keines offen");
+        else if (open_.back().otherwise != nowhere)
+            problem(i, "dieses Wenn hat schon ein \"Sonst\"; was danach kommt, gehört hinter EndeWenn");
+        else
+            open_.back().otherwise = i;
+    }
+
+    void aCase(std::size_t i) {
+        if (!open_.empty() && isChoice(open_.back()))
+            open_.back().cases.push_back(i);
+        else
+            problem(i, open_.empty() ? "\"Fall\" gehört in eine Auswahl, hier ist keine offen"
+                                     : "vor \"Fall\" fehlt ein EndeWenn");
+    }
+
+    void close(std::size_t i, bool choice) {
+        const auto match = std::find_if(open_.rbegin(), open_.rend(),
+                                        [&](const Block& block) { return isChoice(block) == choice; });
+        if (match == open_.rend()) {
+            problem(i, choice ? "\"EndeAuswahl\" schließt nichts, hier ist keine Auswahl offen"
+                              : "\"EndeWenn\" schließt nichts, hier ist kein Wenn offen");
+            return;
+        }
+        const auto depth = static_cast<std::size_t>(open_.rend() - match);
+        while (open_.size() > depth) leaveOpen();
+        keep(i);
+    }
+
+    void keep(std::size_t end) {
+        Block block = std::move(open_.back());
+        open_.pop_back();
+        block.end = end;
+        const std::size_t number = result_.all.size();
+        result_.blockOf[block.begin] = result_.blockOf[end] = number;
+        if (block.otherwise != nowhere) result_.blockOf[block.otherwise] = number;
+        for (const std::size_t i : block.cases) result_.blockOf[i] = number;
+        result_.all.push_back(std::move(block));
+    }
+
+    void leaveOpen() {
+        const Block& block = open_.back();
+        problem(block.begin,
+                isChoice(block) ? "dieser Auswahl fehlt ihr EndeAuswahl" : "diesem Wenn fehlt sein EndeWenn");
+        open_.pop_back();
+    }
+
+    const Skript& script_;
+    Blocks result_;
+    std::vector<Block> open_;
+};
+
+}  // namespace
+
+Blocks findBlocks(const Skript& script) {
+    return BlockFinder(script).find();
+}
+
+TextView argumentOf(const Skript& script, std::size_t index) {
+    return index < script.Argument.size() ? TextView(script.Argument[index]) : TextView();
+}
+
+ChoiceText splitChoice(TextView argument) {
+    std::vector<Text> fields;
+    for (std::size_t end = 0; end != TextView::npos; argument.remove_prefix(std::min(end + 1, argument.size()))) {
+        end = argument.find(optionMark);
+        fields.emplace_back(argument.substr(0, end));
+    }
+    ChoiceText result;
+    result.announced = Zahl(fields[0]);
+    if (fields.size() > 1) result.question = fields[1];
+    for (std::size_t i = 2; i < fields.size(); ++i) result.options.push_back(fields[i]);
+    while (!result.options.empty() && Getrimmt(result.options.back()).empty() &&
+           static_cast<double>(result.options.size()) > result.announced.value_or(0))
+        result.options.pop_back();
+    return result;
+}
+
+std::int32_t optionCount(TextView argument) {
+    return std::max(Runden(Val(argument.substr(0, argument.find(optionMark)))), 0);
+}
+
+}  // namespace zentrox::story

@@ -1,0 +1,25 @@
+#include "tools/story/check.h"
+
+namespace zentrox::story {
+
+void checkForBuild(const Story& story, Findings& findings) {
+    for (const ScriptView& view : scriptsOf(story)) checkCommands(view, {true, {}}, findings);
+}
+
+void check(const Story& story, const Surroundings& around, Findings& findings) {
+    CommandRules rules;
+    for (const Story* part : {&story, around.rest})
+        for (std::size_t i = 0; part && around.wholeStory && i < part->rooms.size(); ++i)
+            rules.rooms.push_back(&part->rooms[i]);
+    for (const StoryRoom& room : story.rooms) checkRuns(room, findings);
+    for (const ScriptView& view : scriptsOf(story)) {
+        checkCommands(view, rules, findings);
+        checkRun(view, findings);
+        checkTexts(view, around.fonts, findings);
+    }
+    if (around.data) checkFiles(story, around, findings);
+    checkItems(story, around.rest, findings);
+    if (around.wholeStory) checkFlags(story, around.rest, findings);
+}
+
+}  // namespace zentrox::story

@@ -1,0 +1,51 @@
+#include "tools/story/datafiles.h"
+
+#include <algorithm>
+#include <array>
+
+#include "engine/state/felder.h"
+
+namespace zentrox::story {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::array directories{"rooms", "sounds", "graphics", "movies", "cursors", "items", "musics", "games"};
+constexpr std::size_t extensionLength = 3;  // without the dot
+
+bool holdsData(const fs::path& directory) {
+    const Files files(directory);
+    std::error_code error;
+    return std::any_of(directories.begin(), directories.end(),
+                       [&](const char* name) { return fs::is_directory(files.systemPath(name), error); });
+}
+
+}  // namespace
+
+DataFiles::DataFiles(const fs::path& root) : files_(root) {}
+
+bool DataFiles::has(TextView directory, TextView path) const {
+    auto listing = listings_.find(directory);
+    if (listing == listings_.end()) {
+        listing = listings_.emplace(directory, std::set<Text>()).first;
+        for (const Text& name : files_.list(directory)) listing->second.insert(upper(name));
+    }
+    return listing->second.contains(upper(Dateiname(path)));
+}
+
+bool DataFiles::hasSound(TextView path) const {
+    const TextView stem = path.substr(0, path.size() - std::min(path.size(), extensionLength));
+    return has("sounds", path) || has("sounds", Text(stem) + "mp3") || has("sounds", Text(stem) + "wav");
+}
+
+bool DataFiles::hasRoom(TextView path) const {
+    return files_.exists("rooms\\" + Text(path));
+}
+
+fs::path dataRootOf(const fs::path& source) {
+    const fs::path own = fs::absolute(source).lexically_normal().parent_path();
+    return !holdsData(own) && own.has_parent_path() && holdsData(own.parent_path()) ? own.parent_path() : own;
+}
+
+}  // namespace zentrox::story

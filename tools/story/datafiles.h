@@ -1,0 +1,33 @@
+// The data directories beside a story, as the game looks files up in them: by the last component of a path and
+// without regard to case.
+#pragma once
+
+#include <map>
+#include <set>
+
+#include "platform/files.h"
+
+namespace zentrox::story {
+
+class DataFiles {
+public:
+    // `root` is the directory that holds "graphics", "sounds" and so on.
+    explicit DataFiles(const std::filesystem::path& root);
+
+    // A file directly in a data directory; `path` may have directories, which count for nothing.
+    bool has(TextView directory, TextView path) const;
+    // A spoken line, which may be there as mp3 or wav instead.
+    bool hasSound(TextView path) const;
+    // A room, whose directories do count.
+    bool hasRoom(TextView path) const;
+
+private:
+    Files files_;
+    mutable std::map<Text, std::set<Text>, std::less<>> listings_;  // names in upper case
+};
+
+// The nearest of a source's own directory and the one above it that holds data directories; its own where none
+// does.
+std::filesystem::path dataRootOf(const std::filesystem::path& source);
+
+}  // namespace zentrox::story
