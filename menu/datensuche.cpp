@@ -28,7 +28,7 @@ constexpr std::array Verzeichnisse{
 Text cdLaufwerk(const Files& files, const std::vector<std::filesystem::path>& wurzeln) {
     Text gefunden;
     for (const auto& wurzel : wurzeln) {
-        Text pfad = Files::gamePath(wurzel);
+        Text pfad = Files::gamePath(std::filesystem::absolute(wurzel).lexically_normal());
         if (!pfad.ends_with('\\')) pfad += '\\';
         if (files.exists(pfad + Text(Marke))) gefunden = pfad;
     }
