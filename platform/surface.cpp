@@ -65,9 +65,11 @@ void Surface::drawn(const Rect& part) {
 }
 
 void Surface::layGround(Bitmap& onto) const {
-    const bool covers = picture_ && picture_->width() >= onto.width() && picture_->height() >= onto.height();
+    const Bitmap* const picture = untouched_ ? &image_ : picture_ ? &*picture_ : nullptr;
+    const bool covers =
+        picture != nullptr && picture->width() >= onto.width() && picture->height() >= onto.height();
     if (!covers) onto.fill(back_);
-    if (picture_) onto.copy(*picture_, {0, 0});
+    if (picture != nullptr) onto.copy(*picture, {0, 0});
 }
 
 // Most pictures are never drawn on; a copy of one is made only when the first stroke comes.

@@ -87,6 +87,21 @@ TEST_F(Surfaces, PictureEndsWhatWasDrawnOnTheScreenAlone) {
     EXPECT_EQ(surface.screen(), Bitmap({40, 30}, green));
 }
 
+TEST_F(Surfaces, ClearingPastAPictureLeavesThePicture) {
+    const Bitmap picture({40, 30}, green);
+    surface.setPicture(picture);
+    surface.setAutoRedraw(false);
+    surface.clear();
+    EXPECT_EQ(surface.screen(), picture);
+    surface.box({0, 0}, {39, 29}, red);
+    surface.clear();
+    EXPECT_EQ(surface.screen(), picture);
+    surface.setAutoRedraw(true);
+    surface.setPixel({0, 0}, red);
+    surface.clear();
+    EXPECT_EQ(surface.image(), picture);
+}
+
 TEST_F(Surfaces, TakeThePicturesSizeAndKeepWhatFitsInANewOne) {
     surface.takePicture(Bitmap({73, 57}, green));
     EXPECT_EQ(surface.area(), (Rect{0, 0, 73, 57}));
