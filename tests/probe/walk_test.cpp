@@ -16,8 +16,8 @@ std::string refusal(const std::string& line) {
 }
 
 TEST(WalkLanguage, ReadsWordsQuotesAndComments) {
-    const Walk walk = parseWalk("w", "# first\n\n  click right 3 -4   # the door\r\nuse \"rote Tür\"\nuse #1\nsay state\n");
-    ASSERT_EQ(walk.commands.size(), 3U);
+    const Walk walk = parseWalk("w", "# first\n\n  click right 3 -4   # the door\r\nuse \"rote Tür\"\nuse a#1\nsay state\n");
+    ASSERT_EQ(walk.commands.size(), 4U);
     EXPECT_EQ(walk.commands[0].words, (std::vector<std::string>{"right", "3", "-4"}));
     EXPECT_EQ(walk.commands[0].line, 3);
     EXPECT_EQ(walk.commands[1].words, (std::vector<std::string>{"rote Tür"}));
