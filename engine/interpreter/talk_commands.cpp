@@ -52,8 +52,9 @@ void Interpreter::TextZeigen(Lauf& lauf) {
 
 void Interpreter::Film(Lauf& lauf) {
     medien_.VideoStart(z_.PfadMovies + Dateiname(lauf.argument()), false);
-    while (z_.TastenCode != key::escape) {
-        platform_.queue.nextFrame("Film");
+    const auto abgebrochen = [this] { return z_.TastenCode == key::escape; };
+    while (!abgebrochen()) {
+        platform_.queue.waitUntil("Film", abgebrochen, platform_.backend.nextFrame());
         raum_.FilmBild();
         if (medien_.VideoPosition() >= medien_.VideoLänge()) break;
     }

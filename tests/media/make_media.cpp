@@ -50,7 +50,7 @@ struct Track {
 class Writer {
 public:
     explicit Writer(const std::filesystem::path& file) {
-        av_log_set_level(AV_LOG_ERROR);
+        av_log_set_level(AV_LOG_QUIET);
         need(avformat_alloc_output_context2(&format_, nullptr, nullptr, file.c_str()) >= 0, file.c_str());
         need(avio_open(&format_->pb, file.c_str(), AVIO_FLAG_WRITE) >= 0, "file");
     }

@@ -100,9 +100,9 @@ std::int64_t Input::countedLength() {
     while (av_read_frame(format_.get(), packet_.get()) >= 0) {
         if (packet_->stream_index == stream_) {
             const double lasts = static_cast<double>(packet_->duration) * av_q2d(stream().time_base) * 1000;
-            const auto stamp = packet_->pts != AV_NOPTS_VALUE ? packet_->pts : packet_->dts;
-            // Sound has no gaps; its stamps may be guesses.
-            const double begins = sound || stamp == AV_NOPTS_VALUE ? end : milliseconds(stamp);
+            // Sound has no gaps, and its stamps may be guesses. Not every picture has a stamp.
+            const bool stamped = !sound && packet_->pts != AV_NOPTS_VALUE;
+            const double begins = stamped ? milliseconds(packet_->pts) : end;
             end = std::max(end, begins + lasts);
         }
         av_packet_unref(packet_.get());
