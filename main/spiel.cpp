@@ -1,5 +1,8 @@
 #include "main/spiel.h"
 
+#include "games/bruhks/bruhks.h"
+#include "games/jump/jump.h"
+#include "games/pong/pong.h"
 #include "media/medien.h"
 #include "menu/menu.h"
 #include "platform/error.h"
@@ -12,12 +15,21 @@ namespace {
 constexpr int datenfehler = 1;
 
 // The games of the story by their names. A game that is not there yet counts as lost.
-Spieltabelle spiele() { return {}; }
+Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
+    const auto zeigt = [&](void (*spiel)(Platform&, Zustand&, Medien&)) {
+        return [&, spiel] { spiel(platform, zustand, medien); };
+    };
+    return {
+        {"BRUHKS", zeigt(BruhksZeigen)},
+        {"JUMP", zeigt(JumpZeigen)},
+        {"PONG", zeigt(PongZeigen)},
+    };
+}
 
 int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile) {
     try {
         Medien medien(platform, zustand);
-        const Spieltabelle tabelle = spiele();
+        const Spieltabelle tabelle = spiele(platform, zustand, medien);
         const auto form1Zeigen = [&] {
             Form1 form(platform, zustand, medien, tabelle, kommandozeile);
             form.Zeigen();

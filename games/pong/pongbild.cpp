@@ -77,6 +77,12 @@ void Pongbild::schwarz(double x1, double y1, double x2, double y2) {
     Picture1.box(gerundet(x1, y1), gerundet(x2, y2), black);
 }
 
+// The place is rounded as a whole, like the paddle's own; corners rounded each for itself would leave a column.
+void Pongbild::schlägerLöschen(double x, double y) {
+    const Point at = gerundet(x, y);
+    schwarz(at.x - 3, at.y - 53, at.x + 13, at.y + 53);
+}
+
 void Pongbild::malen(const Bitmap& bild, double x, double y, Op op) {
     Picture1.copy(bild, bild.bounds(), gerundet(x, y), op);
 }
@@ -136,7 +142,7 @@ void Pongbild::schlag(Seite seite, const Pongstand& s) {
 void Pongbild::schlagAus(Seite seite, const Pongstand& s) {
     spielerX = ruheSpieler;
     if (seite == Seite::links) {
-        schwarz(gegnerX - 3, s.gegnerY - 53, gegnerX + 13, s.gegnerY + 53);
+        schlägerLöschen(gegnerX, s.gegnerY);
         gegnerX = ruheGegner + schlagWeg;
         malen(bilder_.Image4, gegnerX, s.gegnerY - halbeHöhe);
     } else {
@@ -171,6 +177,8 @@ void Pongbild::funkenMalen(Seite seite) {
 }
 
 void Pongbild::schlagEndet(const Pongstand& s) {
+    // A paddle that was hit while it still punched is further out than the boxes below reach.
+    schlägerLöschen(gegnerX, s.gegnerY);
     spielerX = ruheSpieler;
     gegnerX = ruheGegner;
     schwarz(gegnerX - 23, s.gegnerY - 53, gegnerX + 23, s.gegnerY + 53);
@@ -239,7 +247,7 @@ void Pongbild::gegnerRuht(const Pongstand& s) {
 }
 
 void Pongbild::spielerVorher(const Pongstand& /*s*/) {
-    schwarz(spielerX - 3, spielerYAlt - 53, spielerX + 13, spielerYAlt + 53);
+    schlägerLöschen(spielerX, spielerYAlt);
 }
 
 void Pongbild::spielerNachher(const Pongstand& s) {

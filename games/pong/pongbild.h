@@ -51,6 +51,7 @@ public:
 
 private:
     void schwarz(double x1, double y1, double x2, double y2);
+    void schlägerLöschen(double x, double y);
     void malen(const Bitmap& bild, double x, double y, Op op = Op::plain);
     void schlagAus(Seite seite, const Pongstand& s);
     void schlagEndet(const Pongstand& s);
