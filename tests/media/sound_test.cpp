@@ -1,6 +1,8 @@
 // What the real mixer makes of the game's sounds, by pitch and level.
 #include <gtest/gtest.h>
 
+#include "platform/sdl/sound/soundfont.h"
+#include "platform/sdl/sound/synthesiser.h"
 #include "tests/media/make_media.h"
 #include "tests/media/speaker.h"
 
@@ -185,6 +187,27 @@ TEST(Sound, NamesHaveUmlautsBlanksAndAnyCase) {
     EXPECT_NE(device.openVoice("SOUNDS\\ärger %d.OGG"_t), 0U);
     EXPECT_EQ(device.openVoice("sounds\\grösse a.wav"_t), 0U);
     EXPECT_EQ(device.errorCode(), 2);
+}
+
+TEST(SoundFonts, OfTheDataComeFirstThenThoseOfTheEnvironment) {
+    const TempDirectory directory;
+    const std::string font("RIFF\4\0\0\0sfbk", 12);  // and nothing in it
+    const auto second = directory.write("musics/b.SF2", font);
+    const auto first = directory.write("musics/a.sf2", font);
+    directory.write("musics/c.sf2", "no font");
+    directory.write("musics/lied.mid", font);
+    const auto named = directory.write("named.sf2", font);
+    const Environment fonts("SDL_SOUNDFONTS", "/there/is/none.sf2;" + named.string());
+    const auto found = soundFonts(directory.path() / "musics");
+    ASSERT_GE(found.size(), 3U);
+    EXPECT_EQ(found[0], first);
+    EXPECT_EQ(found[1], second);
+    EXPECT_EQ(found[2], named);
+    EXPECT_EQ(soundFonts(directory.path() / "missing").front(), named);
+
+    EXPECT_FALSE(Synthesiser({first, named}).ready()) << "there is nothing in them";
+    EXPECT_EQ(Synthesiser({first}).play(midiFile({})), nullptr);
+    EXPECT_EQ(Synthesiser(found).ready(), found.size() > 3) << "one of the system's is taken, if there is one";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <fstream>
 #include <string>
 #include <system_error>
 
@@ -26,10 +27,14 @@ constexpr std::array fontDirectories{
     "/usr/local/share/sounds/sf2", "/usr/share/sounds/sf3",
 };
 
+// By its content as well: what only has the name would be tried as all kinds of things.
 bool isFont(const fs::path& file) {
     const auto extension = lower(file.extension().string());
-    std::error_code failed;
-    return (extension == ".sf2" || extension == ".sf3") && fs::is_regular_file(file, failed);
+    if (extension != ".sf2" && extension != ".sf3") return false;
+    std::array<char, 12> begin{};
+    std::ifstream(file, std::ios::binary).read(begin.data(), begin.size());
+    const std::string_view magic(begin.data(), begin.size());
+    return magic.starts_with("RIFF") && magic.ends_with("sfbk");
 }
 
 void addFonts(Paths& fonts, const fs::path& directory) {
@@ -45,8 +50,7 @@ void addNamed(Paths& fonts, const std::string& list) {
     for (std::size_t from = 0; from < list.size();) {
         const auto to = std::min(list.find_first_of(":;", from), list.size());
         const fs::path font = list.substr(from, to - from);
-        std::error_code failed;
-        if (fs::is_regular_file(font, failed)) fonts.push_back(font);
+        if (isFont(font)) fonts.push_back(font);
         from = to + 1;
     }
 }
