@@ -68,11 +68,7 @@ Options readOptions(const std::vector<std::string>& words) {
     return options;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    const Options options = readOptions({argv + 1, argv + argc});
-    if (options.status >= 0) return options.status;
+int play(const Options& options) {
     const Files files(options.directory);
     sdl::Desktop desktop(files, {programFile().string(), "--dir", options.directory.string()});
     const auto fonts = makeFonts();
@@ -81,4 +77,18 @@ int main(int argc, char** argv) {
     platform.roots = searchRoots(options.directory);
     const auto zustand = std::make_unique<Zustand>();
     return Spielen(platform, *zustand, fromUtf8(options.commandLine));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const Options options = readOptions({argv + 1, argv + argc});
+    if (options.status >= 0) return options.status;
+    try {
+        return play(options);
+    } catch (const std::exception& error) {
+        // No font at all, say: there is nothing then to show a message with.
+        std::cerr << "zentrox: " << error.what() << '\n';
+        return 1;
+    }
 }

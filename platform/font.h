@@ -31,12 +31,12 @@ public:
     Size measure(TextView text) const;
 };
 
-// Gives fonts by their specification and keeps them. A family that the system lacks has a stand-in.
+// Gives the fonts that are asked for and keeps them. A family that the system lacks has a stand-in.
 class Fonts {
 public:
     virtual ~Fonts() = default;
     // Points are rounded to whole pixels, at least 1 and at most 400.
-    virtual const Font& get(const FontSpec& spec) = 0;
+    virtual const Font& get(const FontSpec& wanted) = 0;
 };
 
 std::unique_ptr<Fonts> makeFonts();

@@ -56,8 +56,8 @@ Rect shrunk(const Rect& area, int by) {
     return {area.x + by, area.y + by, area.w - 2 * by, area.h - 2 * by};
 }
 
-const Font& fontFor(const Control& control, const FontSpec& spec) {
-    return control.window()->platform().fonts.get(spec);
+const Font& fontFor(const Control& control, const FontSpec& wanted) {
+    return control.window()->platform().fonts.get(wanted);
 }
 
 }  // namespace zentrox::look

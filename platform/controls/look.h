@@ -31,7 +31,7 @@ void arrow(Bitmap& onto, const Rect& area, bool up, Colour colour);
 Rect shrunk(const Rect& area, int by);
 
 // A font for a control that stands in a window.
-const Font& fontFor(const Control& control, const FontSpec& spec);
+const Font& fontFor(const Control& control, const FontSpec& wanted);
 
 // Holds all drawing to `part` of what was allowed before, for the length of a scope.
 class Clip {

@@ -274,15 +274,15 @@ struct FontKey {
 
 class SystemFonts : public Fonts {
 public:
-    const Font& get(const FontSpec& spec) override {
-        if (lastFont_ != nullptr && spec == lastSpec_) return *lastFont_;
-        const bool fixed = equalIgnoringCase(spec.family, cellFamily);
-        const FontKey key{lower(spec.family), fixed || spec.bold,
-                          fixed ? cellOutlinePixels : pixelsOf(spec.points)};
+    const Font& get(const FontSpec& wanted) override {
+        if (lastFont_ != nullptr && wanted == lastSpec_) return *lastFont_;
+        const bool fixed = equalIgnoringCase(wanted.family, cellFamily);
+        const FontKey key{lower(wanted.family), fixed || wanted.bold,
+                          fixed ? cellOutlinePixels : pixelsOf(wanted.points)};
         auto& font = fonts_[key];
         if (!font)
             font = std::make_unique<SizedFont>(face(key), key.pixels, fixed ? std::optional(cell) : std::nullopt);
-        lastSpec_ = spec;
+        lastSpec_ = wanted;
         lastFont_ = font.get();
         return *font;
     }

@@ -13,10 +13,10 @@ class SystemFonts : public ::testing::Test {
 protected:
     std::unique_ptr<Fonts> fonts = makeFonts();
 
-    Bitmap drawn(const FontSpec& spec, TextView line, Rect clip = {0, 0, 600, 200}) {
+    Bitmap drawn(const FontSpec& wanted, TextView line, Rect clip = {0, 0, 600, 200}) {
         Bitmap bitmap({600, 200});
         bitmap.setClip(clip);
-        fonts->get(spec).draw(bitmap, {50, 50}, line, white);
+        fonts->get(wanted).draw(bitmap, {50, 50}, line, white);
         return bitmap;
     }
 
@@ -35,11 +35,11 @@ const std::vector<FontSpec> specsOfTheGame{
     {"Gibt Es Nicht", 12, false}};
 
 TEST_F(SystemFonts, FixedsysHasACellOfEightByFourteen) {
-    for (const FontSpec& spec : {FontSpec{"Fixedsys", 9, true}, {"fixedsys", 72, false}}) {
-        const Font& font = fonts->get(spec);
+    for (const FontSpec& wanted : {FontSpec{"Fixedsys", 9, true}, {"fixedsys", 72, false}}) {
+        const Font& font = fonts->get(wanted);
         EXPECT_EQ(font.lineHeight(), 14);
         for (int c = 0; c < 256; ++c) EXPECT_EQ(font.width(Text(1, static_cast<char>(c))), 8);
-        const Rect area = extent(drawn(spec, "Ägq|"_t));
+        const Rect area = extent(drawn(wanted, "Ägq|"_t));
         EXPECT_GE(area.x, 50);
         EXPECT_GE(area.y, 50);
         EXPECT_LE(area.right(), 50 + 32);
@@ -58,8 +58,8 @@ TEST_F(SystemFonts, TheSmallFontIsOfTheUsualSizeAndCrisp) {
 }
 
 TEST_F(SystemFonts, WidthsAddUp) {
-    for (const FontSpec& spec : specsOfTheGame) {
-        const Font& font = fonts->get(spec);
+    for (const FontSpec& wanted : specsOfTheGame) {
+        const Font& font = fonts->get(wanted);
         const TextView text = "AVATAR, Wäre To. fi 11"_t;
         for (std::size_t cut = 0; cut <= text.size(); ++cut)
             EXPECT_EQ(font.width(text.substr(0, cut)) + font.width(text.substr(cut)), font.width(text));
@@ -74,34 +74,34 @@ TEST_F(SystemFonts, SeveralLinesMeasureAllTheirLines) {
 }
 
 TEST_F(SystemFonts, LettersStayNearTheirCells) {
-    for (const FontSpec& spec : specsOfTheGame) {
-        const Font& font = fonts->get(spec);
+    for (const FontSpec& wanted : specsOfTheGame) {
+        const Font& font = fonts->get(wanted);
         for (const char c : "ÄÖÜäöüßjfWg€"_t) {
-            const Rect area = extent(drawn(spec, Text(1, c)));
-            ASSERT_FALSE(area.empty()) << spec.family << " lacks " << toUtf8(Text(1, c));
+            const Rect area = extent(drawn(wanted, Text(1, c)));
+            ASSERT_FALSE(area.empty()) << wanted.family << " lacks " << toUtf8(Text(1, c));
             const int lean = font.lineHeight() / 4;
             EXPECT_GE(area.x, 50 - lean);
             EXPECT_LE(area.right(), 50 + font.width(Text(1, c)) + lean);
-            EXPECT_GE(area.y, 50 - 1) << spec.family << " " << toUtf8(Text(1, c));
-            EXPECT_LE(area.bottom(), 50 + font.lineHeight() + 1) << spec.family << " " << toUtf8(Text(1, c));
+            EXPECT_GE(area.y, 50 - 1) << wanted.family << " " << toUtf8(Text(1, c));
+            EXPECT_LE(area.bottom(), 50 + font.lineHeight() + 1) << wanted.family << " " << toUtf8(Text(1, c));
         }
         // A capital with dots is the capital with something above it.
-        const Rect plain = extent(drawn(spec, "U"));
-        const Rect dotted = extent(drawn(spec, "Ü"_t));
+        const Rect plain = extent(drawn(wanted, "U"));
+        const Rect dotted = extent(drawn(wanted, "Ü"_t));
         EXPECT_LT(dotted.y, plain.y);
         EXPECT_EQ(dotted.bottom(), plain.bottom());
     }
 }
 
 TEST_F(SystemFonts, DrawingKeepsToTheClip) {
-    for (const FontSpec& spec : specsOfTheGame) {
+    for (const FontSpec& wanted : specsOfTheGame) {
         const TextView text = "Ägypten, jäh"_t;
         const Rect clip{57, 54, 31, 6};
         Bitmap expected({600, 200});
-        expected.copy(drawn(spec, text), clip, clip.at());
-        EXPECT_EQ(drawn(spec, text, clip), expected);
+        expected.copy(drawn(wanted, text), clip, clip.at());
+        EXPECT_EQ(drawn(wanted, text, clip), expected);
         Bitmap tiny({3, 3});
-        for (const int far : {-1 << 30, 1 << 30, -5}) fonts->get(spec).draw(tiny, {far, far}, text, white);
+        for (const int far : {-1 << 30, 1 << 30, -5}) fonts->get(wanted).draw(tiny, {far, far}, text, white);
     }
 }
 

@@ -119,7 +119,7 @@ int main(int argc, char** argv) {
     } catch (const probe::WalkError& error) {
         std::cerr << error.what() << '\n';
         return unreadable;
-    } catch (const fs::filesystem_error& error) {
+    } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return unreadable;
     }
