@@ -12,7 +12,13 @@ namespace zentrox {
 
 class Platform;
 
-enum class Frame { sizable, fixed, dialog, thin, none };
+enum class Frame {
+    sizable,  // a title, a close box, edges that can be dragged
+    fixed,    // a title and a close box
+    dialog,   // the same for a question about the window below; not in the task bar, never full screen
+    thin,     // an edge, no title
+    none,
+};
 
 // What the pointer looks like over a window.
 struct Pointer {

@@ -13,7 +13,7 @@ constexpr Milliseconds soSchnellEsGeht = 1;
 }  // namespace
 
 Pong::Pong(Platform& platform, Zustand& zustand, Medien& medien, Pongbilder bilder)
-    : Window(platform, "Pong", "", fensterfläche, Frame::dialog),
+    : Window(platform, "Pong", "", fensterfläche, Frame::fixed),
       z_(zustand),
       medien_(medien),
       Picture1(platform.fonts, &root(), {0, 0, 641, 449}),
