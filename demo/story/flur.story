@@ -4,6 +4,9 @@ Raum "Flur.lsd"
     Bild "flur.jpg"
     Start
         Musik "flur.mid"
+        WennMerker KELLER_OFFEN
+            SetzeZeiger "Kellertreppe" "tuer1.ico"
+        EndeWenn
         WennMerker FLUR_GESEHEN
         Sonst
             SetzeMerker FLUR_GESEHEN
@@ -16,78 +19,144 @@ Raum "Flur.lsd"
             Vieleck 392 182, 436 182, 446 260, 440 378, 374 378, 378 230
         Rechts
             Ton "velmix-flur-01.wav"
-            Text "Herr Grobbel, der Hausmeister. An seinem Ring fehlt etwas: die Schlüssel."
+            Text "Herr Grobbel, der Hausmeister."
+                 "An seinem Ring fehlt etwas: die Schlüssel."
         Links
+            RahmenAuf
             WennMerker GROBBEL_KENNT
-                RahmenAuf
-                Portrait links "grobbel.jpg"
-                Portrait rechts "velmix.jpg"
-                Ton "grobbel-flur-01.wav"
-                Text "$BNa, Junge? Hast du sie?"
-                RahmenZu
+                WennMerker KELLER_OFFEN
+                    Einbinden "gesicht/grobbel.teil"
+                    Ton "grobbel-flur-01.wav"
+                    Text "$BNa, Junge? Schon unten gewesen? Zieh den Kopf ein. Das Rohr ist von 1912."
+                Sonst
+                    Einbinden "gesicht/grobbel.teil"
+                    Ton "grobbel-flur-02.wav"
+                    Text "$BDer Schlüssel liegt im Gully im Hof. Da kommt man nicht mit der Hand hinein."
+                         "$BMan müsste angeln. Mit etwas, das Eisen mag."
+                EndeWenn
             Sonst
                 SetzeMerker GROBBEL_KENNT
-                RahmenAuf
-                Portrait links "grobbel.jpg"
-                Portrait rechts "velmix.jpg"
+                Einbinden "gesicht/grobbel.teil"
                 Ton "velmix-flur-02.wav"
                 Text "Herr Grobbel, haben Sie eine CD gesehen?"
-                Portrait links "grobbel.jpg"
-                Portrait rechts "velmix.jpg"
-                Ton "grobbel-flur-02.wav"
+                Einbinden "gesicht/grobbel.teil"
+                Ton "grobbel-flur-03.wav"
                 Text "$BHeute Nacht hat es im Keller gebrummt. Bei dem alten Zentrox."
                      "$BDer ist seit 1979 abgeschaltet. Ich habe selbst den Stecker gezogen."
-                Portrait links "grobbel.jpg"
-                Portrait rechts "velmix.jpg"
+                Einbinden "gesicht/grobbel.teil"
                 Ton "velmix-flur-03.wav"
                 Text "Dann lassen Sie mich in den Keller!"
-                Portrait links "grobbel.jpg"
-                Portrait rechts "velmix.jpg"
-                Ton "grobbel-flur-03.wav"
-                Text "$BTät ich ja. Aber der Schlüssel liegt im Gully. Im Hof."
+                Einbinden "gesicht/grobbel.teil"
+                Ton "grobbel-flur-04.wav"
+                Text "$BTät ich ja. Aber der Schlüssel ist mir in den Gully gefallen. Im Hof."
                      "$BUnd auf dem Gully liegt der Esel."
-                RahmenZu
+                Einbinden "gesicht/grobbel.teil"
+                Ton "velmix-flur-04.wav"
+                Text "Das klingt wie eine Ausrede."
+                Einbinden "gesicht/grobbel.teil"
+                Ton "grobbel-flur-05.wav"
+                Text "$BEs ist eine gute Ausrede. Sie ist wahr."
+            EndeWenn
+            RahmenZu
+        Ablegen
+            WennParameter KUCHEN
+                Ton "grobbel-flur-06.wav"
+                Text "$BLass mal. Ich esse nur, was ich nicht aufwischen muss."
+            Sonst
+                WennParameter SCHLUESSEL
+                    Ton "grobbel-flur-07.wav"
+                    Text "$BDa ist er ja! Behalt ihn. Ich bücke mich heute nicht mehr."
+                Sonst
+                    Fehlerton
+                EndeWenn
             EndeWenn
 
     Objekt "Eimer"
-        Zeiger "auge1.ico"
+        Zeiger "hand1.ico"
         Fläche
             Vieleck 306 334, 362 334, 358 400, 310 400
         Rechts
-            Ton "velmix-flur-04.wav"
+            Ton "velmix-flur-05.wav"
             Text "Wasser, ein Schuss Seife und das Gesicht von Herrn Grobbel, verkehrt herum."
+        Links
+            WennMerker EIMER
+                Ton "velmix-flur-06.wav"
+                Text "Der Eimer und ich sind fertig miteinander."
+            Sonst
+                Auswahl "Ein voller Eimer. Herr Grobbel dreht mir den Rücken zu."
+                Fall "Umtreten!"
+                    SetzeMerker EIMER
+                    BöseÄndern 1
+                    Ton "platsch.wav"
+                    Text "Platsch."
+                    Ton "grobbel-flur-08.wav"
+                    Text "$BJunge! Das war der ganze Vormittag!"
+                Fall "Wischen helfen."
+                    SetzeMerker EIMER
+                    BöseÄndern -1
+                    Text "Wisch. Wisch. Wring."
+                    Ton "grobbel-flur-09.wav"
+                    Text "$BNa so was. In dreißig Jahren der Erste. Das merk ich mir."
+                Fall "In Ruhe lassen."
+                    Ton "velmix-flur-07.wav"
+                    Text "Vorerst ist das ein Eimer und sonst nichts."
+                EndeAuswahl
+            EndeWenn
 
     Objekt "Warnschild"
         Zeiger "auge1.ico"
         Fläche
             Vieleck 242 370, 262 370, 292 440, 282 454, 224 454
         Rechts
-            Ton "velmix-flur-05.wav"
+            Ton "velmix-flur-08.wav"
             Text "»NASS«. Ein Schild, das Wort hält."
 
     Objekt "Schultasche"
+        Zeiger "hand1.ico"
+        Fläche
+            Vieleck 56 414, 60 350, 84 338, 108 338, 132 352, 136 412
+        Rechts
+            Ton "velmix-flur-09.wav"
+            Text "Meine alte Schultasche. Drei Jahre Oberstufe, davon zwei Kilo Krümel."
+        Links
+            WennMerker ZETTEL
+                Ton "velmix-flur-10.wav"
+                Text "Jetzt ist nur noch der Turnbeutel drin. Den fasse ich nicht an."
+            Sonst
+                SetzeMerker ZETTEL
+                NimmGegenstand "spickzettel.bmp"
+                Ton "velmix-flur-11.wav"
+                Text "Sieh an: mein Spickzettel aus der Zehnten. Pi, auf vierzig Stellen."
+                     "Ich habe ihn nie benutzt. Ehrlich."
+            EndeWenn
+
+    Objekt "Hefte"
         Zeiger "auge1.ico"
         Fläche
-            Vieleck 56 414, 60 350, 84 338, 108 338, 132 352, 174 392, 172 416
+            Rechteck 138 388 176 420
         Rechts
-            Ton "velmix-flur-06.wav"
-            Text "Meine alte Schultasche. Drei Jahre Oberstufe, davon zwei Kilo Krümel."
+            Ton "velmix-flur-12.wav"
+            Text "Zwei Hefte. Das grüne ist Bio, das blaue ist auch Bio, aber abgeschrieben."
 
     Objekt "Bank"
         Zeiger "auge1.ico"
         Fläche
             Vieleck 10 420, 26 402, 206 402, 214 420, 214 434, 188 476, 34 476
         Rechts
-            Ton "velmix-flur-07.wav"
-            Text "Auf dieser Bank habe ich die halbe Zehnte abgeschrieben. Die andere Hälfte auf der nächsten."
+            Ton "velmix-flur-13.wav"
+            Text "Auf dieser Bank habe ich die halbe Zehnte abgeschrieben."
+                 "Die andere Hälfte auf der nächsten."
 
     Objekt "Spinde"
         Zeiger "auge1.ico"
         Fläche
             Rechteck 180 156 278 330
         Rechts
-            Ton "velmix-flur-08.wav"
+            Ton "velmix-flur-14.wav"
             Text "Drei Spinde. In einem wohnt angeblich ein Pausenbrot von 1996."
+        Links
+            Ton "velmix-flur-15.wav"
+            Text "Abgeschlossen. Von innen, wie mir scheint."
 
     Objekt "Schwarzes Brett"
         Zeiger "auge1.ico"
@@ -95,8 +164,10 @@ Raum "Flur.lsd"
             Rechteck 184 58 276 134
         Rechts
             ZoomIN 166 42 294 138
-            Ton "velmix-flur-09.wav"
+            Ton "velmix-flur-16.wav"
             Text "»Suche Mitfahrgelegenheit in die Zukunft. Biete Kekse.«"
+            Ton "velmix-flur-17.wav"
+            Text "»Bruhks entlaufen. Nicht füttern. Nicht ansprechen. Dr. Ampulla.«"
             ZoomOUT 166 42 294 138
 
     Objekt "Uhr"
@@ -104,7 +175,7 @@ Raum "Flur.lsd"
         Fläche
             Rechteck 320 58 358 94
         Rechts
-            Ton "velmix-flur-10.wav"
+            Ton "velmix-flur-18.wav"
             Text "Kurz nach zwölf. Oder kurz vor vier in der Aula. Such dir was aus."
 
     Objekt "Lautsprecher"
@@ -112,62 +183,93 @@ Raum "Flur.lsd"
         Fläche
             Rechteck 390 60 424 94
         Rechts
-            Ton "velmix-flur-11.wav"
-            Text "Aus diesem Kasten kam drei Jahre lang nur: »Der Besitzer des roten Fahrrads bitte.«"
+            Ton "velmix-flur-19.wav"
+            Text "Aus diesem Kasten kam drei Jahre lang nur:"
+                 "»Der Besitzer des roten Fahrrads bitte.«"
 
     Objekt "Chemietür"
         Zeiger "tuer1.ico"
         Fläche
             Rechteck 78 106 178 330
         Rechts
-            Ton "velmix-flur-12.wav"
+            Ton "velmix-flur-20.wav"
             Text "Chemie. Hinter der Tür zischt es. Wie immer."
+        Links
+            Raumwechsel "Chemie.lsd"
 
     Objekt "Bibliothekstür"
         Zeiger "tuer1.ico"
         Fläche
             Rechteck 290 106 390 330
         Rechts
-            Ton "velmix-flur-13.wav"
+            Ton "velmix-flur-21.wav"
             Text "Die Bibliothek. Selbst das Schild flüstert."
+        Links
+            Raumwechsel "Bibliothek.lsd"
 
     Objekt "Hoftür"
         Zeiger "tuer1.ico"
         Fläche
             Rechteck 472 122 546 252
         Rechts
-            Ton "velmix-flur-14.wav"
+            Ton "velmix-flur-22.wav"
             Text "Die Tür zum Hof. Da hinten scheint das Leben weiterzugehen."
+        Links
+            Raumwechsel "Hof.lsd"
 
     Objekt "Sporthallentür"
         Zeiger "tuer1.ico"
         Fläche
             Vieleck 560 126, 602 108, 602 320, 560 264
         Rechts
-            Ton "velmix-flur-15.wav"
+            Ton "velmix-flur-23.wav"
             Text "Zur Sporthalle. Der Geruch kommt einem entgegen, um einen zu begrüßen."
+        Links
+            Raumwechsel "Sporthalle.lsd"
 
     Objekt "Plakat"
         Zeiger "auge1.ico"
         Fläche
             Rechteck 614 138 640 198
         Rechts
-            Ton "velmix-flur-16.wav"
+            Ton "velmix-flur-24.wav"
             Text "»Tischtennis-Turnier! Kessa gegen alle!« Alle haben abgesagt."
 
     Objekt "Kellertreppe"
-        Zeiger "tuer1.ico"
+        Zeiger "auge1.ico"
         Fläche
             Vieleck 486 332, 640 342, 640 480, 478 480
         Rechts
-            Ton "velmix-flur-17.wav"
+            Ton "velmix-flur-25.wav"
             Text "Die Treppe in den Keller. Von unten riecht es nach warmem Staub."
+        Links
+            WennMerker KELLER_OFFEN
+                Raumwechsel "Keller.lsd"
+            Sonst
+                Ton "ruetteln.wav"
+                Text "Rüttel. Rüttel."
+                Ton "velmix-flur-26.wav"
+                Text "Am Fuß der Treppe ist ein Gitter. Abgeschlossen."
+            EndeWenn
+        Ablegen
+            WennParameter SCHLUESSEL
+                GibGegenstand "schluessel.bmp"
+                SetzeMerker KELLER_OFFEN
+                SetzeZeiger "Kellertreppe" "tuer1.ico"
+                Ton "schloss.wav"
+                Text "Klack."
+                Ton "velmix-flur-27.wav"
+                Text "Offen! Es weht warm herauf. Und irgendetwas summt."
+            Sonst
+                Fehlerton
+            EndeWenn
 
     Objekt "Aulatür"
         Zeiger "tuer1.ico"
         Fläche
             Vieleck 6 92, 50 104, 50 336, 6 350
         Rechts
+            Ton "velmix-flur-28.wav"
             Text "Zurück in die Aula."
         Links
             Raumwechsel "Start.lsd"
