@@ -120,7 +120,7 @@ void Form1::Form_Resize() {
     const int W = client().w;
     const int H = client().h;
     Frame1.moveTo({W / 2 - Frame1.width() / 2, H / 2 - Frame1.height() / 2});
-    Hintergrund.setArea({0, 0, W, H});
+    Hintergrund.resize({W, H});
     Hintergrund.setBack(black);
     Hintergrund.clear();
     Random& zufall = platform_.random;

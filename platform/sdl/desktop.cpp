@@ -53,6 +53,9 @@ void enlarge(const Bitmap& picture, const Rect& part, SDL_Surface& target, Point
     }
 }
 
+// Window managers put a name of their own where there is none.
+std::string shownTitle(const Window& window) { return window.title().empty() ? " " : toUtf8(window.title()); }
+
 bool plainFormat(const SDL_Surface& surface) {
     return surface.format->format == SDL_PIXELFORMAT_RGB888 || surface.format->format == SDL_PIXELFORMAT_ARGB8888;
 }
@@ -165,7 +168,7 @@ void Desktop::opened(Window& window) {
     shown.scale = fittingScale(window.client());
     if (owner != nullptr) shown.scale = std::min(shown.scale, owner->windowedScale);
     shown.windowedScale = shown.scale;
-    const std::string title = toUtf8(window.title());
+    const std::string title = shownTitle(window);
     shown.native.reset(SDL_CreateWindow(title.c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                                         window.client().w * shown.scale, window.client().h * shown.scale,
                                         flagsOf(window) | SDL_WINDOW_HIDDEN));
@@ -200,7 +203,7 @@ void Desktop::closed(Window& window) {
 void Desktop::reshaped(Window& window) {
     Shown* const shown = of(window);
     if (shown == nullptr) return;
-    SDL_SetWindowTitle(shown->native.get(), toUtf8(window.title()).c_str());
+    SDL_SetWindowTitle(shown->native.get(), shownTitle(window).c_str());
     shown->exposed = true;
     if (shown->fullScreen) return;
     Size native;
