@@ -54,7 +54,8 @@ std::vector<fs::path> writeStory(const Story& story, const fs::path& into) {
     std::vector<fs::path> changed;
     const auto write = [&](const Text& path, const std::string& bytes) {
         const fs::path target = files.systemPath(path);
-        if (writeIfChanged(target, bytes)) changed.push_back(target);
+        if (writeIfChanged(target, bytes))
+            changed.push_back(into / target.lexically_relative(fs::absolute(into).lexically_normal()));
     };
     for (const StoryRoom& room : story.rooms) write("rooms\\" + room.file, writeRoom(room.room));
     for (const StoryScript& script : story.scripts) write("items\\" + script.file, writeScript(script.script));

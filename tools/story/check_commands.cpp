@@ -46,7 +46,10 @@ public:
     }
 
 private:
-    bool spared(std::size_t i) const { return rules_.spareRaw && view_.places.commands[i].raw; }
+    bool spared(std::size_t i) const {
+        const CommandPlace& place = view_.places.commands[i];
+        return place.broken || (rules_.spareRaw && place.raw);
+    }
 
     TextView argument(std::size_t i) const { return argumentOf(view_.script, i); }
 

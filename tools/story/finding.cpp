@@ -1,7 +1,7 @@
 #include "tools/story/finding.h"
 
 #include <algorithm>
-#include <array>
+#include <nlohmann/json.hpp>
 #include <set>
 #include <tuple>
 
@@ -15,23 +15,6 @@ constexpr std::size_t longestShown = 60;
 
 const char* nameOf(Severity severity) {
     return severity == Severity::error ? "error" : "warning";
-}
-
-std::string quotedJson(std::string_view utf8) {
-    constexpr std::string_view hex = "0123456789abcdef";
-    std::string out = "\"";
-    for (const char c : utf8) {
-        if (c == '"' || c == '\\') {
-            (out += '\\') += c;
-        } else if (static_cast<unsigned char>(c) < ' ') {
-            out.append("\\u00");
-            out += hex[static_cast<unsigned char>(c) >> 4U];
-            out += hex[static_cast<unsigned char>(c) & 0xFU];
-        } else {
-            out += c;
-        }
-    }
-    return out + '"';
 }
 
 // How many single characters have to change to get from one word to the other.
@@ -101,15 +84,16 @@ std::string asLines(const Story& story, const Findings& findings) {
 }
 
 std::string asJson(const Story& story, const Findings& findings) {
-    std::string out = "[";
-    for (const Finding& f : findings.all()) {
-        out += out.size() > 1 ? ",\n " : "\n ";
-        out += "{\"file\": " + quotedJson(story.files[static_cast<std::size_t>(f.place.file)]) +
-               ", \"line\": " + std::to_string(f.place.line) + ", \"column\": " + std::to_string(f.place.column) +
-               ", \"severity\": \"" + nameOf(f.severity) + "\", \"code\": " + quotedJson(f.code) +
-               ", \"message\": " + quotedJson(f.message) + "}";
-    }
-    return out + (findings.empty() ? "]\n" : "\n]\n");
+    auto list = nlohmann::ordered_json::array();
+    for (const Finding& f : findings.all())
+        list.push_back({{"file", story.files[static_cast<std::size_t>(f.place.file)]},
+                        {"line", f.place.line},
+                        {"column", f.place.column},
+                        {"severity", nameOf(f.severity)},
+                        {"code", f.code},
+                        {"message", f.message}});
+    // A name of the system may be no UTF-8.
+    return list.dump(1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
 }
 
 std::string shown(TextView text) {

@@ -132,6 +132,12 @@ bool takesBareWord(Arg arg, std::size_t field) {
     }
 }
 
+// A number that stands there with blanks, say, is none that an author would write.
+bool plainNumbers(const Opcode& opcode, const std::vector<Text>& fields) {
+    const bool numbers = isNumeric(opcode.arg) || opcode.arg == Arg::rectangle || opcode.arg == Arg::fade;
+    return !numbers || std::all_of(fields.begin(), fields.end(), isBareWord);
+}
+
 std::string writtenFields(const Opcode& opcode, const std::vector<Text>& fields) {
     const WordNumbers* const numbers = wordNumbersOf(opcode.arg);
     std::string out;
@@ -246,9 +252,10 @@ std::optional<std::vector<std::string>> writtenArgument(const Opcode& opcode, Te
     if (opcode.arg == Arg::choice || opcode.arg == Arg::option) return std::nullopt;
     if (opcode.arg == Arg::text) return linesInQuotes(argument);
     const Form& form = formOf(opcode.arg);
-    std::string written;
-    if (!argument.empty() || form.least > 0)
-        written = writtenFields(opcode, form.most > 1 ? split(argument, fieldMark) : std::vector{Text(argument)});
+    const auto fields = form.most > 1 ? split(argument, fieldMark) : std::vector{Text(argument)};
+    if (!plainNumbers(opcode, fields)) return std::nullopt;
+    const bool nothing = argument.empty() && form.least == 0;
+    const std::string written = nothing ? std::string() : writtenFields(opcode, fields);
     if (!comesBack(opcode, written, argument)) return std::nullopt;
     return std::vector{written};
 }

@@ -44,6 +44,7 @@ void ScriptBuilder::command(const Opcode& opcode, const Statement& statement) {
     }
     const auto argument = compileArgument(opcode, place, words, findings_);
     add(opcode.number, argument.value_or(""), place, opcode.arg == Arg::text ? linePlaces(words) : placesOf(words));
+    places_.commands.back().broken = !argument;
     if (opcode.number == opcode::WennMerker || opcode.number == opcode::WennParameter) blocks_.emplace_back();
     if (opcode.number == opcode::EndeWenn) closeBlock(false);
     if (opcode.number == opcode::EndeAuswahl) closeBlock(true);
@@ -87,10 +88,10 @@ std::optional<std::int32_t> ScriptBuilder::addOption(const Statement& statement)
     const Text text = compileText(statement.front().value, place, words, findings_).value_or("");
     if (text.find(optionMark) != Text::npos)
         findings_.broken(place, "zeichen", "eine Möglichkeit kann kein | enthalten, das trennt die Möglichkeiten");
-    if (!choice.options.emplace(number, Choice::Option{text, linePlaces(words)}).second)
-        findings_.broken(place, "fall", "die Möglichkeit " + std::to_string(number) + " gibt es schon");
     choice.next = number + 1;
-    return number;
+    if (choice.options.emplace(number, Choice::Option{text, linePlaces(words)}).second) return number;
+    findings_.broken(place, "fall", "die Möglichkeit " + std::to_string(number) + " gibt es schon");
+    return std::nullopt;
 }
 
 void ScriptBuilder::option(const Statement& statement) {
@@ -107,13 +108,15 @@ void ScriptBuilder::raw(const Statement& statement) {
     }
     const Opcode* const opcode = commandNamed(statement[1].value);
     const auto number = opcode ? opcode->number : wholeNumber(statement[1].value);
-    if (!number)
+    if (!number) {
         findings_.broken(statement[1].place, "befehl",
                          "einen Befehl " + shown(statement[1].value) + " gibt es nicht");
+        return;
+    }
     const Text argument = statement.size() > 2 ? statement[2].value : Text();
     if (!writable(argument))
         findings_.broken(place, "zeichen", "ein Anführungszeichen kann an dieser Stelle nicht gespeichert werden");
-    add(number.value_or(0), argument, place, placesOf(std::span(statement).subspan(2)), true);
+    add(*number, argument, place, placesOf(std::span(statement).subspan(2)), true);
 }
 
 // Closes the innermost block of this kind and what stands open within it.

@@ -58,7 +58,7 @@ public:
           depth_(depth),
           blocks_(findBlocks(view.script)) {
         raw_.assign(script_.Befehl.size(), false);
-        for (const BlockProblem& problem : blocks_.problems) raw_[problem.index] = true;
+        for (std::size_t i = 0; i < raw_.size(); ++i) raw_[i] = belongsToBlock(script_.Befehl[i]) && !blocks_.at(i);
         noteErrors(view);
         for (const Block& block : blocks_.all)
             if (script_.Befehl[block.begin] == opcode::Auswahl) noteChoice(block);
@@ -69,6 +69,19 @@ public:
     }
 
 private:
+    static bool belongsToBlock(std::int32_t command) {
+        switch (command) {
+            case opcode::WennMerker:
+            case opcode::WennParameter:
+            case opcode::Sonst:
+            case opcode::EndeWenn:
+            case opcode::Auswahl:
+            case opcode::Fall:
+            case opcode::EndeAuswahl: return true;
+            default: return false;
+        }
+    }
+
     // What the compiler would not take is written as it is. For the check an instruction's line is its index.
     void noteErrors(const ScriptView& view) {
         ScriptPlaces places;

@@ -22,6 +22,7 @@ struct CommandPlace {
     Place command;
     std::vector<Place> argument;  // where its argument stands; of a shown text one for each line; may be empty
     bool raw = false;             // written with `Roh`: the author takes it as it is
+    bool broken = false;          // it could not be compiled, which is a finding already
 };
 
 struct ScriptPlaces {

@@ -1,0 +1,108 @@
+// The program as a person calls it: what it writes, what it says, how it ends.
+#include <fstream>
+#include <sstream>
+
+#include "story_support.h"
+#include "tests/support/temp_directory.h"
+#include "tools/story/commands.h"
+
+namespace zentrox::story::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Result {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+Result call(const std::vector<std::string>& words) {
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = run(words, out, err);
+    return {status, out.str(), err.str()};
+}
+
+std::string contents(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+}  // namespace
+
+TEST(Commands, BuildWritesOnlyWhatChanges) {
+    const zentrox::test::TempDirectory directory;
+    const auto at = [&](const char* name) { return (directory.path() / name).string(); };
+    directory.write("a.story",
+                    "Raum \"Keller\\Gang.lsd\"\nRaum \"Tür.lsd\"\nGegenstand ring.bmp\nLinks\nText \"x\"");
+    ASSERT_EQ(call({"build", at("a.story"), "--into", at("out")}).status, clean);
+    EXPECT_EQ(contents(at("out/rooms/Tür.lsd")), "\"\"\r\n-1\r\n-1\r\n-1\r\n");
+    EXPECT_EQ(contents(at("out/items/ring1.skp")), "0\r\n2,\"x\"\r\n");
+    EXPECT_FALSE(fs::exists(at("out/items/ring0.skp")));
+
+    const auto before = fs::last_write_time(at("out/rooms/Tür.lsd"));
+    directory.write("a.story", "Raum \"KELLER/gang.lsd\"\nBild \"b.jpg\"\nRaum \"Tür.lsd\"");
+    const Result again = call({"build", directory.path().string(), "--into", at("out")});
+    EXPECT_EQ(again.out, at("out/rooms/Keller/Gang.lsd") + "\n");  // the one that is there, in its spelling
+    EXPECT_EQ(fs::last_write_time(at("out/rooms/Tür.lsd")), before);
+
+    directory.write("a.story", "Raum \"Tür.lsd\"\nBild \"neu.jpg\"\nStart\nFoo");
+    const Result broken = call({"build", at("a.story"), "--into", at("out")});
+    EXPECT_EQ(broken.status, hasFindings);
+    EXPECT_NE(broken.err.find("a.story:4:1: error [wort]"), std::string::npos);
+    EXPECT_EQ(fs::last_write_time(at("out/rooms/Tür.lsd")), before);
+    std::size_t entries = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(at("out")))
+        entries += entry.is_regular_file() ? 1 : 0;
+    EXPECT_EQ(entries, 3U);  // and no draft is left over
+}
+
+TEST(Commands, AFreshStoryIsCleanAndComesBack) {
+    const zentrox::test::TempDirectory directory;
+    const auto at = [&](const char* name) { return (directory.path() / name).string(); };
+    ASSERT_EQ(call({"new", at("neu")}).status, clean);
+    EXPECT_EQ(call({"check", at("neu")}).out, "");
+    EXPECT_EQ(call({"check", at("neu/story")}).status, clean);
+    EXPECT_EQ(call({"check", at("neu/rooms/Start.lsd")}).status, clean);
+    EXPECT_EQ(call({"build", at("neu/story"), "--into", at("neu")}).out, "");
+    EXPECT_EQ(call({"new", at("neu")}).status, wrongCall);
+
+    ASSERT_EQ(call({"source", at("neu"), "--into", at("zurueck")}).status, clean);
+    ASSERT_EQ(call({"build", at("zurueck"), "--into", at("zwei")}).status, clean);
+    for (const char* name : {"rooms/Start.lsd", "items/schluessel0.skp", "items/schluessel1.skp"})
+        EXPECT_EQ(contents(directory.path() / "zwei" / name), contents(directory.path() / "neu" / name)) << name;
+
+    // What a source sets in one file counts for its neighbours.
+    fs::remove(at("neu/graphics/stube.bmp"));
+    const Result missing = call({"check", at("neu/story/start.story"), "--json"});
+    EXPECT_EQ(missing.status, hasFindings);
+    EXPECT_NE(missing.out.find("\"code\": \"bild-fehlt\""), std::string::npos);
+}
+
+TEST(Commands, WrongCallsAndDamagedFiles) {
+    const zentrox::test::TempDirectory directory;
+    const std::string empty = directory.path().string();
+    const std::string cut = directory.write("rooms/a.lsd", "\"b.jpg\",-1,5").string();
+    for (const std::vector<std::string>& words :
+         std::vector<std::vector<std::string>>{{},
+                                               {"bau"},
+                                               {"build"},
+                                               {"build", cut},
+                                               {"check"},
+                                               {"check", "/no/such"},
+                                               {"check", empty + "/rooms", "--jason"},
+                                               {"source", "x.story"},
+                                               {"new"}})
+        EXPECT_EQ(call(words).status, wrongCall) << testing::PrintToString(words);
+    EXPECT_EQ(call({"--help"}).status, clean);
+    EXPECT_EQ(call({"--version"}).status, clean);
+    const Result damaged = call({"check", empty});
+    EXPECT_EQ(damaged.status, hasFindings);
+    EXPECT_NE(damaged.out.find("a.lsd:1:12: error [datei]: der letzte Index 5 passt nicht"), std::string::npos);
+    EXPECT_EQ(call({"source", empty}).status, hasFindings);
+    EXPECT_EQ(call({"build", cut, "--into", empty + "/rooms/a.lsd"}).status, hasFindings);  // no source at all
+}
+
+}  // namespace zentrox::story::test

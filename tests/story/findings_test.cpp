@@ -1,0 +1,293 @@
+// Every kind of finding, each with the smallest source that has it, and stories that have none.
+#include <nlohmann/json.hpp>
+
+#include "story_support.h"
+#include "tests/support/fake_fonts.h"
+#include "tests/support/temp_directory.h"
+#include "tools/story/data.h"
+
+namespace zentrox::story::test {
+
+namespace {
+
+// The findings of a whole check of one source, as "LINE:COLUMN CODE" each.
+std::vector<std::string> findingsOf(const std::string& source, const DataFiles* data = nullptr,
+                                    MemoryFiles files = {}, const Story* rest = nullptr) {
+    Findings findings;
+    zentrox::test::FakeFonts fonts;
+    const Story story = parseSource(source, "probe.story", files, findings);
+    check(story, {rest, data, &fonts, true}, findings);
+    findings.settle(story);
+    std::vector<std::string> short_;
+    for (const Finding& f : findings.all())
+        short_.push_back(std::to_string(f.place.line) + ":" + std::to_string(f.place.column) + " " + f.code);
+    return short_;
+}
+
+using Expected = std::vector<std::string>;
+
+// Lines 1 to 3 stand before what a script holds, which begins in line 4.
+std::string inScript(const std::string& lines) {
+    return "Raum \"a.lsd\"\n Objekt \"Tür\"\n  Links\n" + lines + "\n";
+}
+
+struct Case {
+    std::string source;
+    Expected findings;
+};
+
+void expectAll(const std::vector<Case>& cases, bool script) {
+    for (const Case& c : cases)
+        EXPECT_EQ(findingsOf(script ? inScript(c.source) : c.source), c.findings) << c.source;
+}
+
+std::string repeated(const std::string& line, int times) {
+    std::string out;
+    for (int i = 0; i < times; ++i) out += line + "\n";
+    return out;
+}
+
+}  // namespace
+
+TEST(FindingsOf, WhatCanNotBeCompiled) {
+    expectAll(
+        {
+            {"Text \"a", {"1:1 platz", "1:6 text"}},
+            {"Raum \"a.lsd\"\n Bild \"ł.jpg\"", {"2:8 zeichen"}},
+            {"Raum \"a.lsd\"\n Bild \"u\u0308.jpg\"", {"2:9 zeichen"}},
+            {"Raum \"a.lsd\" // ł \xFF is nobody's business here", {}},
+            {"Raum \"a.lsd\"\n Bild \"\xFC.jpg\"\n Bild \"\xFC.jpg\"", {"2:8 utf8", "3:2 doppelt"}},
+            {"Raum \"a.lsd\"\n Bild \"a\x01.jpg\"", {"2:9 zeichen"}},
+            {"\"Hallo\"", {"1:1 wort"}},
+            {"Raun \"a.lsd\"", {"1:1 wort"}},
+            {"Raum", {"1:1 argument"}},
+            {"Raum a.lsd b", {"1:12 argument"}},
+            {"Raum \"Start\"", {"1:6 name"}},
+            {"Raum \"../a.lsd\"", {"1:6 name"}},
+            {"Raum a.lsd\nRaum A.LSD", {"2:6 doppelt"}},
+            {"Gegenstand ring", {"1:12 name"}},
+            {"Gegenstand ring.bmp\nRechts\nRechts", {"3:1 doppelt"}},
+            {"Skriptdatei ring.txt", {"1:13 name"}},
+            {"Bild \"a.jpg\"", {"1:1 platz"}},
+            {"Raum a.lsd\nStart\nBild \"a.jpg\"", {"3:1 platz"}},
+            {"Raum a.lsd\nStart\nStart", {"3:1 doppelt"}},
+            {"Raum a.lsd\nZeiger a.ico", {"2:1 platz"}},
+            {"Raum a.lsd\nRechts", {"2:1 platz"}},
+            {"Raum a.lsd\nObjekt x\nLinks\nZeiger a.ico", {"4:1 platz"}},
+            {"Raum a.lsd\nObjekt x\nText \"a\"\nText \"b\"", {"3:1 platz"}},
+            {"Raum a.lsd\nObjekt x\nFläche Kreis", {"3:8 argument"}},
+            {"Raum a.lsd\nObjekt x\nRechteck 1 2 3", {"3:14 argument"}},
+            {"Raum a.lsd\nObjekt x\nRechteck 1 2 drei 4", {"3:14 argument"}},
+            {"Raum a.lsd\nObjekt x\nVieleck 1 2 3 4", {"3:1 argument"}},
+            {"Raum a.lsd\nObjekt x\nRechteck 640 0 700 20", {"3:1 flaeche"}},
+            {"Raum a.lsd\nObjekt x\nRechteck 1e300 0 700 nan", {"3:10 argument"}},
+            {"Raum a.lsd\nObjekt x\nMaskenbild weg.png", {"3:12 flaeche"}},
+            {"Einbinden weg.teil", {"1:11 einbinden"}},
+            {"Einbinden probe.story", {"1:11 einbinden"}},
+        },
+        false);
+}
+
+TEST(FindingsOf, CommandsThatMakeNoSense) {
+    expectAll(
+        {
+            {"Text Hallo", {"4:6 argument"}},
+            {"Text", {"4:1 argument"}},
+            {"Text \"Er sagt \"Nein\" dazu.\"", {"4:16 text"}},
+            {"Text \"a{22}b\"", {}},
+            {"Text \"a\"{22}\"b\"", {"4:6 zeichen"}},
+            {"Text \"a,\"{22}", {"4:1 zeichen"}},
+            {"Text {9}", {"4:6 text"}},
+            {"Fehlerton \"x.mp3\"", {"4:11 argument"}},
+            {"ZoomIN 1 2 3", {"4:1 argument"}},
+            {"ZoomIN 1 2 3 4 5", {"4:16 argument"}},
+            {"ZoomIN 1 2 drei 4", {"4:8 argument"}},
+            {"SetzeMerker \" \"", {"4:13 argument"}},
+            {"BöseÄndern viel", {"4:12 argument"}},
+            {"CountDownSetzen 0,5", {"4:19 argument"}},
+            {"CountDownSetzen -1", {"4:17 argument"}},
+            {"Blende rot", {"4:8 argument"}},
+            {"Portrait mitte \"a.jpg\"", {"4:10 argument"}},
+            {"SetzeZeiger Tür \"a,b.ico\"", {"4:17 argument"}},
+            {"Spiel SCHACH SIEG", {"4:7 argument"}},
+            {"System save", {"4:8 argument"}},
+            {"Roh 33\nRoh -1", {"4:1 befehl", "5:1 befehl"}},
+            {"Roh Nichts", {"4:5 befehl"}},
+            {"ObjektAn \"tür \"", {"4:10 objekt"}},
+            {"ObjektAus Tor\nSetzeZeiger Tor \"\"\nSetzeZeiger \"tür \" \"\"", {"4:11 objekt", "5:13 objekt"}},
+            {"Springe ZURÜCK", {"4:9 marke"}},
+            {"Wenn X", {"4:1 wort"}},
+        },
+        true);
+}
+
+TEST(FindingsOf, BlocksThatAreNotClosed) {
+    expectAll(
+        {
+            {"WennParameter X\nText \"a\"", {"4:1 block"}},
+            {"EndeWenn", {"4:1 block"}},
+            {"Sonst", {"4:1 block"}},
+            {"WennParameter X\nSonst\nSonst\nEndeWenn", {"6:1 block"}},
+            {"Auswahl \"a\"\nFall \"b\"", {"4:1 block"}},
+            {"EndeAuswahl", {"4:1 block"}},
+            {"Fall \"a\"", {"4:1 block"}},
+            {"Auswahl \"a\"\nFall \"b\"\nWennParameter X\nFall \"c\"\nEndeAuswahl", {"6:1 block", "7:1 block"}},
+            {"WennParameter X\nAuswahl \"a\"\nFall \"b\"\nEndeWenn", {"5:1 block"}},
+            {"Auswahl \"a\"\nEndeAuswahl", {"4:1 auswahl"}},
+            {"Auswahl \"a|b\"\nFall \"c\"\nEndeAuswahl", {"4:1 auswahl", "4:1 zeichen"}},
+            {"Auswahl \"a\"\nFall 2 \"b\"\nEndeAuswahl", {"4:1 fall", "5:1 fall"}},
+            {"Auswahl \"a\"\nFall \"b\"\nFall 1 \"c\"\nEndeAuswahl", {"6:1 fall"}},
+            {"Roh Auswahl \"2|a|b\"\nRoh Fall 3\nRoh EndeAuswahl", {"4:1 auswahl", "5:10 fall"}},
+            {"Roh Auswahl \"2|a|b|c|\"\nRoh Fall \" 2\"\nRoh EndeAuswahl", {}},
+        },
+        true);
+}
+
+TEST(FindingsOf, WaysThroughAScript) {
+    expectAll(
+        {
+            {"Raumwechsel b.lsd\nText \"a\"\nText \"b\"", {"5:1 nach-raumwechsel"}},
+            {"System Ende\nText \"a\"", {"5:1 unerreichbar"}},
+            {"WennParameter X\nRaumwechsel b.lsd\nSonst\nText \"a\"\nEndeWenn\nText \"b\"", {}},
+            {"WennParameter X\nRaumwechsel b.lsd\nSonst\nRaumwechsel c.lsd\nEndeWenn\nText \"b\"",
+             {"9:1 unerreichbar"}},
+            {"Auswahl \"a\"\nText \"nie\"\nFall \"b\"\nRaumwechsel b.lsd\nEndeAuswahl\nText \"c\"",
+             {"5:1 unerreichbar", "9:1 unerreichbar"}},
+            {"Auswahl \"a\"\nFall \"b\"\nRaumwechsel b.lsd\nOption \"c\"\nEndeAuswahl\nText \"c\"", {}},
+            {"Springe X\nText \"a\"\nMarke X", {"5:1 unerreichbar"}},
+            // Loops: one that waits, one that does not, and those whose conditions end them.
+            {"Marke X\nText \"a\"\nSpringe X", {}},
+            {"Marke X\nTon a.mp3\nSpringe X", {"6:1 schleife"}},
+            {"Marke X\nWennParameter Y\nSpringe X\nEndeWenn", {"6:1 schleife"}},
+            {"Marke X\nWennMerker BÖSE\nBöseÄndern -1\nSpringe X\nEndeWenn", {"7:1 schleife"}},
+            {"SetzeMerker A\nMarke X\nWennMerker A\nLöscheMerker A\nSpringe X\nEndeWenn", {}},
+            {"Marke X\nWennMerker A\nText \"a\"\nSonst\nSetzeMerker A\nSpringe X\nEndeWenn", {}},
+            {"Marke X\nSetzeMerker A\nWennMerker A\nSpringe X\nEndeWenn", {"7:1 schleife"}},
+            {"Marke X\nSpiel PONG A\nWennMerker A\nSonst\nSpringe X\nEndeWenn", {}},
+            {"Marke X\nAuswahl \"a\"\nFall \"b\"\nSpringe X\nOption \"c\"\nEndeAuswahl", {}},
+            {"Marke X\nBlende weiß\nRahmenAuf\nSpringe X", {}},
+        },
+        true);
+}
+
+TEST(FindingsOf, SavingWhileTheCountDownRuns) {
+    const std::string room = "Raum a.lsd\nStart\n";
+    expectAll(
+        {
+            {room + "CountDownSetzen 5\nSystem Save", {"4:1 speichern"}},
+            {room + "CountDownSetzen 5\nCountDownSetzen 0\nSystem Save", {}},
+            {room + "System Save\nCountDownSetzen 5", {}},
+            {room + "CountDownSetzen 5\nObjekt x\nLinks\nSystem Save", {"6:1 speichern"}},
+            {room + "CountDownSetzen 5\nObjekt x\nLinks\nCountDownSetzen 0\nRechts\nSystem Save", {}},
+            {room + "WennParameter X\nCountDownSetzen 5\nEndeWenn\nObjekt x\nLinks\nSystem Save", {}},
+            {"Raum a.lsd\nCountdown\nSystem Save", {"3:1 speichern"}},
+        },
+        false);
+}
+
+TEST(FindingsOf, TextsThatDoNotFit) {
+    // 106 characters of the test's font fit into a line, and 36 lines into the picture.
+    const std::string wide(107, 'x');
+    expectAll(
+        {
+            {"Text \"a\"\n\"" + wide + "\"", {"5:1 text-breit"}},
+            {"Text \"$C" + wide.substr(1) + "\"", {}},
+            {"Text \"   " + wide.substr(1) + "  \"", {}},
+            {"Text \"$X\"\n\"a$X\"\n\"$\"", {"4:6 farbmarke", "6:1 farbmarke"}},
+            {"Text " + repeated("\"a\"", 36), {}},
+            {"Text " + repeated("\"a\"", 37), {"4:1 text-hoch"}},
+            {"Auswahl \"a\"\nFall \"b\"\n\"" + wide + "\"\nEndeAuswahl", {"6:1 text-breit"}},
+            {"Auswahl \"a\"\n" + repeated("Option \"b\"", 33) + "EndeAuswahl", {}},
+            {"Auswahl \"a\"\n" + repeated("Option \"b\"", 34) + "EndeAuswahl", {"4:1 text-hoch"}},
+        },
+        true);
+}
+
+TEST(FindingsOf, FlagsAndItemsOfTheWholeStory) {
+    std::string items52;
+    for (int i = 0; i < 52; ++i) items52 += "NimmGegenstand \"" + std::to_string(i) + ".bmp\"\n";
+    expectAll(
+        {
+            {"WennMerker A\nEndeWenn\nWennMerker \" a \"\nEndeWenn", {"4:12 merker-nie-gesetzt"}},
+            {"SetzeMerker A\nSetzeMerker A", {"4:13 merker-nie-geprueft"}},
+            {"SetzeMerker a\nWennMerker A\nEndeWenn", {}},
+            {"WennMerker BÖSE\nBöseÄndern 1\nEndeWenn\nSpiel PONG A", {}},
+            {"Spiel PONG \"\"", {"4:1 spiel-merker"}},
+            {"SetzeMerker A // stumm: merker-nie-geprueft", {}},
+            {"// stumm: merker-nie-geprueft weil es noch kommt\n\nSetzeMerker A\nSetzeMerker B",
+             {"7:13 merker-nie-geprueft"}},
+            {"Text // stumm: argument", {"4:1 argument"}},  // nothing can be built from it
+            {items52, {"55:1 gegenstaende", "55:16 gegenstaende"}},
+            {items52 + "GibGegenstand \"7.bmp\"", {"55:1 gegenstaende"}},
+            {repeated("NimmGegenstand \"a.bmp\"\nGibGegenstand \"a.bmp\"", 60), {}},
+        },
+        true);
+    MemoryFiles files;
+    Findings ignored;
+    const Story rest = parseSource("Raum b.lsd\nStart\nSetzeMerker A", "b.story", files, ignored);
+    EXPECT_EQ(findingsOf(inScript("WennMerker A\nEndeWenn"), nullptr, {}, &rest), Expected{});
+}
+
+TEST(FindingsOf, FilesAreSoughtAsTheGameDoes) {
+    const zentrox::test::TempDirectory directory;
+    for (const char* name :
+         {"Graphics/Flur.JPG", "sounds/ja.mp3", "cursors/hand1.ico", "items/ring.bmp", "rooms/tief/c.lsd"})
+        directory.write(name, "x");
+    const DataFiles data(directory.path());
+    const auto found = [&](const std::string& source) { return findingsOf(source, &data); };
+    EXPECT_EQ(found("Raum a.lsd\nBild \"alt\\flur.jpg\"\nObjekt x\nZeiger \"HAND1.ICO\"\nLinks\nTon \"JA.wav\"\n"
+                    "NimmGegenstand ring.bmp\nRaumwechsel \"tief\\C.lsd\"\nRechts\nRaumwechsel "
+                    "A.LSD\nAblegen\nZeigBild\nMusik"),
+              Expected{});
+    EXPECT_EQ(found("Raum a.lsd\nBild weg.jpg\nObjekt x\nZeiger weg.ico\nLinks\nTon weg.wav\nMusik weg.mid\n"
+                    "Film weg.mpg\nNimmGegenstand weg.bmp\nPortrait links weg.jpg\nSetzeZeiger x weg.ico\nZeigBild "
+                    "weg.jpg\n"
+                    "Raumwechsel c.lsd\nGegenstand weg.bmp"),
+              (Expected{"2:6 bild-fehlt", "4:8 zeiger-fehlt", "6:5 ton-fehlt", "7:7 musik-fehlt", "8:6 film-fehlt",
+                        "9:16 gegenstand-fehlt", "10:16 bild-fehlt", "11:15 zeiger-fehlt", "12:10 bild-fehlt",
+                        "13:13 raum-fehlt", "14:12 gegenstand-fehlt"}));
+}
+
+TEST(FindingsOf, CompiledData) {
+    const auto found = [](const std::string& bytes) {
+        Story story;
+        Findings findings;
+        readRoomData(fromUtf8(bytes), "a.lsd", "a.lsd", story, findings);
+        check(story, {}, findings);
+        findings.settle(story);
+        return asLines(story, findings);
+    };
+    EXPECT_EQ(found("b.jpg,-1,-1,-1"), "");
+    EXPECT_EQ(found("b.jpg\r\n1\r\n2,\"a\"\r\n17,Tür\r\n-1,-1"),
+              "a.lsd:4:1: error [objekt]: \"ObjektAn\" nennt \"Tür\"; dieser Raum hat keine Objekte\n");
+    EXPECT_EQ(
+        found("b.jpg,0\r\n 77,a\r\n-1,0,3,a\"b"),
+        "a.lsd:2:2: error [befehl]: einen Befehl mit der Nummer 77 gibt es nicht; es gibt 0 bis 32\n"
+        "a.lsd:3:6: warning [merker-nie-geprueft]: der Merker \"A\"B\" wird gesetzt, aber nirgends geprüft\n"
+        "a.lsd:3:6: error [zeichen]: ein Anführungszeichen hat in einem Text keinen Platz; richtig sind „ und “\n");
+    EXPECT_EQ(found("b.jpg,-1,-1\n0,\"0\""),
+              "a.lsd:2:3: error [datei]: gefunden wurde \"\"0\"\", erwartet war eine Zahl\n");
+}
+
+TEST(FindingsOf, SortedAndForMachines) {
+    MemoryFiles files;
+    files.sources["b.teil"] = "\n  Text x\n";
+    Findings findings;
+    const Story story =
+        parseSource("Raum a.lsd\nStart\nFoo\nEinbinden b.teil\nEinbinden b.teil", "a.story", files, findings);
+    findings.settle(story);
+    const std::string lines = asLines(story, findings);
+    EXPECT_EQ(lines.find("a.story:3:1: error [wort]: \"Foo\""), 0U);
+    EXPECT_EQ(lines.find("b.teil:2:8"), lines.rfind("b.teil"));  // twice the same is told once
+    const auto list = nlohmann::json::parse(asJson(story, findings));
+    ASSERT_EQ(list.size(), 2U);
+    EXPECT_EQ(list[0]["file"], "a.story");
+    EXPECT_EQ(list[0]["line"], 3);
+    EXPECT_EQ(list[0]["column"], 1);
+    EXPECT_EQ(list[0]["severity"], "error");
+    EXPECT_EQ(list[0]["code"], "wort");
+    EXPECT_NE(lines.find(": " + list[0]["message"].get<std::string>() + "\n"), std::string::npos);
+    EXPECT_EQ(asJson(story, Findings()), "[]\n");
+}
+
+}  // namespace zentrox::story::test

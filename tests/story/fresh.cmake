@@ -1,0 +1,10 @@
+# `zentrox-story new` must make something that the game can play from its menu to the end of its walk.
+file(REMOVE_RECURSE ${DIR})
+execute_process(COMMAND ${STORY} new ${DIR} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB walks ${DIR}/walks/*.walk)
+foreach(walk IN LISTS walks)
+  execute_process(COMMAND ${PROBE} --quiet --dir ${DIR} ${walk} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
+if(NOT walks)
+  message(FATAL_ERROR "there is no walk")
+endif()
