@@ -12,6 +12,10 @@ namespace {
 constexpr double bufferMilliseconds = 512 / 44.1;
 constexpr int commands = 20;
 
+double since(std::chrono::steady_clock::time_point begin) {
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+}
+
 struct Sound {
     std::function<void(SoundDevice&)> start;
     std::function<void(SoundDevice&)> stop;
@@ -28,12 +32,18 @@ std::vector<double> delays(Speaker& speaker, const Sound& sound) {
     device.init();
     device.playSong("clock.wav");
     std::vector<std::int64_t> given;
+    std::vector<double> calls;
     for (int i = 0; i < commands; ++i) {
         wait(200 + 7 * i);
         sound.stop(device);
         wait(150);
+        const auto before = device.songPosition();
+        while (device.songPosition() == before) {
+        }
         given.push_back(device.songPosition());
+        const auto begin = std::chrono::steady_clock::now();
         sound.start(device);
+        calls.push_back(since(begin));
     }
     wait(300);
 
@@ -48,7 +58,7 @@ std::vector<double> delays(Speaker& speaker, const Sound& sound) {
     }
     std::vector<double> delays;
     for (std::size_t i = 0; i < given.size() && i + 1 < starts.size(); ++i)
-        delays.push_back(starts[i + 1] - starts[0] - static_cast<double>(given[i]) + bufferMilliseconds);
+        delays.push_back(starts[i + 1] - starts[0] - static_cast<double>(given[i]) + bufferMilliseconds + calls[i]);
     return delays;
 }
 
@@ -100,8 +110,7 @@ void song(benchmark::State& state, const char* name) {
         for (const char* which : {"first_ms", "next_ms"}) {
             const auto begin = std::chrono::steady_clock::now();
             speaker.device->playSong(name);
-            state.counters[which] =
-                std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+            state.counters[which] = since(begin);
             wait(100);
         }
     }

@@ -21,5 +21,6 @@ zentrox_library(zentrox_sound
   ${CMAKE_CURRENT_LIST_DIR}/sound/soundfont.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sound/streams.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sound/synthesiser.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/sound/video.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/sound/video.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/sound/wav.cpp)
 target_link_libraries(zentrox_sound PUBLIC zentrox_decode_media PRIVATE PkgConfig::SOUND)

@@ -19,6 +19,7 @@
 #include "platform/sdl/sound/streams.h"
 #include "platform/sdl/sound/synthesiser.h"
 #include "platform/sdl/sound/video.h"
+#include "platform/sdl/sound/wav.h"
 
 namespace zentrox {
 
@@ -26,7 +27,6 @@ namespace {
 
 // An effect has to be heard within 20 milliseconds: a buffer is 12 of them.
 constexpr int bufferFrames = 512;
-constexpr int effectChannel = 0;
 
 // Error codes, see `BassFehlerText`.
 constexpr int noError = 0;
@@ -37,7 +37,6 @@ constexpr int notStarted = 9;
 
 struct Closer {
     void operator()(Mix_Music* music) const { Mix_FreeMusic(music); }
-    void operator()(Mix_Chunk* chunk) const { Mix_FreeChunk(chunk); }
 };
 
 enum class Kind { wav, mp3, other };
@@ -53,7 +52,8 @@ Kind kindOf(const std::filesystem::path& file) {
 
 // Whatever can be decoded at all.
 std::unique_ptr<AudioReader> openAny(const std::filesystem::path& file) {
-    auto reader = kindOf(file) == Kind::mp3 ? openMp3(file) : nullptr;
+    const auto kind = kindOf(file);
+    auto reader = kind == Kind::wav ? openWav(file) : kind == Kind::mp3 ? openMp3(file) : nullptr;
     if (reader) return reader;
     auto* decoder = mediaDecoder();
     return decoder != nullptr ? decoder->openAudio(file) : nullptr;
@@ -110,7 +110,6 @@ private:
     SoundHandle handles_ = 0;
     std::unique_ptr<Mix_Music, Closer> voiceMusic_;
     std::unique_ptr<AudioReader> voiceReader_;
-    std::unique_ptr<Mix_Chunk, Closer> effect_;
     std::unique_ptr<Synthesiser> synthesiser_;
     std::int64_t songLength_ = 0;
     std::unique_ptr<VideoPlayer> video_;
@@ -135,8 +134,6 @@ bool DesktopSound::openDevice() {
     error_ = noDriver;
     if (Mix_OpenAudioDevice(sampleRate, AUDIO_S16SYS, 2, bufferFrames, nullptr, 0) != 0) return false;
     error_ = noError;
-    Mix_AllocateChannels(1);
-    Mix_Volume(effectChannel, effectLevel);
     Mix_VolumeMusic(voiceLevel);
     Mix_SetPostMix(
         [](void* streams, Uint8* samples, int bytes) {
@@ -152,8 +149,6 @@ void DesktopSound::free() {
     stopVideo();
     if (!open_) return;
     streams_.stop(Track::effect);
-    Mix_HaltChannel(effectChannel);
-    effect_.reset();
     Mix_SetPostMix(nullptr, nullptr);
     Mix_CloseAudio();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
@@ -201,16 +196,9 @@ void DesktopSound::freeVoice(SoundHandle handle) {
 
 void DesktopSound::playEffect(TextView path) {
     if (!open_) return;
-    Mix_HaltChannel(effectChannel);
-    effect_.reset();
     streams_.stop(Track::effect);
     if (!files_.exists(path)) return;
-    const auto file = files_.systemPath(path);
-    if (kindOf(file) == Kind::wav) effect_.reset(Mix_LoadWAV_RW(SDL_RWFromFile(file.c_str(), "rb"), SDL_TRUE));
-    if (effect_)
-        Mix_PlayChannel(effectChannel, effect_.get(), 0);
-    else if (auto reader = openAny(file))
-        streams_.start(Track::effect, std::move(reader));
+    if (auto reader = openAny(files_.systemPath(path))) streams_.start(Track::effect, std::move(reader));
 }
 
 std::unique_ptr<AudioReader> DesktopSound::synthesise(const std::string& midi) {
