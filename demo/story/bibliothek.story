@@ -136,11 +136,11 @@ Raum "Bibliothek.lsd"
             WennMerker HDW_FERTIG
                 Einbinden "gesicht/globus.teil"
                 Ton "globus-bibliothek-01.wav"
-                Text "$9Beehren Sie mich bald wieder! Ich drehe mich nur um Sie!"
+                Text "$BBeehren Sie mich bald wieder! Ich drehe mich nur um Sie!"
             Sonst
                 Einbinden "gesicht/globus.teil"
                 Ton "globus-bibliothek-02.wav"
-                Text "$9Willkommen bei »Hauptstadt, du weißt«! Vier Richtige, und Ihr Ausweis ist frei!"
+                Text "$BWillkommen bei »Hauptstadt, du weißt«! Vier Richtige, und Ihr Ausweis ist frei!"
                 Einbinden "gesicht/globus.teil"
                 Auswahl "In seinem Schlitz steckt ein Stück Pappe mit meinem Gesicht."
                 Fall "Los, fragen Sie."
@@ -150,7 +150,7 @@ Raum "Bibliothek.lsd"
                     WennMerker HDW_SIEG
                         Einbinden "gesicht/globus.teil"
                         Ton "globus-bibliothek-03.wav"
-                        Text "$9Vier von vier! Sie haben die Welt in der Tasche! Und den Ausweis auch."
+                        Text "$BVier von vier! Sie haben die Welt in der Tasche! Und den Ausweis auch."
                         Marke AUSWEIS
                         SetzeMerker HDW_FERTIG
                         NimmGegenstand "ausweis.bmp"
@@ -160,7 +160,7 @@ Raum "Bibliothek.lsd"
                     Sonst
                         Einbinden "gesicht/globus.teil"
                         Ton "globus-bibliothek-04.wav"
-                        Text "$9Oh! Das war leider das Nachbarland!"
+                        Text "$BOh! Das war leider das Nachbarland!"
                         Einbinden "gesicht/globus.teil"
                         Auswahl "Noch eine Runde?"
                         Fall "Noch einmal!"
@@ -171,7 +171,7 @@ Raum "Bibliothek.lsd"
                             Text "Klapper. Klapper. Plopp."
                             Einbinden "gesicht/globus.teil"
                             Ton "globus-bibliothek-05.wav"
-                            Text "$9Erdbeben! Erdbeben der Stärke neun! Da, nehmen Sie ihn!"
+                            Text "$BErdbeben! Erdbeben der Stärke neun! Da, nehmen Sie ihn!"
                             Springe AUSWEIS
                         Option "Später."
                         EndeAuswahl

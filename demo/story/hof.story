@@ -81,14 +81,14 @@ Raum "Hof.lsd"
             RahmenAuf
             Einbinden "gesicht/balduin.teil"
             Ton "balduin-hof-01.wav"
-            Text "$6Ah. Ein Mensch. Sie wollen sicher an den Gully."
+            Text "$7Ah. Ein Mensch. Sie wollen sicher an den Gully."
             Einbinden "gesicht/balduin.teil"
             Ton "velmix-hof-12.wav"
             Text "Wenn es keine Umstände macht."
             Einbinden "gesicht/balduin.teil"
             Ton "balduin-hof-02.wav"
-            Text "$6Alles macht Umstände. Darum liege ich ja."
-                 "$6Aber für ein gelöstes Rätsel stehe ich auf. Aus Prinzip."
+            Text "$7Alles macht Umstände. Darum liege ich ja."
+                 "$7Aber für ein gelöstes Rätsel stehe ich auf. Aus Prinzip."
             Marke FRAGE
             Einbinden "gesicht/balduin.teil"
             Auswahl "Balduin kaut an einer Butterblume."
@@ -100,8 +100,8 @@ Raum "Hof.lsd"
                     Marke STEHT_AUF
                     Einbinden "gesicht/balduin.teil"
                     Ton "balduin-hof-03.wav"
-                    Text "$6Er gab auf. Sie nicht. Das nenne ich Bildung."
-                         "$6Einen Augenblick, die Hinterbeine schlafen noch."
+                    Text "$7Er gab auf. Sie nicht. Das nenne ich Bildung."
+                         "$7Einen Augenblick, die Hinterbeine schlafen noch."
                     SetzeMerker ESEL_FERTIG
                     RahmenZu
                     ZeigBild "hof_frei.jpg"
@@ -114,7 +114,7 @@ Raum "Hof.lsd"
                     SetzeMerker ESEL_VERLOREN
                     Einbinden "gesicht/balduin.teil"
                     Ton "balduin-hof-04.wav"
-                    Text "$6Sie haben aufgegeben. Er übrigens auch. So nahe waren Sie dran."
+                    Text "$7Sie haben aufgegeben. Er übrigens auch. So nahe waren Sie dran."
                     Springe FRAGE
                 EndeWenn
             Fall "Schieben."
@@ -122,18 +122,18 @@ Raum "Hof.lsd"
                     BöseÄndern 1
                     Einbinden "gesicht/balduin.teil"
                     Ton "balduin-hof-05.wav"
-                    Text "$6Au! Ich gehe ja schon. Aber ich denke mir mein Teil."
+                    Text "$7Au! Ich gehe ja schon. Aber ich denke mir mein Teil."
                     Springe STEHT_AUF
                 Sonst
                     Einbinden "gesicht/balduin.teil"
                     Ton "balduin-hof-06.wav"
-                    Text "$6Das haben schon größere Geister versucht. Fragen Sie erst das Rätsel."
+                    Text "$7Das haben schon größere Geister versucht. Fragen Sie erst das Rätsel."
                     Springe FRAGE
                 EndeWenn
             Fall "Später."
                 Einbinden "gesicht/balduin.teil"
                 Ton "balduin-hof-07.wav"
-                Text "$6Später. Mein Lieblingswort."
+                Text "$7Später. Mein Lieblingswort."
             EndeAuswahl
             RahmenZu
             Marke FERTIG
@@ -145,8 +145,8 @@ Raum "Hof.lsd"
                 RahmenAuf
                 Einbinden "gesicht/balduin.teil"
                 Ton "balduin-hof-08.wav"
-                Text "$6Eine Möhre! Ohne Frage, ohne Gegenleistung?"
-                     "$6Da stehe ich doch gleich anders da."
+                Text "$7Eine Möhre! Ohne Frage, ohne Gegenleistung?"
+                     "$7Da stehe ich doch gleich anders da."
                 RahmenZu
                 ZeigBild "hof_frei.jpg"
                 ObjektAus "Balduin"
@@ -156,7 +156,7 @@ Raum "Hof.lsd"
             Sonst
                 WennParameter KUCHEN
                     Ton "balduin-hof-09.wav"
-                    Text "$6Zucker vernebelt. Bringen Sie mir etwas mit Wurzel."
+                    Text "$7Zucker vernebelt. Bringen Sie mir etwas mit Wurzel."
                 Sonst
                     Fehlerton
                 EndeWenn
@@ -174,14 +174,14 @@ Raum "Hof.lsd"
             RahmenAuf
             Einbinden "gesicht/balduin.teil"
             Ton "balduin-hof-10.wav"
-            Text "$6Man sieht so viel weiter von hier oben. Leider sieht man dann auch die Schule."
+            Text "$7Man sieht so viel weiter von hier oben. Leider sieht man dann auch die Schule."
             RahmenZu
         Ablegen
             WennParameter MOEHRE
                 GibGegenstand "moehre.bmp"
                 BöseÄndern -1
                 Ton "balduin-hof-11.wav"
-                Text "$6Und das, obwohl ich schon stehe. Sie sind ein guter Mensch."
+                Text "$7Und das, obwohl ich schon stehe. Sie sind ein guter Mensch."
             Sonst
                 Fehlerton
             EndeWenn

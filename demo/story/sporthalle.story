@@ -104,16 +104,16 @@ Raum "Sporthalle.lsd"
             WennMerker PRÜGEL_FERTIG
                 Einbinden "gesicht/brokan.teil"
                 Ton "brokan-sporthalle-01.wav"
-                Text "$3Wir sind jetzt Freunde, ja? Ich hatte noch nie einen."
-                     "$3Also, außer dem Sandsack."
+                Text "$AWir sind jetzt Freunde, ja? Ich hatte noch nie einen."
+                     "$AAlso, außer dem Sandsack."
             Sonst
                 Einbinden "gesicht/brokan.teil"
                 Ton "velmix-sporthalle-06.wav"
                 Text "Brokan, hinter dir hängt eine Sicherung. Die brauche ich für den Keller."
                 Einbinden "gesicht/brokan.teil"
                 Ton "brokan-sporthalle-02.wav"
-                Text "$3Geräteraum ist zu. Herr Grobbel hat gesagt: Niemand kommt durch."
-                     "$3Also kommt niemand durch. Außer er kämpft mit mir. Hat er auch gesagt."
+                Text "$AGeräteraum ist zu. Herr Grobbel hat gesagt: Niemand kommt durch."
+                     "$AAlso kommt niemand durch. Außer er kämpft mit mir. Hat er auch gesagt."
                 Marke FRAGE
                 Einbinden "gesicht/brokan.teil"
                 Auswahl "Brokans Magen knurrt. Oder das war Brokan."
@@ -134,13 +134,13 @@ Raum "Sporthalle.lsd"
                 Fall "Hast du heute schon gegessen?"
                     Einbinden "gesicht/brokan.teil"
                     Ton "brokan-sporthalle-03.wav"
-                    Text "$3Um sechs. Zwölf Eier und das Gestell dazu. Das ist lange her."
-                         "$3Etwas Süßes wäre schön. Mit Kirsche."
+                    Text "$AUm sechs. Zwölf Eier und das Gestell dazu. Das ist lange her."
+                         "$AEtwas Süßes wäre schön. Mit Kirsche."
                     Springe FRAGE
                 Fall "Ein andermal."
                     Einbinden "gesicht/brokan.teil"
                     Ton "brokan-sporthalle-04.wav"
-                    Text "$3Gut. Ich stehe hier."
+                    Text "$AGut. Ich stehe hier."
                     Springe ENDE
                 EndeAuswahl
                 Marke URTEIL
@@ -148,17 +148,17 @@ Raum "Sporthalle.lsd"
                 WennMerker PRÜGEL_SIEG
                     Einbinden "gesicht/brokan.teil"
                     Ton "brokan-sporthalle-05.wav"
-                    Text "$3Uff. Gut gemacht. Das hat noch keiner geschafft, der auch lesen kann."
+                    Text "$AUff. Gut gemacht. Das hat noch keiner geschafft, der auch lesen kann."
                     Marke SICHERUNG
                     SetzeMerker PRÜGEL_FERTIG
                     NimmGegenstand "sicherung.bmp"
                     Einbinden "gesicht/brokan.teil"
                     Ton "brokan-sporthalle-06.wav"
-                    Text "$3Hier, die Sicherung. Ich habe sie poliert. Mit dem Daumen."
+                    Text "$AHier, die Sicherung. Ich habe sie poliert. Mit dem Daumen."
                 Sonst
                     Einbinden "gesicht/brokan.teil"
                     Ton "brokan-sporthalle-07.wav"
-                    Text "$3Oh. Habe ich dir wehgetan? Ich hole Eis. Nein, ich darf ja nicht weg."
+                    Text "$AOh. Habe ich dir wehgetan? Ich hole Eis. Nein, ich darf ja nicht weg."
                     Einbinden "gesicht/brokan.teil"
                     Auswahl "Und jetzt?"
                     Fall "Noch einmal!"
@@ -167,7 +167,7 @@ Raum "Sporthalle.lsd"
                         BöseÄndern 1
                         Einbinden "gesicht/brokan.teil"
                         Ton "brokan-sporthalle-08.wav"
-                        Text "$3Nicht weinen! Bitte nicht weinen! Da, nimm, nimm!"
+                        Text "$ANicht weinen! Bitte nicht weinen! Da, nimm, nimm!"
                         Springe SICHERUNG
                     Option "Erst mal ausruhen."
                     EndeAuswahl
@@ -182,14 +182,14 @@ Raum "Sporthalle.lsd"
                 RahmenAuf
                 Einbinden "gesicht/brokan.teil"
                 Ton "brokan-sporthalle-09.wav"
-                Text "$3Für mich? Mit Kirsche? Mir hat noch nie jemand Kuchen geschenkt."
+                Text "$AFür mich? Mit Kirsche? Mir hat noch nie jemand Kuchen geschenkt."
                 WennMerker PRÜGEL_FERTIG
                 Sonst
                     SetzeMerker PRÜGEL_FERTIG
                     NimmGegenstand "sicherung.bmp"
                     Einbinden "gesicht/brokan.teil"
                     Ton "brokan-sporthalle-10.wav"
-                    Text "$3Du bist nicht »niemand«. Also darfst du durch. Hier, die Sicherung."
+                    Text "$ADu bist nicht »niemand«. Also darfst du durch. Hier, die Sicherung."
                 EndeWenn
                 RahmenZu
             Sonst
