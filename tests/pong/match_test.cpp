@@ -1,5 +1,7 @@
 // A match as a whole: its phases, its score, its ends.
-#include "pong_fixture.h"
+#include <gtest/gtest.h>
+
+#include "pong_table.h"
 
 namespace zentrox::test {
 namespace {

@@ -1,6 +1,8 @@
 // The ball and the paddles by numbers. Expected values were reckoned apart from this program, from the formulas
 // alone, in double precision with each field rounded to single.
-#include "pong_fixture.h"
+#include <gtest/gtest.h>
+
+#include "pong_table.h"
 
 namespace zentrox::test {
 namespace {

@@ -1,7 +1,9 @@
+#include <gtest/gtest.h>
+
 #include "games/pong/pongbild.h"
 
 #include "engine/state/felder.h"
-#include "pong_fixture.h"
+#include "pong_table.h"
 #include "tests/support/fake_fonts.h"
 
 namespace zentrox::test {

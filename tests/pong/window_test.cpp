@@ -1,8 +1,10 @@
 // The window: its controls, its timers, its keys and what goes wrong.
+#include <gtest/gtest.h>
+
 #include "games/pong/pong.h"
 #include "games/pong/pongfenster.h"
 #include "platform/error.h"
-#include "pong_fixture.h"
+#include "pong_table.h"
 #include "tests/support/stage.h"
 
 namespace zentrox::test {
@@ -78,6 +80,36 @@ TEST(PongWindow, ReadsTheKeysWhateverHasTheFocus) {
     });
     play.backend.closeBox();
     play.show();
+}
+
+// Holds the keys of a swinging player from now on until the match is over, then calls `after`.
+void playToTheEnd(Play& play, std::function<void()> after) {
+    if (play.s().spielEnde) return after();
+    test::Swinger player;
+    const std::set<int> wanted = player.keys(play.s());
+    const auto held = play.backend.keys();
+    for (const int code : {key::up, key::down}) {
+        const bool down = held[static_cast<std::size_t>(code)] != 0;
+        if (wanted.contains(code) != down)
+            play.backend.input({.kind = down ? Input::Kind::keyUp : Input::Kind::keyDown, .code = code});
+    }
+    play.backend.wait(16);
+    play.backend.then([&play, after = std::move(after)] { playToTheEnd(play, after); });
+}
+
+TEST(PongWindow, HandsOverAVictoryForGood) {
+    Play play;
+    play.backend.then([&] {
+        playToTheEnd(play, [&] {
+            EXPECT_EQ(play.window().title(), " Freu dich nicht! Das war nur Glück."_t);
+            EXPECT_EQ(play.z.Übergabe, Übergabewert(true));
+            play.backend.click({40, 468});
+            play.backend.wait(5000);
+            play.backend.closeBox();
+        });
+    });
+    play.show();
+    EXPECT_EQ(play.z.Übergabe, Übergabewert(true)) << "whatever the next match brings";
 }
 
 TEST(PongWindow, ClosesInEveryPhase) {

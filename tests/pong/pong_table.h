@@ -1,12 +1,11 @@
 // A match without a window: keys that a test holds, notes of what would be heard and told, and a clock of ticks.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <functional>
 #include <set>
+#include <stdexcept>
 #include <vector>
 
 #include "games/pong/pongspiel.h"
@@ -54,11 +53,11 @@ struct Table : Pongumgebung {
         scoreTicks_ = s().takte.Timer3 ? scoreTicks_ + 1 : 0;
         if (scoreTicks_ * 16 >= punkteDauer) game.Timer3_Timer();
     }
-    // Ticks until `done`; the test fails if that never comes.
+    // Ticks until `done`; throws if that does not come.
     template <class Done>
     void until(Done done, int most = 5000) {
         while (!done() && most-- > 0) tick();
-        EXPECT_TRUE(done()) << "ball at " << s().ballX << ", " << s().ballY;
+        if (!done()) throw std::logic_error("waits in vain");
     }
     void serve() {
         until([this] { return s().takte.Timer1; });
@@ -77,17 +76,14 @@ private:
 // A player who waits `reach` pixels off the ball and swings the paddle through it, so that the ball is bent.
 struct Swinger {
     int reach = 60;
-    void hold(Table& table) const {
-        const Pongstand& s = table.s();
-        table.held.clear();
-        if (s.ballDX <= 0) return;
+    std::set<int> keys(const Pongstand& s) const {
+        if (s.ballDX <= 0) return {};
         const float steps = (596 - s.ballX) / (s.ballDX + static_cast<float>(s.tempoBonus) / 5);
         const float off = s.ballY + 5 + static_cast<float>(reach) - s.spielerY;
-        if (steps <= static_cast<float>(reach) / 4 || off < -4)
-            table.held = {key::up};
-        else if (off > 4)
-            table.held = {key::down};
+        if (steps <= static_cast<float>(reach) / 4 || off < -4) return {key::up};
+        return off > 4 ? std::set<int>{key::down} : std::set<int>{};
     }
+    void hold(Table& table) const { table.held = keys(table.s()); }
 };
 
 }  // namespace zentrox::test
