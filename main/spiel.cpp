@@ -1,8 +1,11 @@
 #include "main/spiel.h"
 
 #include "games/bruhks/bruhks.h"
+#include "games/fight/fight.h"
 #include "games/jump/jump.h"
 #include "games/pong/pong.h"
+#include "games/quiz/quiz.h"
+#include "games/riddle/riddle.h"
 #include "media/medien.h"
 #include "menu/menu.h"
 #include "platform/error.h"
@@ -21,8 +24,11 @@ Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
     };
     return {
         {"BRUHKS", zeigt(BruhksZeigen)},
+        {"ESEL", zeigt(Form2Zeigen)},
+        {"HDW", zeigt(HDWZeigen)},
         {"JUMP", zeigt(JumpZeigen)},
         {"PONG", zeigt(PongZeigen)},
+        {Text("PRÜGEL"_t), zeigt(PrügelZeigen)},
     };
 }
 

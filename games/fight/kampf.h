@@ -1,0 +1,83 @@
+// The rules of the fight, and its course as steps: pictures, sounds, texts and waits that somebody else shows.
+#pragma once
+
+#include <vector>
+
+#include "games/fight/wahl.h"
+#include "platform/random.h"
+#include "platform/text.h"
+
+namespace zentrox {
+
+// Whose matter a text is, which is its colour.
+enum class Kämpfer { Velmix, Brokan, keiner };
+
+struct Schritt {
+    enum class Art {
+        bild,      // `text` is the file
+        klang,     // `text` is the file
+        schrift,   // `text` in big letters over the picture, in the colour of `wer`
+        warten,    // `zahl` milliseconds
+        energie,   // the label of `wer` counts after his energy
+        ringe,     // a ball of white rings
+        strahl,    // it becomes a beam
+        flackern,  // the picture flickers
+        liedAus,
+    };
+    Art art = Art::bild;
+    Text text = {};
+    std::int32_t zahl = 0;
+    Kämpfer wer = Kämpfer::keiner;
+};
+using Folge = std::vector<Schritt>;
+
+// The energy of one fighter and what his label shows of it.
+struct Energie {
+    std::int32_t wert = 0;
+    std::int32_t anzeige = 0;
+
+    // Counts the label one step after the value; false if there was nothing to count.
+    bool Nachzählen();
+};
+
+// What it takes away is `grund` and a random number times 100.
+struct Schlag {
+    Kämpfer wer = Kämpfer::keiner;
+    std::int32_t grund = 0;
+    TextView ausruf;  // stands before the number
+};
+
+class Kampf {
+public:
+    Kampf(Random& random, const Techniken6& angriff, const Techniken6& abwehr);
+
+    // The next piece: the prelude, then turn after turn, the end, and then nothing. A blow counts as soon as its
+    // piece is given; the step `energie` says when to show it.
+    Folge Weiter();
+    bool Gewonnen() const { return gewonnen_; }
+    Energie EnergieJ{2434, 2284};  // of Brokan; the labels count up to it in the prelude
+    Energie EnergieS{1467, 1317};  // of Velmix
+
+private:
+    enum class Stand { vorspiel, Velmix, Brokan, vorbei };
+
+    Folge ZugVelmix();
+    Folge ZugBrokan();
+    Folge Zaubertrank();
+    Folge Feuerball();
+    Folge Unaufhaltsam();
+    Folge Angriff(std::int32_t t);
+    Folge Ende(Folge ende);
+    // Draws the damage: a text that tells it, then the counting.
+    Folge Treffer(const Schlag& schlag);
+
+    Random& random_;
+    Techniken6 angriff_;
+    Techniken6 abwehr_;
+    Stand stand_ = Stand::vorspiel;
+    std::size_t runde_ = 0;
+    bool trankBenutzt_ = false;  // in this round
+    bool gewonnen_ = false;
+};
+
+}  // namespace zentrox
