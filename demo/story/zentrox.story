@@ -18,11 +18,11 @@ Raum "Zentrox.lsd"
                 Sonst
                     SetzeMerker ZENTROX_KENNT
                     Film "zentrox.avi"
-                    ZoomIN 224 66 416 210
+                    ZoomIN 188 100 455 300
                     Ton "zentrox-zentrox-02.wav"
                     Text "$AGUTEN TAG. ICH BIN ZENTROX."
                          "$AICH HABE 1974 DEN STUNDENPLAN GERECHNET. MAN HAT MIR NIE GEDANKT."
-                    ZoomOUT 224 66 416 210
+                    ZoomOUT 188 100 455 300
                     RahmenAuf
                     Einbinden "gesicht/zentrox.teil"
                     Ton "velmix-zentrox-01.wav"
