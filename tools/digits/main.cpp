@@ -1,0 +1,23 @@
+// zentrox-digits COUNT FILE: writes the first characters of pi, the point counted, as the pi game asks them.
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+
+#include "tools/digits/pi.h"
+
+int main(int count, char** arguments) {
+    constexpr int callFailed = 2;
+    std::size_t characters = 0;
+    if (count == 3) std::from_chars(arguments[1], arguments[1] + std::strlen(arguments[1]), characters);
+    if (characters == 0) {
+        std::fputs("usage: zentrox-digits COUNT FILE\n", stderr);
+        return callFailed;
+    }
+    std::ofstream file(arguments[2], std::ios::binary);
+    file << zentrox::piCharacters(characters);
+    file.close();
+    if (file) return 0;
+    std::fprintf(stderr, "zentrox-digits: %s can't be written\n", arguments[2]);
+    return 1;
+}
