@@ -286,7 +286,7 @@ void Jumpspiel::sichtbarkeit() {
 
 // Sparks live on the surface, all else in the level.
 void Jumpspiel::funken(int anzahl, float X1, float Y1, float X2, float Y2, bool brocken) {
-    Funken.Addpartikel(zufall_, anzahl, X1 - Sicht.ScrollX, Y1, X2 - Sicht.ScrollX, Y2, brocken);
+    Funken.Addpartikel(*zufall_, anzahl, X1 - Sicht.ScrollX, Y1, X2 - Sicht.ScrollX, Y2, brocken);
 }
 
 }  // namespace zentrox

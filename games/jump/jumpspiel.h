@@ -28,7 +28,7 @@ public:
     using Tasten = std::array<std::uint8_t, 256>;  // above 126 is held
 
     // `zufall` must outlive it.
-    explicit Jumpspiel(Random& zufall) : zufall_(zufall) {}
+    explicit Jumpspiel(Random& zufall) : zufall_(&zufall) {}
 
     // One tick. What it gives is valid until the next one. Sprites and sparks have to be off the surface before it;
     // after it, the steps of `Sicht` are to be done, and sprites and sparks to be drawn again.
@@ -83,7 +83,7 @@ private:
     void klang(Jumpklang k) { tick_.Klänge.push_back(k); }
     bool gedrückt(int code) const { return (*tasten_)[static_cast<std::size_t>(code)] > 126; }
 
-    Random& zufall_;
+    Random* zufall_;                  // a copy of the game shares it
     const Tasten* tasten_ = nullptr;  // of the tick that runs
     Jumptick tick_;
 };
