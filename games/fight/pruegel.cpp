@@ -32,7 +32,9 @@ constexpr int strahlzeit = 10;
 constexpr int flackerzeit = 100;
 constexpr int flackerzahl = 10;  // even: the picture ends as it began
 
-constexpr Pointer unsichtbar{.mode = Pointer::Mode::invisible, .iconFile = {}};
+Pointer unsichtbar() {
+    return {.mode = Pointer::Mode::invisible, .iconFile = {}};
+}
 
 bool TrankErlaubt(const Übergabewert& übergabe) {
     const auto* const wort = std::get_if<Text>(&übergabe);
@@ -97,7 +99,7 @@ Prügel::Prügel(Platform& platform, Zustand& zustand, Medien& medien)
     Command1.setVisible(false);
     Command1.setTakesFocus(false);
     Command1.onClick = [this] { Command1_Click(); };
-    Picture1.onMove = [this](const PointerEvent&) { setPointer(unsichtbar); };
+    Picture1.onMove = [this](const PointerEvent&) { setPointer(unsichtbar()); };
     for (Control* const rand : std::array<Control*, 3>{&Frame1, &Label1[0], &Label1[1]})
         rand->onMove = [this](const PointerEvent&) { setPointer({}); };
     LadeAngriff();
@@ -142,7 +144,7 @@ void Prügel::Command1_Click() {
     RM.setEnabled(true);
     Frame2.setVisible(false);
     Frame1.setVisible(true);
-    setPointer(unsichtbar);
+    setPointer(unsichtbar());
     Kampf kampf(platform().random, wahl_.Angriff(), wahl_.Abwehr());
     for (Folge folge = kampf.Weiter(); !folge.empty(); folge = kampf.Weiter())
         if (!Spielen(folge, kampf)) return;
