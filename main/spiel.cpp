@@ -3,6 +3,8 @@
 #include "games/bruhks/bruhks.h"
 #include "games/fight/fight.h"
 #include "games/jump/jump.h"
+#include "games/memory/memory.h"
+#include "games/pi/pi.h"
 #include "games/pong/pong.h"
 #include "games/quiz/quiz.h"
 #include "games/riddle/riddle.h"
@@ -27,6 +29,8 @@ Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
         {"ESEL", zeigt(Form2Zeigen)},
         {"HDW", zeigt(HDWZeigen)},
         {"JUMP", zeigt(JumpZeigen)},
+        {"MEMORY", zeigt(MemoryZeigen)},
+        {"PI", zeigt(PIZeigen)},
         {"PONG", zeigt(PongZeigen)},
         {Text("PRÜGEL"_t), zeigt(PrügelZeigen)},
     };

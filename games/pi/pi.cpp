@@ -135,6 +135,8 @@ void PISpiel::gedruckt(Point ort, TextView text, Colour farbe) {
 // --- after the game
 
 bool PISpiel::schluss() {
+    // A key pressed from now on changes nothing.
+    const TextView urteil = PiUrteil(anzahl, static_cast<std::int32_t>(zeichen_.size()), taste);
     medien_.SongStop();
     Picture1.setBack(white);
     Picture1.clear();
@@ -145,19 +147,19 @@ bool PISpiel::schluss() {
     Picture1.font.points = schriftSchluss;
     gedruckt({PiMitte(fläche, Picture1.measure("Game Over")).x, 0}, "Game Over", hellzyan);
     Picture1.print("");
-    Picture1.print(PiUrteil(anzahl, static_cast<std::int32_t>(zeichen_.size()), taste));
+    Picture1.print(urteil);
     Picture1.print(std::to_string(anzahl) + " Zeichen von PI geschafft!");
     if (anzahl >= piBestanden) z_.Übergabe = true;
     return warten(schlussZeit);
 }
 
 void PIZeigen(Platform& platform, Zustand& zustand, Medien& medien) {
+    zustand.Übergabe = false;
     Text zeichen;
     try {
         zeichen = PiLesen(platform.files, zustand.PfadGames + "Pi10000.txt");
     } catch (const DataError& fehler) {
         showMessageBox(platform, {"PI-Spiel", fehler.message(), MessageBox::Icon::critical});
-        zustand.Übergabe = false;
         return;
     }
     PISpiel(platform, zustand, medien, std::move(zeichen)).showModal();

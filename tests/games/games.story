@@ -11,3 +11,27 @@ Raum "Pong.lsd"
             Sonst
                 Text "Verloren."
             EndeWenn
+
+Raum "Memory.lsd"
+    Objekt "Spiel"
+        Fläche
+            Rechteck 0 0 640 480
+        Links
+            Spiel MEMORY SIEG
+            WennMerker SIEG
+                Text "Gewonnen."
+            Sonst
+                Text "Verloren."
+            EndeWenn
+
+Raum "Pi.lsd"
+    Objekt "Spiel"
+        Fläche
+            Rechteck 0 0 640 480
+        Links
+            Spiel PI SIEG
+            WennMerker SIEG
+                Text "Gewonnen."
+            Sonst
+                Text "Verloren."
+            EndeWenn

@@ -1,0 +1,193 @@
+// Matches on a dealt table, in the real window on a clock that the test moves.
+#include <gtest/gtest.h>
+
+#include "games/memory/memory.h"
+#include "games/memory/memoryfenster.h"
+#include "platform/error.h"
+#include "tests/support/stage.h"
+
+namespace zentrox::test {
+namespace {
+
+constexpr Milliseconds turn = 500;
+constexpr Milliseconds look = 1000;
+
+// Every card is one colour: the back white, face v has the colour v + 1.
+Memorybilder colours() {
+    Memorybilder pictures;
+    pictures.rücken = Bitmap({97, 97}, white);
+    for (std::size_t v = 0; v < pictures.gesichter.size(); ++v)
+        pictures.gesichter[v] = Bitmap({97, 97}, Colour(static_cast<std::uint32_t>(v + 1)));
+    return pictures;
+}
+
+struct Play : Stage {
+    Zustand z;
+    Medien media{platform, z};
+    std::array<std::int32_t, 16> cards{0, 0, 1, 1, 2, 2, 3, 3, 4, 4, 5, 5, 6, 6, 7, 7};
+
+    Play() { z.PfadGames = platform.files.programDirectory() + "games\\"; }
+    Memory& window() { return dynamic_cast<Memory&>(*platform.queue.active()); }
+    const Memoryspiel& game() { return window().spiel(); }
+    static Point at(int position) { return {position % 4 * 104 + 48, position / 4 * 104 + 48}; }
+    std::uint32_t seen(int position) { return static_cast<std::uint32_t>(window().compose().pixel(at(position))); }
+    void click(int position) { backend.click(at(position)); }
+    // Two cards of the player, and what follows when they are none of a kind.
+    void failedTurn(int a, int b) {
+        click(a);
+        click(b);
+        backend.wait(turn + look + turn);
+    }
+    void pair(int a, int b) {
+        click(a);
+        click(b);
+        backend.wait(turn + 1000 + 50);
+    }
+    Text show() {
+        backend.wait(20);
+        Memory memory(platform, z, colours());
+        memory.gegeben = cards;
+        memory.showModal();
+        return std::get<Text>(z.Übergabe);
+    }
+};
+
+TEST(MemoryWindow, TurnsCardsAndHidesThemAgain) {
+    Play play;
+    play.backend.wait(20);
+    play.backend.then([&] {
+        EXPECT_EQ(play.window().name(), "Memory");
+        EXPECT_EQ(play.window().client(), (Size{413, 463}));
+        EXPECT_TRUE(play.window().shows("Velmar:") && play.window().shows("Tirsa:"));
+        EXPECT_EQ(play.seen(0), white.rgb);
+    });
+    play.click(0);
+    play.click(0);  // the same card again does not count
+    int sleeps = 0;
+    play.backend.then([&] { sleeps = play.backend.sleeps; });
+    play.backend.wait(600'000);
+    play.backend.then([&] {
+        EXPECT_LE(play.backend.sleeps, sleeps + 3) << "nothing happens while it waits for a card";
+        EXPECT_EQ(play.seen(0), 1U);
+        EXPECT_EQ(play.seen(4), white.rgb);
+    });
+    play.click(4);
+    play.backend.wait(turn + look - 20);
+    play.backend.then([&] { EXPECT_EQ(play.seen(4), 3U); });
+    play.backend.wait(40);
+    play.backend.then([&] {
+        EXPECT_EQ(play.seen(0), white.rgb);
+        EXPECT_EQ(play.seen(4), white.rgb);
+        EXPECT_EQ(play.game().Gedaechtnis, (std::array<std::int32_t, 6>{-1, -1, -1, -1, 0, 4}));
+    });
+    play.backend.closeBox();
+    EXPECT_EQ(play.show(), "L");
+}
+
+TEST(MemoryWindow, FliesAPairToItsRowAndGoesOn) {
+    Play play;
+    play.backend.wait(20);
+    play.click(0);
+    play.click(1);
+    play.backend.wait(turn + 500);
+    play.backend.then([&] {
+        // Half way from (0, 0) to (41, 416), and half of the shrinking done.
+        EXPECT_NEAR(play.window().compose().pixel({20 + 28, 208 + 28}), 1, 0);
+        EXPECT_EQ(play.game().Punkte[0], 0);
+    });
+    play.backend.wait(550);
+    play.backend.then([&] {
+        EXPECT_EQ(play.window().compose().pixel({41 + 8, 416 + 8}), 1);
+        EXPECT_NE(play.seen(0), 1U);
+        EXPECT_EQ(play.game().Punkte[0], 1);
+    });
+    play.click(0);  // what is gone can't be clicked
+    play.click(2);
+    play.backend.wait(100);
+    play.backend.then([&] { EXPECT_EQ(play.seen(2), 2U); });
+    play.click(3);
+    play.backend.wait(turn + 1050);
+    play.backend.then([&] {
+        EXPECT_EQ(play.window().compose().pixel({41 + 24 + 8, 416 + 8}), 2) << "it is still the player's turn";
+    });
+    play.backend.closeBox();
+    EXPECT_EQ(play.show(), "L");
+}
+
+TEST(MemoryWindow, IsWonByEightPairs) {
+    Play play;
+    play.backend.wait(20);
+    for (int i = 0; i < 16; i += 2) play.pair(i, i + 1);
+    EXPECT_EQ(play.show(), "W");
+    EXPECT_TRUE(play.platform.queue.windows().empty());
+}
+
+// A player who from now on only turns cards that are none of a kind, until the match is over.
+void failOnPurpose(Play& play) {
+    if (play.platform.queue.windows().empty()) return;
+    if (play.platform.queue.active()->name() != "Memory") return play.backend.key(key::enter);
+    std::vector<int> left;
+    for (int i = 0; i < 16; ++i)
+        if (play.game().aufTisch(i)) left.push_back(i);
+    if (left.size() > 2) {
+        play.click(left[0]);
+        play.click(left[2]);
+    }
+    play.backend.wait(300);
+    play.backend.then([&play] { failOnPurpose(play); });
+}
+
+TEST(MemoryWindow, IsLostToTirsaWhoGoesOnAsLongAsSheFinds) {
+    Play play;
+    play.backend.wait(20);
+    play.backend.then([&] { failOnPurpose(play); });
+    EXPECT_EQ(play.show(), "L");
+    EXPECT_TRUE(play.backend.boxes.empty());
+}
+
+TEST(MemoryWindow, TellsADraw) {
+    Play play;
+    play.backend.wait(20);
+    for (int i = 0; i < 8; i += 2) play.pair(i, i + 1);
+    play.backend.then([&] { failOnPurpose(play); });
+    EXPECT_EQ(play.show(), "U");
+    ASSERT_EQ(play.backend.boxes.size(), 1U);
+    EXPECT_EQ(play.backend.boxes[0].text, "Unentschieden! Nächste Runde!"_t);
+}
+
+TEST(MemoryWindow, ForgetsClicksInTirsasTurn) {
+    Play play;
+    play.backend.wait(20);
+    play.failedTurn(0, 2);
+    play.click(5);
+    play.backend.wait(5 * look);
+    play.backend.then([&] { EXPECT_TRUE(play.game().Punkte[1] > 0 || play.seen(5) == white.rgb); });
+    play.backend.closeBox();
+    EXPECT_EQ(play.show(), "L");
+}
+
+TEST(MemoryWindow, ClosesAtEveryWait) {
+    for (Milliseconds when = 0; when < 6000; when += 170) {
+        Play play;
+        play.backend.wait(20);
+        play.click(0);
+        play.click(when % 340 == 0 ? 1 : 2);
+        play.backend.wait(when);
+        play.backend.closeBox();
+        EXPECT_EQ(play.show(), "L");
+        EXPECT_LE(play.backend.now, 40 + when + 40) << "at once, not at the end of the wait";
+    }
+}
+
+TEST(MemoryWindow, CountsAsLostWithoutItsPictures) {
+    Play play;
+    play.backend.wait(10);
+    play.backend.key(key::escape);
+    MemoryZeigen(play.platform, play.z, play.media);
+    ASSERT_EQ(play.backend.boxes.size(), 1U);
+    EXPECT_NE(play.backend.boxes[0].text.find("m9.jpg"), Text::npos) << play.backend.boxes[0].text;
+    EXPECT_EQ(play.z.Übergabe, Übergabewert(Text("L")));
+}
+
+}  // namespace
+}  // namespace zentrox::test
