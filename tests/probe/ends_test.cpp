@@ -58,6 +58,8 @@ struct Case {
     int step;  // how many turns lie between two ends that are tried
 };
 
+void PrintTo(const Case& c, std::ostream* out) { *out << (*c.room == 0 ? "the menu" : c.room); }
+
 class EndsTest : public testing::TestWithParam<Case> {};
 
 TEST_P(EndsTest, EveryWaitCanBeLeft) {
