@@ -39,6 +39,7 @@ private:
             Block block;
             block.begin = i;
             open_.push_back(std::move(block));
+            ++openOf(isChoice(open_.back()));
         }
         if (command == opcode::Sonst) otherwise(i);
         if (command == opcode::Fall) aCase(i);
@@ -66,15 +67,13 @@ private:
     }
 
     void close(std::size_t i, bool choice) {
-        const auto match = std::find_if(open_.rbegin(), open_.rend(),
-                                        [&](const Block& block) { return isChoice(block) == choice; });
-        if (match == open_.rend()) {
+        if (openOf(choice) == 0) {
             problem(i, choice ? "\"EndeAuswahl\" schließt nichts, hier ist keine Auswahl offen"
                               : "\"EndeWenn\" schließt nichts, hier ist kein Wenn offen");
             return;
         }
-        const auto depth = static_cast<std::size_t>(open_.rend() - match);
-        while (open_.size() > depth) leaveOpen();
+        while (isChoice(open_.back()) != choice) leaveOpen();
+        --openOf(choice);
         keep(i);
     }
 
@@ -93,12 +92,17 @@ private:
         const Block& block = open_.back();
         problem(block.begin,
                 isChoice(block) ? "dieser Auswahl fehlt ihr EndeAuswahl" : "diesem Wenn fehlt sein EndeWenn");
+        --openOf(isChoice(block));
         open_.pop_back();
     }
+
+    int& openOf(bool choice) { return choice ? openChoices_ : openConditions_; }
 
     const Skript& script_;
     Blocks result_;
     std::vector<Block> open_;
+    int openChoices_ = 0;
+    int openConditions_ = 0;
 };
 
 }  // namespace

@@ -35,6 +35,7 @@ public:
           blocks_(findBlocks(view.script)) {
         for (std::size_t i = 0; i < view.script.Befehl.size(); ++i)
             if (view.script.Befehl[i] == opcode::Marke) labels_.insert(upper(Getrimmt(argumentOf(view.script, i))));
+        labelNames_.assign(labels_.begin(), labels_.end());
     }
 
     void all() {
@@ -103,8 +104,7 @@ private:
                 if (row.number == opcode::Springe && !labels_.contains(upper(Getrimmt(arg))))
                     findings_.error(view_.places.argument(i), "marke",
                                     "\"Springe\" nennt " + shown(arg) +
-                                        "; eine solche Marke hat dieses Skript nicht" +
-                                        perhaps(arg, {labels_.begin(), labels_.end()}));
+                                        "; eine solche Marke hat dieses Skript nicht" + perhaps(arg, labelNames_));
                 break;
             case Arg::rectangle: rectangle(i, row); break;
             case Arg::portrait: portrait(i, row); break;
@@ -236,6 +236,7 @@ private:
     Findings& findings_;
     Blocks blocks_;
     std::set<Text> labels_;
+    std::vector<Text> labelNames_;
     std::map<std::pair<std::size_t, double>, std::size_t> firstCases_;  // by block and option
 };
 

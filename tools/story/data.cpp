@@ -5,7 +5,7 @@
 #include "engine/files/fieldreader.h"
 #include "engine/files/raumdatei.h"
 #include "platform/files.h"
-#include "tools/story/parser.h"
+#include "tools/story/sourcefiles.h"
 
 namespace zentrox::story {
 

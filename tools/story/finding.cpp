@@ -12,6 +12,7 @@ namespace zentrox::story {
 namespace {
 
 constexpr std::size_t longestShown = 60;
+constexpr std::size_t mostCandidates = 1000;  // among more than these nobody looks for a likely one
 
 const char* nameOf(Severity severity) {
     return severity == Severity::error ? "error" : "warning";
@@ -104,12 +105,15 @@ std::string shown(TextView text) {
 }
 
 std::string perhaps(TextView word, const std::vector<Text>& candidates) {
+    if (candidates.size() > mostCandidates) return "";
     const Text* best = nullptr;
     const Text sought = normalised(word.substr(0, longestShown));
     std::size_t least = std::max<std::size_t>(sought.size() / 3, 1) + 1;
     for (const Text& candidate : candidates) {
         if (candidate.empty() || candidate.size() > longestShown) continue;
-        const std::size_t far = distance(sought, normalised(candidate));
+        const Text name = normalised(candidate);
+        if (std::max(name.size(), sought.size()) - std::min(name.size(), sought.size()) >= least) continue;
+        const std::size_t far = distance(sought, name);
         if (far >= least) continue;
         least = far;
         best = &candidate;

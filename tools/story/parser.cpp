@@ -1,14 +1,11 @@
 #include "tools/story/parser.h"
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <set>
 
 #include "engine/files/raumdatei.h"
 #include "engine/state/felder.h"
-#include "platform/error.h"
-#include "platform/picture.h"
 #include "tools/story/area.h"
 #include "tools/story/scriptbuilder.h"
 #include "tools/story/writer.h"
@@ -22,7 +19,13 @@ namespace {
 constexpr std::size_t deepestInclude = 50;
 constexpr int mostIncludes = 10000;
 constexpr std::size_t shortestItem = 5;  // a character, and the four of an extension
-constexpr double farthest = 1e6;         // pixels; beyond that lies no corner
+constexpr std::size_t mostCorners = 1000;
+constexpr double farthest = 1e6;  // pixels; beyond that lies no corner
+
+constexpr TextView areaWord = "Fläche"_t;
+constexpr TextView rectangleWord = "Rechteck";
+constexpr TextView polygonWord = "Vieleck";
+constexpr TextView pictureWord = "Maskenbild";
 
 constexpr std::string_view outsideScript =
     " steht in keinem Skript; davor gehört Start, Countdown, Rechts, Links oder Ablegen";
@@ -102,41 +105,46 @@ private:
         findings_.broken(first.place, "wort", unknownWord(first.value));
     }
 
+    struct Keyword {
+        TextView name;
+        Handler take;
+    };
+    static constexpr std::array<Keyword, 20> keywordTable() {
+        return {{{"Einbinden", &Parser::include},
+                 {"Raum", &Parser::room},
+                 {"Gegenstand", &Parser::item},
+                 {"Skriptdatei", &Parser::scriptFile},
+                 {"Bild", &Parser::picture},
+                 {"Start", &Parser::start},
+                 {"Countdown", &Parser::countDown},
+                 {"Objekt", &Parser::object},
+                 {"Zeiger", &Parser::pointer},
+                 {"Aktiv", &Parser::active},
+                 {"Inaktiv", &Parser::inactive},
+                 {areaWord, &Parser::area},
+                 {rectangleWord, &Parser::rectangle},
+                 {polygonWord, &Parser::polygon},
+                 {pictureWord, &Parser::maskPicture},
+                 {"Rechts", &Parser::right},
+                 {"Links", &Parser::left},
+                 {"Ablegen", &Parser::drop},
+                 {"Roh", &Parser::rawCommand},
+                 {"Option", &Parser::option}}};
+    }
+
     static const std::map<Text, Handler, std::less<>>& keywords() {
-        static const std::map<Text, Handler, std::less<>> table{
-            {"einbinden", &Parser::include},
-            {"raum", &Parser::room},
-            {"gegenstand", &Parser::item},
-            {"skriptdatei", &Parser::scriptFile},
-            {"bild", &Parser::picture},
-            {"start", &Parser::start},
-            {"countdown", &Parser::countDown},
-            {"objekt", &Parser::object},
-            {"zeiger", &Parser::pointer},
-            {"aktiv", &Parser::active},
-            {"inaktiv", &Parser::inactive},
-            {"flaeche", &Parser::area},
-            {"rechteck", &Parser::rectangle},
-            {"vieleck", &Parser::polygon},
-            {"maskenbild", &Parser::maskPicture},
-            {"rechts", &Parser::right},
-            {"links", &Parser::left},
-            {"ablegen", &Parser::drop},
-            {"roh", &Parser::rawCommand},
-            {"option", &Parser::option},
-        };
-        return table;
+        static const auto byName = [] {
+            std::map<Text, Handler, std::less<>> names;
+            for (const Keyword& keyword : keywordTable()) names[normalised(keyword.name)] = keyword.take;
+            return names;
+        }();
+        return byName;
     }
 
     static std::string unknownWord(const Text& word) {
-        static const std::vector<Text> known = [] {
-            std::vector<Text> all{"Einbinden", "Raum",           "Gegenstand", "Skriptdatei", "Bild",
-                                  "Start",     "Countdown",      "Objekt",     "Zeiger",      "Aktiv",
-                                  "Inaktiv",   Text("Fläche"_t), "Rechteck",   "Vieleck",     "Maskenbild",
-                                  "Rechts",    "Links",          "Ablegen",    "Roh",         "Option"};
-            for (const Opcode& opcode : opcodes()) all.emplace_back(opcode.name);
-            return all;
-        }();
+        std::vector<Text> known;
+        for (const Keyword& keyword : keywordTable()) known.emplace_back(keyword.name);
+        for (const Opcode& opcode : opcodes()) known.emplace_back(opcode.name);
         return shown(word) + " ist kein Befehl" + perhaps(word, known);
     }
 
@@ -322,7 +330,8 @@ private:
     void area(const Statement& s) {
         if (!inObjectHead(s) || s.size() == 1) return;
         const Text shape = normalised(s[1].value);
-        if (shape == "rechteck" || shape == "vieleck" || shape == "maskenbild")
+        if (shape == normalised(rectangleWord) || shape == normalised(polygonWord) ||
+            shape == normalised(pictureWord))
             take(Statement(s.begin() + 1, s.end()));
         else
             findings_.broken(s[1].place, "argument", "eine Fläche besteht aus Rechteck, Vieleck und Maskenbild");
@@ -365,8 +374,12 @@ private:
     void polygon(const Statement& s) {
         if (!inObjectHead(s)) return;
         const auto points = corners(s);
-        if (points && points->size() >= 3) return needsCells(s, addPolygon(object_.Maske, *points));
-        if (points)
+        if (points && points->size() > mostCorners)
+            findings_.broken(s.front().place, "argument",
+                             "ein Vieleck hat höchstens " + std::to_string(mostCorners) + " Ecken");
+        else if (points && points->size() >= 3)
+            needsCells(s, addPolygon(object_.Maske, *points));
+        else if (points)
             findings_.broken(
                 s.front().place, "argument",
                 "\"Vieleck\" braucht mindestens drei Ecken, X Y; hier stehen " + std::to_string(points->size()));
@@ -484,24 +497,6 @@ private:
 };
 
 }  // namespace
-
-std::optional<std::string> SourceFiles::read(const fs::path& path) {
-    std::error_code error;
-    if (!fs::is_regular_file(path, error)) return std::nullopt;
-    std::ifstream in(path, std::ios::binary);
-    std::string bytes(static_cast<std::size_t>(fs::file_size(path, error)), '\0');
-    if (error || !in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return std::nullopt;
-    return bytes;
-}
-
-std::optional<Bitmap> SourceFiles::picture(const fs::path& path) {
-    const fs::path whole = fs::absolute(path);
-    try {
-        return loadPicture(Files(whole.parent_path()), Files::gamePath(whole));
-    } catch (const DataError&) {
-        return std::nullopt;
-    }
-}
 
 Story parseSources(const std::vector<fs::path>& sources, SourceFiles& files, Findings& findings) {
     Parser parser(files, findings);

@@ -61,9 +61,11 @@ void ScriptBuilder::openChoice(const Statement& statement) {
         findings_.broken(place, "zeichen", "eine Frage kann kein | enthalten, das trennt die Möglichkeiten");
     add(opcode::Auswahl, {}, place, {});
     blocks_.push_back({std::move(choice)});
+    ++openChoices_;
 }
 
 // The number of an option stands in front of its text only where options are not in the order of their cases.
+// Without one it gets the lowest that is free.
 std::optional<std::int32_t> ScriptBuilder::addOption(const Statement& statement) {
     const Place place = statement.front().place;
     if (blocks_.empty() || !blocks_.back().choice) {
@@ -74,7 +76,8 @@ std::optional<std::int32_t> ScriptBuilder::addOption(const Statement& statement)
     }
     Choice& choice = *blocks_.back().choice;
     auto words = std::span(statement).subspan(1);
-    std::int32_t number = choice.next;
+    std::int32_t number = 1;
+    while (choice.options.contains(number)) ++number;
     if (!words.empty() && !words[0].quoted) {
         const auto given = wholeNumber(words[0].value);
         if (given && (*given < 1 || *given > mostOptions))
@@ -88,7 +91,6 @@ std::optional<std::int32_t> ScriptBuilder::addOption(const Statement& statement)
     const Text text = compileText(statement.front().value, place, words, findings_).value_or("");
     if (text.find(optionMark) != Text::npos)
         findings_.broken(place, "zeichen", "eine Möglichkeit kann kein | enthalten, das trennt die Möglichkeiten");
-    choice.next = number + 1;
     if (choice.options.emplace(number, Choice::Option{text, linePlaces(words)}).second) return number;
     findings_.broken(place, "fall", "die Möglichkeit " + std::to_string(number) + " gibt es schon");
     return std::nullopt;
@@ -121,13 +123,17 @@ void ScriptBuilder::raw(const Statement& statement) {
 
 // Closes the innermost block of this kind and what stands open within it.
 void ScriptBuilder::closeBlock(bool choice) {
-    const auto open = std::find_if(blocks_.rbegin(), blocks_.rend(),
-                                   [&](const Block& b) { return b.choice.has_value() == choice; });
-    if (open == blocks_.rend()) return;
-    const auto keep = static_cast<std::size_t>(blocks_.rend() - open) - 1;
-    for (std::size_t i = keep; i < blocks_.size(); ++i)
-        if (blocks_[i].choice) writeChoice(*blocks_[i].choice);
-    blocks_.resize(keep);
+    const auto isKind = [&](const Block& block) { return block.choice.has_value() == choice; };
+    if (choice && openChoices_ == 0) return;
+    if (!choice && static_cast<std::size_t>(openChoices_) == blocks_.size()) return;
+    for (bool found = false; !found;) {
+        found = isKind(blocks_.back());
+        if (blocks_.back().choice) {
+            writeChoice(*blocks_.back().choice);
+            --openChoices_;
+        }
+        blocks_.pop_back();
+    }
 }
 
 void ScriptBuilder::writeChoice(const Choice& choice) {
@@ -153,6 +159,7 @@ void ScriptBuilder::finish(Skript& script, ScriptPlaces& places) {
     for (const Block& block : blocks_)
         if (block.choice) writeChoice(*block.choice);
     blocks_.clear();
+    openChoices_ = 0;
     script_.Letzter = static_cast<std::int32_t>(script_.Befehl.size()) - 1;
     script = std::move(script_);
     const Place head = places.head;

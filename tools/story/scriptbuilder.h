@@ -32,7 +32,6 @@ private:
             std::vector<Place> places;
         };
         std::map<std::int32_t, Option> options;
-        std::int32_t next = 1;
     };
     // An open block: a condition, or a choice.
     struct Block {
@@ -48,6 +47,7 @@ private:
 
     Findings& findings_;
     std::vector<Block> blocks_;
+    int openChoices_ = 0;
     Skript script_;
     ScriptPlaces places_;
 };

@@ -16,6 +16,7 @@ namespace zentrox::story {
 namespace {
 
 constexpr int indentStep = 4;
+constexpr int deepestIndent = 20;  // steps; beyond that nobody's eye is helped
 constexpr const char* actionNames[] = {"Rechts", "Links", "Ablegen"};
 constexpr TextView usualPicture = ".bmp";
 constexpr std::size_t extensionLength = 4;
@@ -25,7 +26,8 @@ constexpr const char* itemsFile = "gegenstaende";
 class Lines {
 public:
     void add(int depth, const std::string& line) {
-        out_.append(static_cast<std::size_t>(std::max(depth, 0) * indentStep), ' ').append(line) += '\n';
+        out_.append(static_cast<std::size_t>(std::clamp(depth, 0, deepestIndent) * indentStep), ' ').append(line) +=
+            '\n';
     }
     // A command with texts behind it, each on a line of its own below the first.
     void add(int depth, const std::string& command, const std::vector<std::string>& texts) {
@@ -48,6 +50,8 @@ private:
 struct WrittenChoice {
     ChoiceText text;
     std::map<std::size_t, std::int32_t> cases;  // by the index of the instruction
+    bool inOrder = true;                        // else each option is written with its number
+    std::int32_t written = 0;                   // so many options, while they are in order
 };
 
 class ScriptSource {
@@ -58,10 +62,10 @@ public:
           depth_(depth),
           blocks_(findBlocks(view.script)) {
         raw_.assign(script_.Befehl.size(), false);
-        for (std::size_t i = 0; i < raw_.size(); ++i) raw_[i] = belongsToBlock(script_.Befehl[i]) && !blocks_.at(i);
+        for (std::size_t i = 0; i < raw_.size(); ++i) noteWritten(i);
         noteErrors(view);
         for (const Block& block : blocks_.all)
-            if (script_.Befehl[block.begin] == opcode::Auswahl) noteChoice(block);
+            if (isPlain(block)) makeRaw(block);
     }
 
     void write() {
@@ -82,6 +86,14 @@ private:
         }
     }
 
+    // What the options of a choice make of it is seen later.
+    void noteWritten(std::size_t i) {
+        const Opcode* const row = findOpcode(script_.Befehl[i]);
+        const bool ofChoice = row && (row->arg == Arg::choice || row->arg == Arg::option);
+        written_.push_back(row && !ofChoice ? writtenArgument(*row, argumentOf(script_, i)) : std::nullopt);
+        raw_[i] = (!written_[i] && !ofChoice) || (belongsToBlock(script_.Befehl[i]) && !blocks_.at(i));
+    }
+
     // What the compiler would not take is written as it is. For the check an instruction's line is its index.
     void noteErrors(const ScriptView& view) {
         ScriptPlaces places;
@@ -93,27 +105,36 @@ private:
             if (finding.severity == Severity::error) raw_[static_cast<std::size_t>(finding.place.line) - 1] = true;
     }
 
-    // A choice is written with its options in place if its numbers are what the compiler would find.
-    void noteChoice(const Block& block) {
+    // Whether a block can't be written as one: the compiler has to find its parts as they are, and the numbers of a
+    // choice where it would put them itself.
+    bool isPlain(const Block& block) {
+        const bool choice = script_.Befehl[block.begin] == opcode::Auswahl;
+        return raw_[block.begin] || raw_[block.end] || (block.otherwise != nowhere && raw_[block.otherwise]) ||
+               (choice && !noteChoice(block));
+    }
+
+    void makeRaw(const Block& block) {
+        raw_[block.begin] = raw_[block.end] = true;
+        if (block.otherwise != nowhere) raw_[block.otherwise] = true;
+        for (const std::size_t i : block.cases) raw_[i] = true;
+    }
+
+    bool noteChoice(const Block& block) {
         const TextView argument = argumentOf(script_, block.begin);
         WrittenChoice choice{splitChoice(argument), {}};
         Text again = std::to_string(choice.text.options.size()) + "|" + choice.text.question;
         for (const Text& option : choice.text.options) again += "|" + option;
-        bool plain = raw_[block.begin] || again != argument;
+        if (again != argument) return false;
+        std::int32_t before = 0;
         for (const std::size_t i : block.cases) {
-            plain = plain || raw_[i];
             const std::int32_t number = Runden(Val(argumentOf(script_, i)));
-            const bool exact = argumentOf(script_, i) == std::to_string(number);
-            if (exact && number >= 1 && number <= static_cast<std::int32_t>(choice.text.options.size()))
-                choice.cases[i] = number;
-            plain = plain || !choice.cases.contains(i);
+            if (raw_[i] || argumentOf(script_, i) != std::to_string(number)) return false;
+            choice.cases[i] = number;
+            choice.inOrder = choice.inOrder && number > before;
+            before = number;
         }
-        if (!plain) {
-            choices_[block.begin] = std::move(choice);
-            return;
-        }
-        raw_[block.begin] = raw_[block.end] = true;
-        for (const std::size_t i : block.cases) raw_[i] = true;
+        choices_[block.begin] = std::move(choice);
+        return true;
     }
 
     void instruction(std::size_t i) {
@@ -133,49 +154,38 @@ private:
         const Opcode* const row = findOpcode(script_.Befehl[i]);
         const TextView argument = argumentOf(script_, i);
         const auto choice = choices_.find(i);
-        if (choice != choices_.end()) {
-            next_[blocks_.blockOf[i]] = 1;
+        if (choice != choices_.end())
             return lines_.add(depth_, "Auswahl", linesInQuotes(choice->second.text.question));
-        }
-        if (row && !raw_[i]) {
-            if (row->number == opcode::Fall) return aCase(i);
-            if (const auto written = writtenArgument(*row, argument))
-                return lines_.add(depth_, toUtf8(row->name), *written);
-        }
+        if (row && !raw_[i] && row->number == opcode::Fall) return aCase(i);
+        if (row && !raw_[i]) return lines_.add(depth_, toUtf8(row->name), *written_[i]);
         lines_.add(depth_, "Roh " + (row ? toUtf8(row->name) : std::to_string(script_.Befehl[i])),
                    argument.empty() ? std::vector<std::string>() : std::vector{inQuotes(argument)});
     }
 
     // --- cases and options of a choice
 
-    void option(const char* word, const WrittenChoice& choice, std::int32_t number, std::int32_t& next) {
-        const std::string command = number == next ? word : word + (" " + std::to_string(number));
+    void option(const char* word, WrittenChoice& choice, std::int32_t number) {
+        const std::string command = choice.inOrder ? word : word + (" " + std::to_string(number));
         lines_.add(depth_, command, linesInQuotes(choice.text.options[static_cast<std::size_t>(number) - 1]));
-        next = number + 1;
-    }
-
-    static bool hasCase(const WrittenChoice& choice, std::int32_t number) {
-        return std::any_of(choice.cases.begin(), choice.cases.end(),
-                           [&](const auto& entry) { return entry.second == number; });
+        choice.written = number;
     }
 
     void aCase(std::size_t i) {
-        const WrittenChoice& choice = choices_.at(blocks_.at(i)->begin);
+        WrittenChoice& choice = choices_.at(blocks_.at(i)->begin);
         const std::int32_t number = choice.cases.at(i);
-        std::int32_t& next = next_[blocks_.blockOf[i]];
-        while (next < number && !hasCase(choice, next)) {
-            written_.insert({blocks_.blockOf[i], next});
-            option("Option", choice, next, next);
-        }
-        option("Fall", choice, number, next);
+        while (choice.inOrder && choice.written + 1 < number) option("Option", choice, choice.written + 1);
+        option("Fall", choice, number);
     }
 
+    // The options that have no case and are not written yet.
     void endChoice(const Block& block) {
-        const WrittenChoice& choice = choices_.at(block.begin);
-        const std::size_t own = blocks_.blockOf[block.begin];
+        WrittenChoice& choice = choices_.at(block.begin);
+        std::set<std::int32_t> done;
+        for (const auto& [index, number] : choice.cases) done.insert(number);
         ++depth_;
-        for (std::int32_t k = 1; k <= static_cast<std::int32_t>(choice.text.options.size()); ++k)
-            if (!hasCase(choice, k) && !written_.contains({own, k})) option("Option", choice, k, next_[own]);
+        for (std::int32_t k = choice.inOrder ? choice.written + 1 : 1;
+             k <= static_cast<std::int32_t>(choice.text.options.size()); ++k)
+            if (!done.contains(k)) option("Option", choice, k);
         --depth_;
     }
 
@@ -184,9 +194,8 @@ private:
     int depth_;
     Blocks blocks_;
     std::vector<bool> raw_;
-    std::map<std::size_t, WrittenChoice> choices_;            // by the index of the instruction
-    std::map<std::size_t, std::int32_t> next_;                // by block: the number that comes by itself
-    std::set<std::pair<std::size_t, std::int32_t>> written_;  // options without a case, by block
+    std::vector<std::optional<std::vector<std::string>>> written_;  // behind each command, where it can be said so
+    std::map<std::size_t, WrittenChoice> choices_;                  // by the index of the instruction
 };
 
 void writeScript(const std::string& head, const ScriptView& view, Lines& lines, int depth) {
