@@ -86,11 +86,12 @@ bool PISpiel::ansage(TextView text) {
 
 // Draws itself over the text in a second and a half.
 bool PISpiel::kreis() {
+    constexpr Point mitte{fläche.w / 2, fläche.h / 2};
     for (int a = 0; a <= 360; a += kreisSchritt) {
         const double winkel = std::numbers::pi * a / 180;
-        Picture1.setPixel({Runden(fläche.w / 2 + kreisRadius * std::sin(winkel)),
-                           Runden(fläche.h / 2 + kreisRadius * std::cos(winkel))},
-                          kreisgrün);
+        const Point ort{Runden(mitte.x + kreisRadius * std::sin(winkel)),
+                        Runden(mitte.y + kreisRadius * std::cos(winkel))};
+        Picture1.setPixel(ort, kreisgrün);
         if (!warten(kreisTakt)) return false;
     }
     return true;

@@ -1,8 +1,8 @@
 // zentrox-digits COUNT FILE: writes the first characters of pi, the point counted, as the pi game asks them.
 #include <charconv>
-#include <cstdio>
 #include <cstring>
 #include <fstream>
+#include <iostream>
 
 #include "tools/digits/pi.h"
 
@@ -11,13 +11,13 @@ int main(int count, char** arguments) {
     std::size_t characters = 0;
     if (count == 3) std::from_chars(arguments[1], arguments[1] + std::strlen(arguments[1]), characters);
     if (characters == 0) {
-        std::fputs("usage: zentrox-digits COUNT FILE\n", stderr);
+        std::cerr << "usage: zentrox-digits COUNT FILE\n";
         return callFailed;
     }
     std::ofstream file(arguments[2], std::ios::binary);
     file << zentrox::piCharacters(characters);
     file.close();
     if (file) return 0;
-    std::fprintf(stderr, "zentrox-digits: %s can't be written\n", arguments[2]);
+    std::cerr << "zentrox-digits: " << arguments[2] << " can't be written\n";
     return 1;
 }
