@@ -94,7 +94,8 @@ Milliseconds Desktop::clock() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begin_).count();
 }
 
-// Sleeps to the very millisecond: the last fraction of it without an eye on input, since SDL waits whole ones only.
+// Sleeps to the very millisecond: the last one or two without an eye on input, since SDL waits whole ones only and
+// wakes up to one late.
 void Desktop::sleep(std::optional<Milliseconds> until) {
     if (!pending_.empty()) return;
     if (!until && videoStarted_) {
@@ -103,11 +104,11 @@ void Desktop::sleep(std::optional<Milliseconds> until) {
     }
     const auto end = begin_ + std::chrono::milliseconds(until.value_or(clock() + frame));
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
-    if (left.count() >= 1 && videoStarted_) {
-        const auto most = std::min<Milliseconds>(left.count(), 1000000);
+    if (left.count() > 1 && videoStarted_) {
+        const auto most = std::min<Milliseconds>(left.count() - 1, 1000000);
         if (SDL_WaitEventTimeout(nullptr, static_cast<int>(most)) != 0) return;
     }
-    if (end - std::chrono::steady_clock::now() < std::chrono::milliseconds(2) || !videoStarted_)
+    if (end - std::chrono::steady_clock::now() < std::chrono::milliseconds(3) || !videoStarted_)
         std::this_thread::sleep_until(end);
 }
 
