@@ -25,6 +25,8 @@ TEST(Decoder, CountsTheLengthOfSounds) {
     const auto cut = directory.write("cut.wav", wavFile(tone).substr(0, 44 + 22050 / 2));
     EXPECT_EQ(decoder->audioLength(cut), 500) << "by what is there, not by what the header says";
     EXPECT_EQ(decoder->audioLength(directory.path() / "missing.wav"), 0);
+    const auto slow = directory.write("slow.wav", wavFile({.seconds = 4000, .rate = 1}));
+    EXPECT_EQ(decoder->audioLength(slow), 0) << "a rate that can't be meant would fill the memory";
 }
 
 TEST(Decoder, ReadsASoundToItsEndAtTheRateOfTheDevice) {

@@ -15,6 +15,10 @@ namespace zentrox::ffmpeg {
 namespace {
 
 constexpr int channels = 2;
+// What lies beyond is a damaged header.
+constexpr int lowestRate = 1000;
+constexpr int highestRate = 200'000;
+constexpr int mostChannels = 8;
 constexpr double longestDelay = 10'000;  // milliseconds by which sound may come behind its video
 
 struct ResamplerCloser {
@@ -78,6 +82,8 @@ private:
 
     bool prepared() {
         const int count = frame_->ch_layout.nb_channels;
+        const bool sound = frame_->sample_rate >= lowestRate && frame_->sample_rate <= highestRate;
+        if (!sound || count < 1 || count > mostChannels) return false;
         if (resampler_ && rate_ == frame_->sample_rate && format_ == frame_->format && channels_ == count)
             return true;
         AVChannelLayout in;

@@ -11,6 +11,11 @@ namespace {
 constexpr const char* formats =
     "wav,mp3,ogg,flac,aac,aiff,au,w64,mpeg,mpegvideo,mpegts,avi,mov,mp4,matroska,webm,asf,flv,flic,m4v";
 constexpr std::int64_t mostPixels = 4096LL * 4096;
+constexpr double usualPicture = 40;  // milliseconds, where the file does not say
+
+double plausible(double lasts) {
+    return lasts > 0 && lasts <= longestPicture ? lasts : usualPicture;
+}
 
 Owned<AVFormatContext> openFile(const std::filesystem::path& file) {
     AVDictionary* options = nullptr;
@@ -84,9 +89,7 @@ double Input::duration(const AVFrame& frame) const {
 #else
     const auto ticks = frame.pkt_duration;
 #endif
-    if (ticks > 0) return static_cast<double>(ticks) * av_q2d(stream().time_base) * 1000;
-    const AVRational rate = stream().avg_frame_rate;
-    return rate.num > 0 && rate.den > 0 ? 1000 / av_q2d(rate) : 0;
+    return plausible(static_cast<double>(ticks) * av_q2d(stream().time_base) * 1000);
 }
 
 std::int64_t Input::headerLength() const {
@@ -99,10 +102,12 @@ std::int64_t Input::countedLength() {
     const bool sound = stream().codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
     while (av_read_frame(format_.get(), packet_.get()) >= 0) {
         if (packet_->stream_index == stream_) {
-            const double lasts = static_cast<double>(packet_->duration) * av_q2d(stream().time_base) * 1000;
+            const double ticks = static_cast<double>(packet_->duration) * av_q2d(stream().time_base) * 1000;
+            const double lasts = sound ? ticks : plausible(ticks);
             // Sound has no gaps, and its stamps may be guesses. Not every picture has a stamp.
             const bool stamped = !sound && packet_->pts != AV_NOPTS_VALUE;
-            const double begins = stamped ? milliseconds(packet_->pts) : end;
+            const double stamp = stamped ? milliseconds(packet_->pts) : end;
+            const double begins = stamp > end + longestPicture ? end : stamp;
             end = std::max(end, begins + lasts);
         }
         av_packet_unref(packet_.get());

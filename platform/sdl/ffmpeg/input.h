@@ -19,6 +19,9 @@ struct Closer {
     void operator()(AVPacket* packet) const { av_packet_free(&packet); }
 };
 
+// Milliseconds; a picture that is said to be seen for longer is wrongly dated.
+constexpr double longestPicture = 60'000;
+
 template <class T>
 using Owned = std::unique_ptr<T, Closer>;
 
@@ -31,7 +34,7 @@ public:
     bool next(AVFrame& frame);
     // Milliseconds from the start of the file, of a time stamp of this stream.
     double milliseconds(std::int64_t stamp) const;
-    // Milliseconds that a frame lasts; 0 if the file does not say.
+    // Milliseconds that a picture lasts.
     double duration(const AVFrame& frame) const;
     // Milliseconds of the whole file by its header; 0 if that does not say.
     std::int64_t headerLength() const;

@@ -13,9 +13,6 @@ namespace zentrox::ffmpeg {
 
 namespace {
 
-constexpr double usualDuration = 40;       // milliseconds a picture, where the file does not say
-constexpr double longestPicture = 10'000;  // a later time stamp is taken for a broken one
-
 struct ScalerCloser {
     void operator()(SwsContext* scaler) const { sws_freeContext(scaler); }
 };
@@ -55,11 +52,10 @@ private:
     void fetch() {
         more_ = input_->next(*ahead_);
         if (!more_) return;
-        const double lasts = input_->duration(*ahead_);
         const auto stamp = ahead_->best_effort_timestamp;
         const double at = stamp == AV_NOPTS_VALUE ? end_ : input_->milliseconds(stamp);
         begins_ = at < begins_ || at > end_ + longestPicture ? end_ : at;
-        end_ = begins_ + (lasts > 0 ? lasts : usualDuration);
+        end_ = begins_ + input_->duration(*ahead_);
     }
 
     bool convert(std::uint32_t* pixels) {

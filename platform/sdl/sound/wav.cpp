@@ -9,6 +9,10 @@ namespace zentrox {
 namespace {
 
 constexpr Uint32 pieceFrames = 512;
+// What lies beyond is a damaged header.
+constexpr int lowestRate = 1000;
+constexpr int highestRate = 200'000;
+constexpr int mostChannels = 8;
 constexpr int frameBytes = 4;
 
 struct Closer {
@@ -23,6 +27,7 @@ public:
         Uint8* samples = nullptr;
         if (SDL_LoadWAV(file.c_str(), &form, &samples, &left_) == nullptr) return;
         samples_.reset(samples);
+        if (form.freq < lowestRate || form.freq > highestRate || form.channels > mostChannels) return;
         next_ = samples;
         const Uint32 frame = SDL_AUDIO_BITSIZE(form.format) / 8U * form.channels;
         piece_ = pieceFrames * frame;
