@@ -38,12 +38,12 @@ bool insidePolygon(const std::vector<Corner>& corners, Corner p) {
 }
 
 bool touchesCell(const std::vector<Corner>& corners, int column, int row) {
-    for (int i = 0; i < samples * samples; ++i) {
-        const double step = static_cast<double>(Maskenzelle) / samples;
-        if (insidePolygon(corners, {column * Maskenzelle + (i % samples + 0.5) * step,
-                                    row * Maskenzelle + (i / samples + 0.5) * step}))
-            return true;
-    }
+    constexpr double step = static_cast<double>(Maskenzelle) / samples;
+    for (int x = 0; x < samples; ++x)
+        for (int y = 0; y < samples; ++y)
+            if (insidePolygon(corners,
+                              {column * Maskenzelle + (x + 0.5) * step, row * Maskenzelle + (y + 0.5) * step}))
+                return true;
     return false;
 }
 

@@ -160,6 +160,7 @@ Checked readChecked(const std::vector<std::string>& words, Findings& findings) {
 }
 
 int check(const Options& options, const Streams& to) {
+    if (!options.data.empty()) needAll({options.data});
     Findings findings;
     const Checked checked = readChecked(options.words, findings);
     const fs::path root = options.data.empty() ? checked.root : fs::path(options.data);

@@ -475,24 +475,24 @@ private:
     Story story_;
     std::map<std::string, int> numbers_;
     std::vector<fs::path> open_;  // the source that is read, and those that include it
-    int includes_ = 0;
     std::map<Text, Place> written_;
 
-    Level level_ = Level::top;
     ScriptBuilder builder_;
     Skript* toScript_ = nullptr;  // where the open script goes
     ScriptPlaces* toPlaces_ = nullptr;
-    bool complained_ = false;  // one finding is enough for a row of commands outside of scripts
-
     StoryRoom room_;
-    bool keepRoom_ = false;
     std::set<Text> seen_;
     RaumObjekt object_;
     ObjectPlaces objectPlaces_;
     std::set<Text> objectSeen_;
     Token item_;
-    bool keepItem_ = false;
     StoryScript script_;
+
+    Level level_ = Level::top;
+    int includes_ = 0;
+    bool complained_ = false;  // one finding is enough for a row of commands outside of scripts
+    bool keepRoom_ = false;
+    bool keepItem_ = false;
     bool keepScript_ = false;
 };
 
