@@ -21,7 +21,7 @@ public:
 
 class FakeFonts : public Fonts {
 public:
-    const Font& get(const FontSpec& /*spec*/) override { return font_; }
+    const Font& get(const FontSpec& /*wanted*/) override { return font_; }
 
 private:
     FakeFont font_;
