@@ -25,23 +25,19 @@ Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
         return [&, spiel] { spiel(platform, zustand, medien); };
     };
     return {
-        {"BRUHKS", zeigt(BruhksZeigen)},
-        {"ESEL", zeigt(Form2Zeigen)},
-        {"HDW", zeigt(HDWZeigen)},
-        {"JUMP", zeigt(JumpZeigen)},
-        {"MEMORY", zeigt(MemoryZeigen)},
-        {"PI", zeigt(PIZeigen)},
-        {"PONG", zeigt(PongZeigen)},
-        {Text("PRÜGEL"_t), zeigt(PrügelZeigen)},
+        {"BRUHKS", zeigt(BruhksZeigen)}, {"ESEL", zeigt(Form2Zeigen)},
+        {"HDW", zeigt(HDWZeigen)},       {"JUMP", zeigt(JumpZeigen)},
+        {"MEMORY", zeigt(MemoryZeigen)}, {"PI", zeigt(PIZeigen)},
+        {"PONG", zeigt(PongZeigen)},     {Text("PRÜGEL"_t), zeigt(PrügelZeigen)},
     };
 }
 
-int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile) {
+int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
     try {
         Medien medien(platform, zustand);
         const Spieltabelle tabelle = spiele(platform, zustand, medien);
         const auto form1Zeigen = [&] {
-            Form1 form(platform, zustand, medien, tabelle, kommandozeile);
+            Form1 form(platform, zustand, medien, tabelle, kommandozeile, beobachter);
             form.Zeigen();
         };
         // A room named on the command line needs no menu.
@@ -56,9 +52,9 @@ int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile) {
 
 }  // namespace
 
-int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile) {
+int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
     try {
-        return fenster(platform, zustand, kommandozeile);
+        return fenster(platform, zustand, kommandozeile, beobachter);
     } catch (const DataError& error) {
         try {
             showMessageBox(platform, {"Zentrox", error.message(), MessageBox::Icon::critical});

@@ -25,13 +25,14 @@ constexpr double strichfarben = 1231312312;
 
 }  // namespace
 
-Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile)
+Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile,
+             Beobachter* beobachter)
     : Window(platform, "Form1", "", kleinstes, Frame::sizable),
       platform_(platform),
       z_(zustand),
       medien_(medien),
       kommandozeile_(std::move(kommandozeile)),
-      interpreter_(platform, zustand, medien, *this, spiele),
+      interpreter_(platform, zustand, medien, *this, spiele, beobachter),
       Hintergrund(platform.fonts, &root(), {{0, 0}, kleinstes}),
       Frame1(&root(), {{0, 0}, rahmen}),
       Picture1(platform.fonts, &Frame1, {{0, 0}, ansicht}, gelb),
@@ -92,7 +93,8 @@ void Form1::tonStarten() {
 
 void Form1::ThrowError(TextView Message) {
     const int code = medien_.FehlerCode();
-    const Text text = Text(Message) + "\r\n\r\nError Code : " + std::to_string(code) + "\r\n" + BassFehlerText(code);
+    const Text text =
+        Text(Message) + "\r\n\r\nError Code : " + std::to_string(code) + "\r\n" + BassFehlerText(code);
     showMessageBox(platform_, {"Error", text, MessageBox::Icon::critical});
 }
 

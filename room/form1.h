@@ -1,5 +1,5 @@
-// The room window: the one window in which the adventure is played. It owns the picture surfaces, the three timers of
-// the room view and the keyboard, and it opens the first room. All that follows is an answer to an event.
+// The room window: the one window in which the adventure is played. It owns the picture surfaces, the three timers
+// of the room view and the keyboard, and it opens the first room. All that follows is an answer to an event.
 #pragma once
 
 #include <functional>
@@ -16,11 +16,13 @@ namespace zentrox {
 
 class Form1 : public Window, public Raumfenster {
 public:
-    // All of these must outlive it. `kommandozeile` names the first room, if it is not empty.
-    Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile);
+    // All of these must outlive it. `kommandozeile` names the first room, if it is not empty; `beobachter` may be
+    // null.
+    Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile,
+          Beobachter* beobachter = nullptr);
 
-    // Starts sound, shows the window, opens the first room and serves the queue from then on. Leaves only by the end
-    // of the process.
+    // Starts sound, shows the window, opens the first room and serves the queue from then on. Leaves only by the
+    // end of the process.
     [[noreturn]] void Zeigen();
 
     void Lade(TextView Name) override;
@@ -142,7 +144,7 @@ private:
     int AuswahlZeile = -1;
     float LeisteVoll = 0;
 
-    Text eigenerZeiger_;            // the icon loaded last, full path
+    Text eigenerZeiger_;             // the icon loaded last, full path
     std::set<Text> geprüfteZeiger_;  // icons that are known to be sound
     std::vector<std::pair<Ereignis, std::function<void()>>> aufgeschoben_;
 };

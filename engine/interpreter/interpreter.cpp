@@ -26,12 +26,13 @@ private:
 }  // namespace
 
 Interpreter::Interpreter(Platform& platform, Zustand& zustand, Medien& medien, Raumfenster& raum,
-                         const Spieltabelle& spiele)
+                         const Spieltabelle& spiele, Beobachter* beobachter)
     : platform_(platform),
       z_(zustand),
       medien_(medien),
       raum_(raum),
-      spiele_(spiele) {}
+      spiele_(spiele),
+      beobachter_(beobachter) {}
 
 void Interpreter::SkriptAusführen(const Skript& skript, int objektIndex, Text parameter) {
     assert(objektIndex >= -1 && objektIndex <= z_.AktuellerRaum.LetztesObjekt);
@@ -45,6 +46,7 @@ void Interpreter::SkriptAusführen(const Skript& skript, int objektIndex, Text p
     const std::int32_t zeigerLetzter = z_.ZeigerLetzter;
     eröffnen();
     Lauf lauf{skript, std::move(parameter)};
+    if (beobachter_ != nullptr) lauf.nummer = beobachter_->Beginnt(skript, z_.RaumDatei, objektIndex);
     durchlaufen(lauf);
     if (lauf.schlussSchritte) schließen(zeigerLetzter);
 }
@@ -64,6 +66,7 @@ void Interpreter::durchlaufen(Lauf& lauf) {
 #ifndef NDEBUG
         verfolgen(lauf);
 #endif
+        if (beobachter_ != nullptr) beobachter_->Anweisung(lauf.nummer, lauf.zeiger);
         if (const Opcode* const opcode = findOpcode(lauf.befehl())) (this->*opcode->run)(lauf);
     }
 }

@@ -2,6 +2,7 @@
 // waits, the event queue is served, so that runs can nest.
 #pragma once
 
+#include "engine/interpreter/beobachter.h"
 #include "engine/interpreter/lauf.h"
 #include "engine/interpreter/opcodes.h"
 #include "engine/interpreter/raumfenster.h"
@@ -21,9 +22,9 @@ constexpr int MeisteOptionen = 1000;
 
 class Interpreter {
 public:
-    // All of these must outlive it.
-    Interpreter(Platform& platform, Zustand& zustand, Medien& medien, Raumfenster& raum,
-                const Spieltabelle& spiele);
+    // All of these must outlive it. `beobachter` may be null.
+    Interpreter(Platform& platform, Zustand& zustand, Medien& medien, Raumfenster& raum, const Spieltabelle& spiele,
+                Beobachter* beobachter = nullptr);
     Interpreter(const Interpreter&) = delete;
     Interpreter& operator=(const Interpreter&) = delete;
 
@@ -91,6 +92,7 @@ private:
     Medien& medien_;
     Raumfenster& raum_;
     const Spieltabelle& spiele_;
+    Beobachter* const beobachter_;
     int tiefe_ = 0;
 };
 

@@ -14,6 +14,7 @@ struct Lauf {
     std::int32_t zeiger = 0;
     bool schluss = false;         // the run is over and `skript` is not touched again
     bool schlussSchritte = true;  // whether the closing steps belong to its end
+    std::size_t nummer = 0;       // by which `Beobachter` knows the script
 
     // A room's own scripts run in place. A count-down that changes the room during a wait puts other scripts there,
     // so nothing of the script is remembered from one instruction to the next.

@@ -9,6 +9,7 @@
 #include "platform/probe/player.h"
 #include "platform/probe/recorder.h"
 #include "platform/system.h"
+#include "tools/probe/ran.h"
 #include "tools/probe/story.h"
 
 namespace {
@@ -25,6 +26,7 @@ struct Options {
     std::string arguments;
     std::uint64_t seed = 1;
     std::string pictures = ".";
+    std::string ran;
     bool quiet = false;
     std::string walk = "-";
 };
@@ -32,12 +34,14 @@ struct Options {
 std::string readWalk(const std::string& name) {
     if (name == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
     std::ifstream file(name, std::ios::binary);
-    if (!file || fs::is_directory(name)) throw probe::WalkError(name + ":0: expected a walk, found no readable file");
+    if (!file || fs::is_directory(name))
+        throw probe::WalkError(name + ":0: expected a walk, found no readable file");
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 // One life of the program, from its first window to its end; gives its exit status.
-int live(const Options& options, probe::ProbeBackend& backend, probe::Player& player, const Text& arguments) {
+int live(const Options& options, probe::ProbeBackend& backend, probe::Player& player, probe::Ran& ran,
+         const Text& arguments) {
     backend.beginAnew();
     const auto fonts = makeFonts();
     Recorder recorder(
@@ -49,10 +53,19 @@ int live(const Options& options, probe::ProbeBackend& backend, probe::Player& pl
     Zustand zustand;
     probe::Story story(platform, zustand, recorder);
     player.attach(&platform, &story);
-    const int status = Spielen(platform, zustand, arguments);
+    ran.watch(&zustand);
+    const int status = Spielen(platform, zustand, arguments, options.ran.empty() ? nullptr : &ran);
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);
     return status;
+}
+
+// What has run is told of a walk that failed, too.
+void tellWhatRan(const Options& options, const probe::Ran& ran) {
+    if (options.ran.empty()) return;
+    std::ofstream file(options.ran, std::ios::binary);
+    ran.write(file);
+    if (!file.flush()) throw probe::WalkError(options.ran + ": can't be written");
 }
 
 int play(const Options& options) {
@@ -63,10 +76,11 @@ int play(const Options& options) {
     probe::ProbeBackend backend(options.seed, options.quiet ? nullptr : &std::cout);
     probe::Player player(std::move(walk), backend, pictures, std::cout);
     backend.setPerson(&player);
-    Text arguments = fromUtf8(options.arguments);
+    probe::Ran ran;
+    int result = 0;
     try {
-        int status = live(options, backend, player, arguments);
-        while (backend.restartWanted() && !player.over()) status = live(options, backend, player, {});
+        int status = live(options, backend, player, ran, fromUtf8(options.arguments));
+        while (backend.restartWanted() && !player.over()) status = live(options, backend, player, ran, {});
         backend.trace("end");
         if (status != 0 && backend.lastBox() != nullptr && !backend.boxExpected)
             throw probe::WalkFailure{player.place() + ": expected the story to go on, found the failure \"" +
@@ -75,9 +89,10 @@ int play(const Options& options) {
     } catch (const probe::WalkFailure& failure) {
         std::cout.flush();
         std::cerr << failure.message << '\n';
-        return failed;
+        result = failed;
     }
-    return 0;
+    tellWhatRan(options, ran);
+    return result;
 }
 
 int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
@@ -88,6 +103,7 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_option("--args", options.arguments, "The game's command line, a room file name");
     app.add_option("--seed", options.seed, "Seed of the random numbers");
     app.add_option("--out", options.pictures, "Where shot writes");
+    app.add_option("--ran", options.ran, "Writes which instructions have run, for zentrox-story coverage");
     app.add_flag("--quiet", options.quiet, "No trace, only what say prints and what fails");
     app.add_option("WALK", options.walk, "A file, or - for standard input");
     app.set_version_flag("--version", "zentrox-probe " ZENTROX_VERSION);

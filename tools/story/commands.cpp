@@ -8,6 +8,7 @@
 #include "platform/error.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
+#include "tools/story/coverage.h"
 #include "tools/story/data.h"
 #include "tools/story/fresh.h"
 #include "tools/story/parser.h"
@@ -30,6 +31,8 @@ struct Options {
     std::string into;
     std::string data;
     bool json = false;
+    std::vector<std::string> ran;
+    double least = 0;
 };
 
 struct Streams {
@@ -201,6 +204,24 @@ int source(const Options& options, const Streams& to) {
     return findings.empty() ? clean : hasFindings;
 }
 
+int coverage(const Options& options, const Streams& to) {
+    needAll(options.ran);
+    Findings findings;
+    SourceFiles files;
+    const Story story = parseSources(sourcesOf(options.words), files, findings);
+    findings.settle(story);
+    if (findings.hasErrors()) {
+        to.err << asLines(story, findings);
+        return hasFindings;
+    }
+    Coverage coverage(story);
+    for (const std::string& name : options.ran)
+        if (!coverage.add(files.read(name).value_or("")))
+            throw WrongCall{name + " was not written by a walk through this story as it stands"};
+    to.out << coverage.report(files);
+    return coverage.percent() < options.least ? hasFindings : clean;
+}
+
 int fresh(const Options& options, const Streams& to) {
     const fs::path directory = options.words.front();
     writeFreshStory(directory);
@@ -249,6 +270,11 @@ void describe(CLI::App& app, Chosen& chosen) {
     sub = add("source", "turn compiled rooms and scripts into sources", source);
     sub->add_option("DIR-or-FILE", options.words, "data directories, rooms, scripts")->required();
     sub->add_option("--into", options.into, "write one .story file a room and one for the items to this directory");
+
+    sub = add("coverage", "tell which lines of a story no walk has run", coverage);
+    sub->add_option("SOURCE", options.words, "source files, or directories of *.story")->required();
+    sub->add_option("--ran", options.ran, "what zentrox-probe --ran has written, of each walk a file")->required();
+    sub->add_option("--least", options.least, "percent of the lines that have to run")->check(CLI::Range(0, 100));
 
     sub = add("new", "make a small story to begin with", fresh);
     sub->add_option("DIR", options.words, "a directory that is empty or not there yet")->required()->expected(1);
