@@ -84,8 +84,9 @@ Text spoken(TextView text, const std::vector<Replacement>& words) {
         said += line;
     }
     std::erase_if(said, [](char c) { return quotes.find(c) != TextView::npos; });
+    const bool shouted = std::none_of(said.begin(), said.end(), isSmall);
     for (const Replacement& word : words) replaceAll(said, word);
-    if (std::none_of(said.begin(), said.end(), isSmall)) said = lower(said);
+    if (shouted) said = lower(said);
     sayYears(said);
     return said;
 }
