@@ -1,5 +1,6 @@
 // Every kind of finding, each with the smallest source that has it, and stories that have none.
 #include <nlohmann/json.hpp>
+#include <set>
 
 #include "story_support.h"
 #include "tests/support/fake_fonts.h"
@@ -10,25 +11,52 @@ namespace zentrox::story::test {
 
 namespace {
 
-// The findings of a whole check of one source, as "LINE:COLUMN CODE" each.
-std::vector<std::string> findingsOf(const std::string& source, const DataFiles* data = nullptr,
-                                    MemoryFiles files = {}, const Story* rest = nullptr) {
-    Findings findings;
+using Expected = std::vector<std::string>;
+
+Findings checked(const Story& story, Findings findings, const DataFiles* data = nullptr,
+                 const Story* rest = nullptr) {
     zentrox::test::FakeFonts fonts;
-    const Story story = parseSource(source, "probe.story", files, findings);
     check(story, {rest, data, &fonts, true}, findings);
     findings.settle(story);
-    std::vector<std::string> short_;
-    for (const Finding& f : findings.all())
-        short_.push_back(std::to_string(f.place.line) + ":" + std::to_string(f.place.column) + " " + f.code);
-    return short_;
+    return findings;
 }
 
-using Expected = std::vector<std::string>;
+// The findings of a whole check of one source, as "LINE:COLUMN CODE" each.
+Expected findingsOf(const std::string& source, const DataFiles* data = nullptr, const Story* rest = nullptr) {
+    Findings findings;
+    MemoryFiles files;
+    const Story story = parseSource(source, "probe.story", files, findings);
+    Expected found;
+    const Findings all = checked(story, findings, data, rest);
+    for (const Finding& f : all.all())
+        found.push_back(std::to_string(f.place.line) + ":" + std::to_string(f.place.column) + " " + f.code);
+    return found;
+}
+
+std::set<std::string> codesOf(const Findings& findings) {
+    std::set<std::string> codes;
+    for (const Finding& f : findings.all()) codes.insert(f.code);
+    return codes;
+}
+
+// What can be compiled has to give the same findings as data. That knows no comments, of an item
+// nothing but its scripts, and one place for all lines of a text.
+void expectTheSameOfData(const std::string& source, const DataFiles* data = nullptr) {
+    Findings findings;
+    MemoryFiles files;
+    Story story = parseSource(source, "probe.story", files, findings);
+    if (!findings.empty()) return;
+    story.silences.clear();
+    story.items.clear();
+    Story compiled;
+    for (const auto& [name, bytes] : filesOf(story))
+        (name.ends_with(".lsd") ? readRoomData : readScriptData)(bytes, name, toUtf8(name), compiled, findings);
+    EXPECT_EQ(codesOf(checked(compiled, findings, data)), codesOf(checked(story, {}, data))) << source;
+}
 
 // Lines 1 to 3 stand before what a script holds, which begins in line 4.
 std::string inScript(const std::string& lines) {
-    return "Raum \"a.lsd\"\n Objekt \"Tür\"\n  Links\n" + lines + "\n";
+    return "Raum \"a.lsd\"\n Objekt \"Tür\"\n  Ablegen\n" + lines + "\n";
 }
 
 struct Case {
@@ -37,8 +65,11 @@ struct Case {
 };
 
 void expectAll(const std::vector<Case>& cases, bool script) {
-    for (const Case& c : cases)
-        EXPECT_EQ(findingsOf(script ? inScript(c.source) : c.source), c.findings) << c.source;
+    for (const Case& c : cases) {
+        const std::string source = script ? inScript(c.source) : c.source;
+        EXPECT_EQ(findingsOf(source), c.findings) << c.source;
+        expectTheSameOfData(source);
+    }
 }
 
 std::string repeated(const std::string& line, int times) {
@@ -75,6 +106,10 @@ TEST(FindingsOf, WhatCanNotBeCompiled) {
             {"Raum a.lsd\nRechts", {"2:1 platz"}},
             {"Raum a.lsd\nObjekt x\nLinks\nZeiger a.ico", {"4:1 platz"}},
             {"Raum a.lsd\nObjekt x\nText \"a\"\nText \"b\"", {"3:1 platz"}},
+            {"Raum a.lsd\nStart:\nText \"a\"\n: \"b\"", {"2:1 wort", "4:1 wort"}},
+            {"Raum a.lsd\nStart b\nText \"a\"", {"2:7 argument"}},
+            // Of flags nothing is told as long as a part of the story is not known.
+            {"Raum a.lsd\nStart\nFoo\nWennMerker A\nEndeWenn", {"3:1 wort"}},
             {"Raum a.lsd\nObjekt x\nFläche Kreis", {"3:8 argument"}},
             {"Raum a.lsd\nObjekt x\nRechteck 1 2 3", {"3:14 argument"}},
             {"Raum a.lsd\nObjekt x\nRechteck 1 2 drei 4", {"3:14 argument"}},
@@ -107,6 +142,7 @@ TEST(FindingsOf, CommandsThatMakeNoSense) {
             {"CountDownSetzen 0,5", {"4:19 argument"}},
             {"CountDownSetzen -1", {"4:17 argument"}},
             {"Blende rot", {"4:8 argument"}},
+            {"Text: \"a\"", {"4:1 wort"}},
             {"Portrait mitte \"a.jpg\"", {"4:10 argument"}},
             {"SetzeZeiger Tür \"a,b.ico\"", {"4:17 argument"}},
             {"Spiel SCHACH SIEG", {"4:7 argument"}},
@@ -170,6 +206,20 @@ TEST(FindingsOf, WaysThroughAScript) {
         true);
 }
 
+// Only what is dropped is an item for a room.
+TEST(FindingsOf, ConditionsThatAreNeverTrue) {
+    const std::string condition = "WennParameter X\nText \"a\"\nSonst\nText \"b\"\nEndeWenn";
+    expectAll(
+        {
+            {"Raum a.lsd\nStart\n" + condition, {"4:1 unerreichbar"}},
+            {"Raum a.lsd\nCountdown\n" + condition, {"4:1 unerreichbar"}},
+            {"Raum a.lsd\nObjekt x\nRechts\n" + condition + "\nLinks\n" + condition + "\nAblegen\n" + condition,
+             {"5:1 unerreichbar", "11:1 unerreichbar"}},
+            {"Gegenstand x.bmp\nLinks\n" + condition + "\nAblegen\n" + condition, {}},
+        },
+        false);
+}
+
 TEST(FindingsOf, SavingWhileTheCountDownRuns) {
     const std::string room = "Raum a.lsd\nStart\n";
     expectAll(
@@ -179,7 +229,7 @@ TEST(FindingsOf, SavingWhileTheCountDownRuns) {
             {room + "System Save\nCountDownSetzen 5", {}},
             {room + "CountDownSetzen 5\nObjekt x\nLinks\nSystem Save", {"6:1 speichern"}},
             {room + "CountDownSetzen 5\nObjekt x\nLinks\nCountDownSetzen 0\nRechts\nSystem Save", {}},
-            {room + "WennParameter X\nCountDownSetzen 5\nEndeWenn\nObjekt x\nLinks\nSystem Save", {}},
+            {room + "WennMerker BÖSE\nCountDownSetzen 5\nBöseÄndern 1\nEndeWenn\nObjekt x\nLinks\nSystem Save", {}},
             {"Raum a.lsd\nCountdown\nSystem Save", {"3:1 speichern"}},
         },
         false);
@@ -225,7 +275,7 @@ TEST(FindingsOf, FlagsAndItemsOfTheWholeStory) {
     MemoryFiles files;
     Findings ignored;
     const Story rest = parseSource("Raum b.lsd\nStart\nSetzeMerker A", "b.story", files, ignored);
-    EXPECT_EQ(findingsOf(inScript("WennMerker A\nEndeWenn"), nullptr, {}, &rest), Expected{});
+    EXPECT_EQ(findingsOf(inScript("WennMerker A\nEndeWenn"), nullptr, &rest), Expected{});
 }
 
 TEST(FindingsOf, FilesAreSoughtAsTheGameDoes) {
@@ -234,7 +284,10 @@ TEST(FindingsOf, FilesAreSoughtAsTheGameDoes) {
          {"Graphics/Flur.JPG", "sounds/ja.mp3", "cursors/hand1.ico", "items/ring.bmp", "rooms/tief/c.lsd"})
         directory.write(name, "x");
     const DataFiles data(directory.path());
-    const auto found = [&](const std::string& source) { return findingsOf(source, &data); };
+    const auto found = [&](const std::string& source) {
+        expectTheSameOfData(source, &data);
+        return findingsOf(source, &data);
+    };
     EXPECT_EQ(found("Raum a.lsd\nBild \"alt\\flur.jpg\"\nObjekt x\nZeiger \"HAND1.ICO\"\nLinks\nTon \"JA.wav\"\n"
                     "NimmGegenstand ring.bmp\nRaumwechsel \"tief\\C.lsd\"\nRechts\nRaumwechsel "
                     "A.LSD\nAblegen\nZeigBild\nMusik"),
@@ -263,10 +316,39 @@ TEST(FindingsOf, CompiledData) {
     EXPECT_EQ(
         found("b.jpg,0\r\n 77,a\r\n-1,0,3,a\"b"),
         "a.lsd:2:2: error [befehl]: einen Befehl mit der Nummer 77 gibt es nicht; es gibt 0 bis 32\n"
-        "a.lsd:3:6: warning [merker-nie-geprueft]: der Merker \"A\"B\" wird gesetzt, aber nirgends geprüft\n"
+        "a.lsd:3:6: warning [merker-nie-geprueft]: der Merker \"A\"B\" wird gesetzt, aber nirgends geprüft; das "
+        "täte WennMerker\n"
         "a.lsd:3:6: error [zeichen]: ein Anführungszeichen hat in einem Text keinen Platz; richtig sind „ und “\n");
     EXPECT_EQ(found("b.jpg,-1,-1\n0,\"0\""),
               "a.lsd:2:3: error [datei]: gefunden wurde \"\"0\"\", erwartet war eine Zahl\n");
+}
+
+// A finding says what would be right, where that can be guessed.
+TEST(FindingsOf, WhatIsMeantPerhaps) {
+    const zentrox::test::TempDirectory directory;
+    for (const char* name : {"graphics/flur.png", "graphics/bild2.png", "items/ring.bmp"})
+        directory.write(name, "x");
+    const DataFiles data(directory.path());
+    const auto said = [&](const std::string& lines) {
+        MemoryFiles files;
+        Findings findings;
+        const Story story = parseSource(inScript(lines), "a.story", files, findings);
+        return asLines(story, checked(story, findings, &data));
+    };
+    for (const auto& [lines, hint] : std::vector<std::pair<std::string, std::string>>{
+             {"Wenn X", "; gemeint ist vielleicht \"WennMerker\" oder \"WennParameter\"\n"},
+             {"SetzeMerkr X", "; gemeint ist vielleicht \"SetzeMerker\"\n"},
+             {"Gehe X", "ist kein Befehl; alle Befehle zeigt"},
+             {"# Kommentar", "; ein Kommentar beginnt mit //\n"},
+             {"ObjektAn Tur", "; dieser Raum hat \"Tür\""},
+             {"Spiel PONK A", "; gemeint ist vielleicht \"PONG\"\n"},
+             {"Springe obn\nMarke OBEN", "; gemeint ist vielleicht \"OBEN\"\n"},
+             {"ZeigBild flur.jpg", "; gemeint ist vielleicht \"flur.png\"\n"},
+             {"ZeigBild bild1.png", "; gesucht wird in graphics\n"},  // another number is another picture
+             {"NimmGegenstand ring", "; gemeint ist vielleicht \"ring.bmp\"\n"},
+             {"Raumwechsel a", "der Raum \"a\" fehlt; gesucht wird in rooms\n"},
+             {"WennMerker OFEN\nEndeWenn\nSetzeMerker OFFEN", "; gemeint ist vielleicht \"OFFEN\"\n"}})
+        EXPECT_NE(said(lines).find(hint), std::string::npos) << said(lines);
 }
 
 TEST(FindingsOf, SortedAndForMachines) {

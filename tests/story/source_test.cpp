@@ -23,6 +23,12 @@ std::string sourceOfRoom(const std::string& utf8) {
     return story.rooms.empty() ? "" : roomSource(story.rooms[0]);
 }
 
+std::string withLineEnds(std::string room, const std::string& separator) {
+    for (std::size_t at = 0; (at = room.find("\r\n", at)) != std::string::npos; at += separator.size())
+        room.replace(at, 2, separator);
+    return room;
+}
+
 }  // namespace
 
 // Laid out as another tool might: bare texts, numbers for truths, all in one line or one field a line.
@@ -33,7 +39,8 @@ TEST(Source, ARoomFromAnotherTool) {
         "-1, 9, 24,\"2|Ja? |Gut#so| Nein\",25,2,12,X,25,1,2,\"$Cja #, ja\",26,,0,OFFEN,9,,13,\"Wirt,b.ico\",10,\r\n"
         "#true#,0,14,\"1, 2,3,4\"\r\n0,-1\r\nHand1.ico, 0 , Wirt\r\n" +
         mask(2, 4) + "0,31,.5\r\n";
-    EXPECT_EQ(sourceOfRoom(room), R"(Raum "Alt.lsd"
+    const std::string source = sourceOfRoom(room);
+    EXPECT_EQ(source, R"(Raum "Alt.lsd"
     Bild "graphics\Kneipe.jpg"
 
     Start
@@ -66,6 +73,9 @@ TEST(Source, ARoomFromAnotherTool) {
         Links
             Roh ZoomIN "1, 2,3,4"
 )");
+    // Where lines end means nothing.
+    for (const char* const separator : {"\n", "\r", ",", " , "})
+        EXPECT_EQ(sourceOfRoom(withLineEnds(room, separator)), source);
 }
 
 TEST(Source, ItemsAreGatheredByTheirNames) {

@@ -7,9 +7,10 @@ void checkForBuild(const Story& story, Findings& findings) {
 }
 
 void check(const Story& story, const Surroundings& around, Findings& findings) {
+    const bool wholeStory = around.wholeStory && !findings.hasBroken();
     CommandRules rules;
     for (const Story* part : {&story, around.rest})
-        for (std::size_t i = 0; part && around.wholeStory && i < part->rooms.size(); ++i)
+        for (std::size_t i = 0; part && wholeStory && i < part->rooms.size(); ++i)
             rules.rooms.push_back(&part->rooms[i]);
     for (const StoryRoom& room : story.rooms) checkRuns(room, findings);
     for (const ScriptView& view : scriptsOf(story)) {
@@ -19,7 +20,7 @@ void check(const Story& story, const Surroundings& around, Findings& findings) {
     }
     if (around.data) checkFiles(story, around, findings);
     checkItems(story, around.rest, findings);
-    if (around.wholeStory) checkFlags(story, around.rest, findings);
+    if (wholeStory) checkFlags(story, around.rest, findings);
 }
 
 }  // namespace zentrox::story

@@ -17,7 +17,7 @@ struct Surroundings {
     const Story* rest = nullptr;  // the parts of the story that are known but not checked
     const DataFiles* data = nullptr;
     Fonts* fonts = nullptr;
-    bool wholeStory = true;  // false if there are parts that are not known
+    bool wholeStory = true;  // false if there are parts that are not known; what could not be compiled is one
 };
 
 // All checks.

@@ -75,50 +75,49 @@ private:
         argumentOfKind(i, *row);
     }
 
-    void argumentOfKind(std::size_t i, const Opcode& row) {
-        const TextView arg = argument(i);
-        switch (row.arg) {
-            case Arg::flag:
-                if (Getrimmt(arg).empty()) wrong(i, row);
-                break;
+    // What one look at the argument tells; the kinds below it need more.
+    static bool fits(Arg kind, TextView arg) {
+        switch (kind) {
+            case Arg::flag: return !Getrimmt(arg).empty();
             case Arg::sound:
             case Arg::video:
             case Arg::item:
-            case Arg::room:
-                if (Getrimmt(Dateiname(arg)).empty()) wrong(i, row);
-                break;
-            case Arg::number:
-                if (!isNumber(arg)) wrong(i, row);
-                break;
-            case Arg::seconds:
-                if (!Getrimmt(arg).empty() && (!isNumber(arg) || Val(arg) < 0)) wrong(i, row);
-                break;
-            case Arg::fade:
-                if (!isFade(arg)) wrong(i, row);
-                break;
-            case Arg::word:
-                if (resemblesSystemWord(arg))
-                    wrong(i, row, shown(arg) + ", und das schließt das Spiel: Groß und klein zählen");
-                break;
-            case Arg::label:
-                if (row.number == opcode::Springe && !labels_.contains(upper(Getrimmt(arg))))
-                    findings_.error(view_.places.argument(i), "marke",
-                                    "\"Springe\" nennt " + shown(arg) +
-                                        "; eine solche Marke hat dieses Skript nicht" + perhaps(arg, labelNames_));
-                break;
-            case Arg::rectangle: rectangle(i, row); break;
-            case Arg::portrait: portrait(i, row); break;
-            case Arg::game: game(i, row); break;
-            case Arg::object: object(i, row, arg); break;
-            case Arg::objectPointer: objectPointer(i, row); break;
-            case Arg::choice: choice(i); break;
-            case Arg::option: option(i); break;
-            case Arg::none:
-            case Arg::text:
-            case Arg::picture:
-            case Arg::itemName:
-            case Arg::music: break;
+            case Arg::room: return !Getrimmt(Dateiname(arg)).empty();
+            case Arg::number: return isNumber(arg);
+            case Arg::seconds: return Getrimmt(arg).empty() || (isNumber(arg) && Val(arg) >= 0);
+            case Arg::fade: return isFade(arg);
+            default: return true;
         }
+    }
+
+    void argumentOfKind(std::size_t i, const Opcode& row) {
+        if (!fits(row.arg, argument(i))) return wrong(i, row);
+        switch (row.arg) {
+            case Arg::rectangle: return rectangle(i, row);
+            case Arg::portrait: return portrait(i, row);
+            case Arg::game: return game(i, row);
+            case Arg::label: return label(i, row);
+            case Arg::word: return systemWord(i, row);
+            case Arg::object: return object(i, row, argument(i));
+            case Arg::objectPointer: return objectPointer(i, row);
+            case Arg::choice: return choice(i);
+            case Arg::option: return option(i);
+            default: return;
+        }
+    }
+
+    void label(std::size_t i, const Opcode& row) {
+        const TextView name = argument(i);
+        if (row.number != opcode::Springe || labels_.contains(upper(Getrimmt(name)))) return;
+        const std::string hint = perhaps(name, labelNames_);
+        findings_.error(view_.places.argument(i), "marke",
+                        "\"Springe\" nennt " + shown(name) + "; eine solche Marke hat dieses Skript nicht" +
+                            (hint.empty() ? "; sie hieße \"Marke " + toUtf8(Trim(name)) + "\"" : hint));
+    }
+
+    void systemWord(std::size_t i, const Opcode& row) {
+        if (resemblesSystemWord(argument(i)))
+            wrong(i, row, shown(argument(i)) + ", und das schließt das Spiel: Groß und klein zählen");
     }
 
     void rectangle(std::size_t i, const Opcode& row) {
@@ -138,8 +137,8 @@ private:
         if (Trim(Feld(argument(i), ",", 2)).empty())
             findings_.warning(
                 view_.places.commands[i].command, "spiel-merker",
-                "dieses Spiel hat keinen Merker für seinen Ausgang; die Geschichte erfährt nicht, wer "
-                "gewonnen hat");
+                "dieses Spiel hat keinen Merker, die Geschichte erfährt nicht, wer gewonnen hat; der Merker steht "
+                "hinter dem Namen des Spiels");
     }
 
     // --- objects
@@ -206,12 +205,14 @@ private:
         const auto present = std::to_string(text.options.size());
         std::string message;
         if (count < 1)
-            message = "diese Auswahl bietet keine Möglichkeit an und ließe sich nie beenden";
+            message =
+                "diese Auswahl bietet keine Möglichkeit an und ließe sich nie beenden; in sie gehört ein Fall";
         else if (count > MeisteOptionen)
             message = "diese Auswahl nennt " + std::to_string(count) + " Möglichkeiten; höchstens " +
                       std::to_string(MeisteOptionen) + " sind möglich";
         else if (static_cast<std::size_t>(count) != text.options.size())
-            message = "diese Auswahl nennt " + std::to_string(count) + " Möglichkeiten, im Text stehen " + present;
+            message = "diese Auswahl nennt " + std::to_string(count) + " Möglichkeiten, im Text stehen " + present +
+                      "; beide Zahlen müssen gleich sein";
         if (!message.empty()) findings_.error(view_.places.commands[i].command, "auswahl", message);
     }
 

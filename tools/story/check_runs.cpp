@@ -27,12 +27,24 @@ void checkReach(const ScriptView& view, const Flow& flow, Findings& findings) {
         if (flow.reached[i] || isMark(commands[i]) || told) continue;
         told = true;
         const Place place = view.places.commands[i].command;
-        if (i > 0 && commands[i - 1] == opcode::Raumwechsel)
+        const std::int32_t before = i > 0 ? commands[i - 1] : opcode::Marke;
+        if (before == opcode::Raumwechsel)
             findings.warning(
                 place, "nach-raumwechsel",
                 "hinter einem Raumwechsel läuft kein Befehl mehr; was noch geschehen soll, gehört davor");
+        else if (before == opcode::WennParameter)
+            findings.warning(
+                place, "unerreichbar",
+                "dieser Befehl läuft nie: hier wird nichts abgelegt, WennParameter gehört unter Ablegen");
+        else if (before == opcode::Auswahl)
+            findings.warning(
+                place, "unerreichbar",
+                "zwischen einer Auswahl und ihrem ersten Fall läuft nichts; dieser Befehl gehört davor "
+                "oder in einen Fall");
         else
-            findings.warning(place, "unerreichbar", "hierher führt kein Weg; dieser Befehl läuft nie");
+            findings.warning(
+                place, "unerreichbar",
+                "hierher führt kein Weg, dieser Befehl läuft nie; er gehört weiter nach vorn oder weg");
     }
 }
 
@@ -101,7 +113,7 @@ CountDown atBegin(ScriptView::Role role, bool surelyOn) {
 bool isSurelyOn(const StoryRoom& room, const std::vector<ScriptView>& views) {
     const Blocks blocks = findBlocks(room.room.Startskript);
     if (!blocks.problems.empty()) return false;
-    const CountDownRun run = followCountDown(room.room.Startskript, findFlow(room.room.Startskript, blocks));
+    const CountDownRun run = followCountDown(room.room.Startskript, findFlow(views.front(), blocks));
     return run.atEnd == on && std::none_of(views.begin(), views.end(),
                                            [](const ScriptView& view) { return switchesOff(view.script); });
 }
@@ -109,7 +121,7 @@ bool isSurelyOn(const StoryRoom& room, const std::vector<ScriptView>& views) {
 void checkSaves(const ScriptView& view, CountDown before, Findings& findings) {
     const Blocks blocks = findBlocks(view.script);
     if (!blocks.problems.empty()) return;
-    const CountDownRun run = followCountDown(view.script, findFlow(view.script, blocks));
+    const CountDownRun run = followCountDown(view.script, findFlow(view, blocks));
     for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) {
         if (view.script.Befehl[i] != opcode::System || argumentOf(view.script, i) != "Save") continue;
         const CountDown state = (run.at[i] & asBefore) != 0 ? (run.at[i] & ~asBefore) | before : run.at[i];
@@ -125,7 +137,7 @@ void checkSaves(const ScriptView& view, CountDown before, Findings& findings) {
 void checkRun(const ScriptView& view, Findings& findings) {
     const Blocks blocks = findBlocks(view.script);
     if (!blocks.problems.empty()) return;  // the ways through are anybody's guess
-    const Flow flow = findFlow(view.script, blocks);
+    const Flow flow = findFlow(view, blocks);
     checkReach(view, flow, findings);
     for (const std::size_t i : busyLoops(view.script, flow))
         findings.warning(

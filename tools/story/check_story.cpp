@@ -1,8 +1,6 @@
-// What only the whole story shows: flags that nobody sets or tests, more items than the inventory holds, files that
-// are named and not there.
+// What only the whole story shows: flags that nobody sets or tests, and more items than the inventory holds.
 #include <algorithm>
 #include <map>
-#include <set>
 
 #include "engine/interpreter/opcodes.h"
 #include "engine/state/felder.h"
@@ -52,7 +50,7 @@ void checkItemsOfRun(const ScriptView& view, Findings& findings) {
     if (std::count(commands.begin(), commands.end(), opcode::NimmGegenstand) <= InventarPlätze) return;
     const Blocks blocks = findBlocks(view.script);
     if (!blocks.problems.empty()) return;
-    const Flow flow = findFlow(view.script, blocks);
+    const Flow flow = findFlow(view, blocks);
     std::vector<int> carried(commands.size() + 1, 0);
     for (std::size_t i = 0; i < commands.size(); ++i) {
         int count = carried[i];
@@ -61,7 +59,7 @@ void checkItemsOfRun(const ScriptView& view, Findings& findings) {
         if (count > InventarPlätze && flow.reached[i]) {
             findings.error(view.places.commands[i].command, "gegenstaende",
                            "dieses Skript gibt mehr als " + std::to_string(InventarPlätze) +
-                               " Gegenstände; mehr trägt niemand");
+                               " Gegenstände, mehr trägt niemand; vorher müssen welche mit GibGegenstand fort");
             return;
         }
         for (const std::size_t next : flow.next[i])
@@ -88,104 +86,29 @@ void noteItems(const Story& story, bool checked, std::map<Text, ItemUse>& uses) 
     }
 }
 
-// --- files
-
-struct FileKind {
-    Arg arg;
-    int field;  // 0 for the whole argument
-    const char* directory;
-    const char* code;
-    const char* what;
-};
-constexpr std::array fileKinds{
-    FileKind{Arg::sound, 0, "sounds", "ton-fehlt", "die Tondatei"},
-    FileKind{Arg::picture, 0, "graphics", "bild-fehlt", "das Bild"},
-    FileKind{Arg::item, 0, "items", "gegenstand-fehlt", "das Bild des Gegenstands"},
-    FileKind{Arg::video, 0, "movies", "film-fehlt", "der Film"},
-    FileKind{Arg::objectPointer, 2, "cursors", "zeiger-fehlt", "der Zeiger"},
-    FileKind{Arg::portrait, 2, "graphics", "bild-fehlt", "das Bild"},
-    FileKind{Arg::music, 1, "musics", "musik-fehlt", "die Musik"},
-};
-
-class FileChecker {
-public:
-    FileChecker(const Story& story, const Surroundings& around, Findings& findings)
-        : story_(story),
-          data_(*around.data),
-          findings_(findings) {
-        for (const Story* part : {&story, around.rest})
-            for (std::size_t i = 0; part && i < part->rooms.size(); ++i) rooms_.insert(upper(part->rooms[i].file));
-    }
-
-    void all() {
-        for (const StoryRoom& room : story_.rooms) {
-            need(room.picture, "graphics", room.room.Bild, "bild-fehlt", "das Bild");
-            for (std::size_t i = 0; i < room.room.Objekte.size(); ++i)
-                need(room.objects[i].pointer, "cursors", room.room.Objekte[i].Zeiger, "zeiger-fehlt", "der Zeiger");
-        }
-        for (const Story::Item& item : story_.items)
-            need(item.place, "items", item.picture, "gegenstand-fehlt", "das Bild des Gegenstands");
-        for (const ScriptView& view : scriptsOf(story_))
-            for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) instruction(view, i);
-    }
-
-private:
-    void missing(Place place, TextView file, const char* directory, const char* code, const char* what) {
-        findings_.warning(place, code, std::string(what) + " " + shown(file) + " fehlt in " + directory);
-    }
-
-    void need(Place place, const char* directory, TextView path, const char* code, const char* what) {
-        const Text file = Dateiname(path);
-        if (!file.empty() && !data_.has(directory, file)) missing(place, file, directory, code, what);
-    }
-
-    void instruction(const ScriptView& view, std::size_t i) {
-        const Opcode* const row = findOpcode(view.script.Befehl[i]);
-        if (!row) return;
-        const TextView argument = argumentOf(view.script, i);
-        const auto& places = view.places.commands[i].argument;
-        if (row->arg == Arg::room) return room(view.places.argument(i), argument);
-        for (const FileKind& kind : fileKinds) {
-            if (kind.arg != row->arg) continue;
-            const Text field = kind.field == 0 ? Text(argument) : Trim(Feld(argument, ",", kind.field));
-            const bool ownPlace = kind.field == 2 && places.size() > 1;
-            const Place place = ownPlace ? places[1] : view.places.argument(i);
-            if (kind.arg == Arg::sound && data_.hasSound(field)) return;
-            return need(place, kind.directory, field, kind.code, kind.what);
-        }
-    }
-
-    void room(Place place, TextView path) {
-        Text name = upper(path);
-        std::replace(name.begin(), name.end(), '/', '\\');
-        if (Dateiname(path).empty() || rooms_.contains(name) || data_.hasRoom(path)) return;
-        missing(place, path, "rooms", "raum-fehlt", "der Raum");
-    }
-
-    const Story& story_;
-    const DataFiles& data_;
-    Findings& findings_;
-    std::set<Text> rooms_;
-};
-
 }  // namespace
 
 void checkFlags(const Story& story, const Story* rest, Findings& findings) {
     FlagUses uses;
     noteFlags(story, true, uses);
     if (rest) noteFlags(*rest, false, uses);
-    std::vector<Text> known;
-    for (const auto& [name, use] : uses)
-        if (use.set) known.push_back(name);
+    std::vector<Text> set;
+    std::vector<Text> tested;
+    for (const auto& [name, use] : uses) {
+        if (use.set) set.push_back(name);
+        if (use.tested) tested.push_back(name);
+    }
+    const auto otherwise = [](const std::string& hint, const char* advice) { return hint.empty() ? advice : hint; };
     for (const auto& [name, use] : uses) {
         if (name.empty()) continue;  // a finding of its own
         if (use.firstTest && !use.set)
-            findings.warning(
-                *use.firstTest, "merker-nie-gesetzt",
-                "der Merker " + shown(name) + " wird geprüft, aber nirgends gesetzt" + perhaps(name, known));
+            findings.warning(*use.firstTest, "merker-nie-gesetzt",
+                             "der Merker " + shown(name) + " wird geprüft, aber nirgends gesetzt" +
+                                 otherwise(perhaps(name, set), "; das täten SetzeMerker oder Spiel"));
         if (use.firstSet && !use.tested)
             findings.warning(*use.firstSet, "merker-nie-geprueft",
-                             "der Merker " + shown(name) + " wird gesetzt, aber nirgends geprüft");
+                             "der Merker " + shown(name) + " wird gesetzt, aber nirgends geprüft" +
+                                 otherwise(perhaps(name, tested), "; das täte WennMerker"));
     }
 }
 
@@ -205,12 +128,8 @@ void checkItems(const Story& story, const Story* rest, Findings& findings) {
     std::sort(kept.begin(), kept.end());
     findings.error(kept[std::min(kept.size() - 1, static_cast<std::size_t>(InventarPlätze))], "gegenstaende",
                    std::to_string(count) +
-                       " Gegenstände werden genommen und nie wieder gegeben; niemand trägt mehr als " +
-                       std::to_string(InventarPlätze));
-}
-
-void checkFiles(const Story& story, const Surroundings& around, Findings& findings) {
-    FileChecker(story, around, findings).all();
+                       " Gegenstände werden genommen und nie wieder gegeben, niemand trägt mehr als " +
+                       std::to_string(InventarPlätze) + "; die übrigen müssen mit GibGegenstand fort");
 }
 
 }  // namespace zentrox::story

@@ -86,7 +86,9 @@ private:
         if (width > pictureWidth)
             findings_.warning(place, "text-breit",
                               "diese Zeile ist " + std::to_string(width) + " Pixel breit, Platz ist für " +
-                                  std::to_string(pictureWidth) + "; das Spiel bricht keine Zeile um");
+                                  std::to_string(pictureWidth) +
+                                  "; das Spiel bricht nicht um, die nächste Zeile steht in eigenen "
+                                  "Anführungszeichen");
     }
 
     const ScriptView& view_;

@@ -133,6 +133,7 @@ void readDataFiles(const std::vector<std::string>& words, Checked& checked, Find
     checked.wholeStory = !checked.root.empty();
     Findings ignored;
     if (checked.wholeStory) readDataDirectory(checked.root, checked.rest, ignored);
+    checked.wholeStory = checked.wholeStory && !ignored.hasBroken();
 }
 
 void readSources(const std::vector<std::string>& words, Checked& checked, Findings& findings) {
@@ -141,6 +142,7 @@ void readSources(const std::vector<std::string>& words, Checked& checked, Findin
     Findings ignored;
     checked.story = parseSources(sources, files, findings);
     checked.rest = parseSources(neighboursOf(sources), files, ignored);
+    checked.wholeStory = !ignored.hasBroken();
     checked.root = dataRootOf(sources.front());
 }
 

@@ -26,12 +26,15 @@ bool holdsData(const fs::path& directory) {
 DataFiles::DataFiles(const fs::path& root) : files_(root) {}
 
 bool DataFiles::has(TextView directory, TextView path) const {
-    auto listing = listings_.find(directory);
-    if (listing == listings_.end()) {
-        listing = listings_.emplace(directory, std::set<Text>()).first;
-        for (const Text& name : files_.list(directory)) listing->second.insert(upper(name));
-    }
-    return listing->second.contains(upper(Dateiname(path)));
+    return listing(directory).upper.contains(upper(Dateiname(path)));
+}
+
+const DataFiles::Listing& DataFiles::listing(TextView directory) const {
+    const auto [at, isNew] = listings_.try_emplace(Text(directory));
+    if (isNew) at->second.names = files_.list(directory);
+    if (isNew)
+        for (const Text& name : at->second.names) at->second.upper.insert(upper(name));
+    return at->second;
 }
 
 bool DataFiles::hasSound(TextView path) const {

@@ -20,10 +20,18 @@ public:
     bool hasSound(TextView path) const;
     // A room, whose directories do count.
     bool hasRoom(TextView path) const;
+    // The files directly in a data directory, as they are spelled there.
+    const std::vector<Text>& names(TextView directory) const { return listing(directory).names; }
 
 private:
+    struct Listing {
+        std::vector<Text> names;
+        std::set<Text> upper;  // the same in upper case
+    };
+    const Listing& listing(TextView directory) const;
+
     Files files_;
-    mutable std::map<Text, std::set<Text>, std::less<>> listings_;  // names in upper case
+    mutable std::map<Text, Listing, std::less<>> listings_;
 };
 
 // The nearest of a source's own directory and the one above it that holds data directories; its own where none

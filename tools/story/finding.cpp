@@ -13,13 +13,17 @@ namespace {
 
 constexpr std::size_t longestShown = 60;
 constexpr std::size_t mostCandidates = 1000;  // among more than these nobody looks for a likely one
+constexpr std::size_t shortestTypo = 2;
+constexpr std::size_t shortestBeginning = 3;  // of a longer name
+constexpr std::size_t mostLonger = 3;
 
 const char* nameOf(Severity severity) {
     return severity == Severity::error ? "error" : "warning";
 }
 
-// How many single characters have to change to get from one word to the other.
-std::size_t distance(TextView a, TextView b) {
+// How many single characters have to change to get from one word to the other; `enough` if it is not less.
+std::size_t distance(TextView a, TextView b, std::size_t enough) {
+    if (std::max(a.size(), b.size()) - std::min(a.size(), b.size()) >= enough) return enough;
     std::vector<std::size_t> row(b.size() + 1);
     for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
     for (std::size_t i = 1; i <= a.size(); ++i) {
@@ -29,8 +33,16 @@ std::size_t distance(TextView a, TextView b) {
             diagonal = row[j];
             row[j] = std::min({row[j] + 1, row[j - 1] + 1, changed});
         }
+        if (*std::min_element(row.begin(), row.end()) >= enough) return enough;
     }
     return row[b.size()];
+}
+
+// What is numbered is no typing error of its neighbour.
+Text digitsOf(TextView text) {
+    Text digits;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(digits), [](char c) { return c >= '0' && c <= '9'; });
+    return digits;
 }
 
 // A name that came from outside may hold anything but must not break the line of a finding.
@@ -75,6 +87,10 @@ bool Findings::hasErrors() const {
                        [](const Finding& f) { return f.severity == Severity::error; });
 }
 
+bool Findings::hasBroken() const {
+    return std::any_of(findings_.begin(), findings_.end(), [](const Finding& f) { return f.fixed; });
+}
+
 std::string asLines(const Story& story, const Findings& findings) {
     std::string out;
     for (const Finding& f : findings.all())
@@ -105,20 +121,27 @@ std::string shown(TextView text) {
 }
 
 std::string perhaps(TextView word, const std::vector<Text>& candidates) {
-    if (candidates.size() > mostCandidates) return "";
+    if (word.size() < shortestTypo || word.size() > longestShown || candidates.size() > mostCandidates) return "";
+    const Text sought = normalised(word);
+    const Text digits = digitsOf(sought);
     const Text* best = nullptr;
-    const Text sought = normalised(word.substr(0, longestShown));
+    std::vector<const Text*> longer;
     std::size_t least = std::max<std::size_t>(sought.size() / 3, 1) + 1;
     for (const Text& candidate : candidates) {
         if (candidate.empty() || candidate.size() > longestShown) continue;
         const Text name = normalised(candidate);
-        if (std::max(name.size(), sought.size()) - std::min(name.size(), sought.size()) >= least) continue;
-        const std::size_t far = distance(sought, name);
+        if (name.starts_with(sought)) longer.push_back(&candidate);
+        if (digitsOf(name) != digits) continue;
+        const std::size_t far = distance(sought, name, least);
         if (far >= least) continue;
         least = far;
         best = &candidate;
     }
-    return best && sought.size() > 1 ? "; gemeint ist vielleicht " + shown(*best) : "";
+    if (best) return "; gemeint ist vielleicht " + shown(*best);
+    if (longer.empty() || longer.size() > mostLonger || sought.size() < shortestBeginning) return "";
+    std::string hint = "; gemeint ist vielleicht ";
+    for (const Text* const name : longer) hint += (name == longer.front() ? "" : " oder ") + shown(*name);
+    return hint;
 }
 
 }  // namespace zentrox::story

@@ -31,6 +31,8 @@ public:
     const std::vector<Finding>& all() const { return findings_; }
     bool empty() const { return findings_.empty(); }
     bool hasErrors() const;
+    // Whether there is anything that could not be compiled.
+    bool hasBroken() const;
 
 private:
     std::vector<Finding> findings_;

@@ -21,9 +21,12 @@ Text nameOf(TextView argument) {
 
 class FlowFinder {
 public:
-    FlowFinder(const Skript& script, const Blocks& blocks) : script_(script), blocks_(blocks) {
-        for (std::size_t i = 0; i < script.Befehl.size(); ++i)
-            if (script.Befehl[i] == opcode::Marke) labels_.emplace(nameOf(argumentOf(script, i)), i);
+    FlowFinder(const ScriptView& view, const Blocks& blocks)
+        : script_(view.script),
+          blocks_(blocks),
+          knowsItem_(view.knowsItem()) {
+        for (std::size_t i = 0; i < script_.Befehl.size(); ++i)
+            if (script_.Befehl[i] == opcode::Marke) labels_.emplace(nameOf(argumentOf(script_, i)), i);
     }
 
     Flow find() {
@@ -47,9 +50,10 @@ private:
         const Block* const block = blocks_.at(i);
         const TextView argument = argumentOf(script_, i);
         switch (script_.Befehl[i]) {
-            case opcode::WennMerker:
+            case opcode::WennMerker: return {i + 1, behindCondition(*block)};
             case opcode::WennParameter:
-                return {i + 1, (block->otherwise == nowhere ? block->end : block->otherwise) + 1};
+                if (!knowsItem_ && !nameOf(argument).empty()) return {behindCondition(*block)};
+                return {i + 1, behindCondition(*block)};
             case opcode::Sonst:
             case opcode::Fall: return {block->end + 1};
             case opcode::Auswahl: return behindChoice(*block);
@@ -61,6 +65,11 @@ private:
             case opcode::System: return {isSystemWord(argument) || resemblesSystemWord(argument) ? i + 1 : end};
             default: return {i + 1};
         }
+    }
+
+    // Where it goes on if the condition is false.
+    static std::size_t behindCondition(const Block& block) {
+        return (block.otherwise == nowhere ? block.end : block.otherwise) + 1;
     }
 
     std::vector<std::size_t> behindChoice(const Block& block) const {
@@ -78,6 +87,7 @@ private:
 
     const Skript& script_;
     const Blocks& blocks_;
+    bool knowsItem_;
     std::map<Text, std::size_t> labels_;  // the first of each name
 };
 
@@ -163,7 +173,7 @@ private:
         std::vector<Known> known = step.state.second;
         const std::int32_t command = script_.Befehl[i];
         const auto fact = isCondition(i) ? facts_.find(factOf(i)) : facts_.end();
-        if (fact != facts_.end() && flow_.next[i][0] != flow_.next[i][1]) {
+        if (fact != facts_.end() && flow_.next[i].front() != flow_.next[i].back()) {
             const Known value = target == i + 1 ? Known::yes : Known::no;
             if (known[fact->second] != Known::unknown && known[fact->second] != value) return;
             learn(known, i, value);
@@ -206,8 +216,8 @@ private:
 
 }  // namespace
 
-Flow findFlow(const Skript& script, const Blocks& blocks) {
-    return FlowFinder(script, blocks).find();
+Flow findFlow(const ScriptView& view, const Blocks& blocks) {
+    return FlowFinder(view, blocks).find();
 }
 
 bool waits(const Skript& script, std::size_t index) {

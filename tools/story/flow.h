@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tools/story/blocks.h"
+#include "tools/story/story.h"
 
 namespace zentrox::story {
 
@@ -12,7 +13,7 @@ struct Flow {
 };
 
 // All blocks of the script must be closed properly.
-Flow findFlow(const Skript& script, const Blocks& blocks);
+Flow findFlow(const ScriptView& view, const Blocks& blocks);
 
 // True for a command that serves the event queue before the next one runs.
 bool waits(const Skript& script, std::size_t index);

@@ -6,9 +6,9 @@
 
 #include "engine/files/raumdatei.h"
 #include "engine/state/felder.h"
-#include "tools/story/area.h"
 #include "tools/story/scriptbuilder.h"
-#include "tools/story/writer.h"
+#include "tools/story/shapes.h"
+#include "tools/story/statements.h"
 
 namespace zentrox::story {
 
@@ -18,14 +18,8 @@ namespace {
 
 constexpr std::size_t deepestInclude = 50;
 constexpr int mostIncludes = 10000;
-constexpr std::size_t shortestItem = 5;  // a character, and the four of an extension
-constexpr std::size_t mostCorners = 1000;
-constexpr double farthest = 1e6;  // pixels; beyond that lies no corner
 
-constexpr TextView areaWord = "Fläche"_t;
-constexpr TextView rectangleWord = "Rechteck";
-constexpr TextView polygonWord = "Vieleck";
-constexpr TextView pictureWord = "Maskenbild";
+constexpr std::array<TextView, 3> shapeWords{"Rechteck", "Vieleck", "Maskenbild"};
 
 constexpr std::string_view outsideScript =
     " steht in keinem Skript; davor gehört Start, Countdown, Rechts, Links oder Ablegen";
@@ -37,7 +31,8 @@ public:
     void source(const fs::path& path) {
         const auto text = files_.read(path);
         if (text) return source(path, *text);
-        findings_.broken({fileNumber(path), 1, 1}, "lesen", "diese Datei lässt sich nicht lesen");
+        findings_.broken({fileNumber(path), 1, 1}, "lesen",
+                         "diese Datei lässt sich nicht lesen; gibt es sie, und darf man sie lesen?");
     }
 
     void source(const fs::path& path, std::string_view utf8) {
@@ -68,7 +63,7 @@ private:
     }
 
     void include(const Statement& s) {
-        if (!oneName(s)) return;
+        if (!oneName(s, findings_)) return;
         const fs::path path = (open_.back().parent_path() / fs::u8path(toUtf8(s[1].value))).lexically_normal();
         const bool circle = std::find(open_.begin(), open_.end(), path) != open_.end();
         if (circle || open_.size() >= deepestInclude || ++includes_ > mostIncludes) {
@@ -102,7 +97,17 @@ private:
             if (inScript(s)) builder_.command(*opcode, s);
             return;
         }
-        findings_.broken(first.place, "wort", unknownWord(first.value));
+        const std::size_t end = first.value.find_last_not_of(':') + 1;
+        if (end > 0 && end < first.value.size()) return takeWithoutColon(s, end);
+        findings_.broken(first.place, "wort", unknownWord(first.value, allWords()));
+    }
+
+    // As other languages have it; what is meant is plain enough to go on with.
+    void takeWithoutColon(Statement s, std::size_t end) {
+        Token& first = s.front();
+        first.value.resize(end);
+        findings_.broken(first.place, "wort", "hinter " + shown(first.value) + " gehört kein Doppelpunkt");
+        take(s);
     }
 
     struct Keyword {
@@ -121,10 +126,10 @@ private:
                  {"Zeiger", &Parser::pointer},
                  {"Aktiv", &Parser::active},
                  {"Inaktiv", &Parser::inactive},
-                 {areaWord, &Parser::area},
-                 {rectangleWord, &Parser::rectangle},
-                 {polygonWord, &Parser::polygon},
-                 {pictureWord, &Parser::maskPicture},
+                 {"Fläche"_t, &Parser::area},
+                 {"Rechteck", &Parser::rectangle},
+                 {"Vieleck", &Parser::polygon},
+                 {"Maskenbild", &Parser::maskPicture},
                  {"Rechts", &Parser::right},
                  {"Links", &Parser::left},
                  {"Ablegen", &Parser::drop},
@@ -141,11 +146,11 @@ private:
         return byName;
     }
 
-    static std::string unknownWord(const Text& word) {
+    static std::vector<Text> allWords() {
         std::vector<Text> known;
         for (const Keyword& keyword : keywordTable()) known.emplace_back(keyword.name);
         for (const Opcode& opcode : opcodes()) known.emplace_back(opcode.name);
-        return shown(word) + " ist kein Befehl" + perhaps(word, known);
+        return known;
     }
 
     bool misplaced(const Statement& s, std::string_view why) {
@@ -153,21 +158,10 @@ private:
         return false;
     }
 
-    bool noWords(const Statement& s) {
-        if (s.size() == 1) return true;
-        findings_.broken(s[1].place, "argument", "hinter " + shown(s.front().value) + " steht nichts weiter");
-        return false;
-    }
-
-    bool oneName(const Statement& s) {
-        if (s.size() == 2) {
-            if (writable(s[1].value)) return true;
-            findings_.broken(s[1].place, "zeichen", "hier kann kein Anführungszeichen gespeichert werden");
-            return false;
-        }
-        findings_.broken(s.size() < 2 ? s[0].place : s[2].place, "argument",
-                         "hinter " + shown(s.front().value) +
-                             " steht genau ein Name; hat er Leerzeichen, dann in Anführungszeichen");
+    bool once(std::set<Text>& seen, const Text& what, const Statement& s) {
+        if (seen.insert(what).second) return true;
+        findings_.broken(s.front().place, "doppelt",
+                         shown(s.front().value) + " steht hier schon weiter oben; beides gehört zusammen");
         return false;
     }
 
@@ -201,22 +195,14 @@ private:
 
     // --- rooms
 
-    bool hasRoomFileName(const Token& name) {
-        const Text path = lower(name.value);
-        const bool outside = path.find("..") != Text::npos || path.find(':') != Text::npos ||
-                             path.starts_with('\\') || path.find('\0') != Text::npos;
-        if (path.size() > 4 && path.ends_with(".lsd") && !outside) return true;
-        findings_.broken(name.place, "name",
-                         "ein Raum heißt wie seine Datei, etwa \"Start.lsd\"; hier steht " + shown(name.value));
-        return false;
-    }
-
     // Notes a file that is written, in either spelling of its case; false if another one has this name already.
     bool isNew(const Text& kind, const Token& name) {
         const auto [at, added] = written_.emplace(kind + lower(name.value), name.place);
         if (added) return true;
         if (at->second != name.place)
-            findings_.broken(name.place, "doppelt", shown(name.value) + " gibt es schon: " + spelled(at->second));
+            findings_.broken(name.place, "doppelt",
+                             shown(name.value) + " gibt es schon, in " + spelled(at->second) +
+                                 "; jeder Name kommt nur einmal vor");
         return false;
     }
 
@@ -230,8 +216,8 @@ private:
         level_ = Level::room;
         room_ = {};
         room_.head = s.front().place;
-        seen_.clear();
-        keepRoom_ = oneName(s) && hasRoomFileName(s[1]);
+        roomSeen_.clear();
+        keepRoom_ = oneName(s, findings_) && isRoomFile(s[1], findings_);
         if (!keepRoom_) return;
         room_.file = s[1].value;
         std::replace(room_.file.begin(), room_.file.end(), '/', '\\');
@@ -252,16 +238,12 @@ private:
         return level_ == Level::room || misplaced(s, " gehört in einen Raum; davor fehlt Raum \"NAME.lsd\"");
     }
 
-    bool once(const Statement& s) {
-        if (seen_.insert(normalised(s.front().value)).second) return true;
-        findings_.broken(s.front().place, "doppelt", shown(s.front().value) + " steht hier schon weiter oben");
-        return false;
-    }
+    bool onceInRoom(const Statement& s) { return once(roomSeen_, normalised(s.front().value), s); }
 
     void picture(const Statement& s) {
         if (toScript_ || level_ == Level::object)
             return void(misplaced(s, " gehört an den Anfang des Raums; im Skript heißt der Befehl ZeigBild"));
-        if (!inRoom(s) || !once(s) || !oneName(s)) return;
+        if (!inRoom(s) || !onceInRoom(s) || !oneName(s, findings_)) return;
         room_.picture = s[1].place;
         room_.room.Bild = s[1].value;
         if (s[1].value.size() > LängstesBild || Trim(s[1].value) != s[1].value)
@@ -269,13 +251,13 @@ private:
                              "der Name eines Bildes hat höchstens 100 Zeichen und keine Leerzeichen am Rand");
     }
 
-    void start(const Statement& s) {
-        if (inRoom(s) && noWords(s) && once(s)) openScript(room_.room.Startskript, room_.start, s.front().place);
-    }
+    void start(const Statement& s) { roomScript(s, room_.room.Startskript, room_.start); }
+    void countDown(const Statement& s) { roomScript(s, room_.room.CountDownSkript, room_.countDown); }
 
-    void countDown(const Statement& s) {
-        if (inRoom(s) && noWords(s) && once(s))
-            openScript(room_.room.CountDownSkript, room_.countDown, s.front().place);
+    void roomScript(const Statement& s, Skript& script, ScriptPlaces& places) {
+        if (!inRoom(s) || !onceInRoom(s)) return;
+        noWords(s, findings_);
+        openScript(script, places, s.front().place);
     }
 
     // --- objects
@@ -288,7 +270,7 @@ private:
         objectPlaces_ = {};
         object_.Aktiv = true;
         objectPlaces_.name = objectPlaces_.pointer = s.front().place;
-        if (!oneName(s)) return;
+        if (!oneName(s, findings_)) return;
         object_.Name = s[1].value;
         objectPlaces_.name = s[1].place;
     }
@@ -306,95 +288,47 @@ private:
         return !toScript_ || misplaced(s, " gehört an den Anfang des Objekts, vor Rechts, Links und Ablegen");
     }
 
-    bool onceInObject(const Statement& s, const Text& what) {
-        if (objectSeen_.insert(what).second) return true;
-        findings_.broken(s.front().place, "doppelt", shown(s.front().value) + " steht hier schon weiter oben");
-        return false;
-    }
+    bool onceInObject(const Statement& s, const Text& what) { return once(objectSeen_, what, s); }
 
     void pointer(const Statement& s) {
-        if (!inObjectHead(s) || !onceInObject(s, "zeiger") || !oneName(s)) return;
+        if (!inObjectHead(s) || !onceInObject(s, "zeiger") || !oneName(s, findings_)) return;
         object_.Zeiger = s[1].value;
         objectPlaces_.pointer = s[1].place;
     }
 
     void active(const Statement& s) {
-        if (inObjectHead(s) && noWords(s)) onceInObject(s, "aktiv");
+        if (inObjectHead(s) && noWords(s, findings_)) onceInObject(s, "aktiv");
     }
 
     void inactive(const Statement& s) {
-        if (inObjectHead(s) && noWords(s) && onceInObject(s, "aktiv")) object_.Aktiv = false;
+        if (inObjectHead(s) && noWords(s, findings_) && onceInObject(s, "aktiv")) object_.Aktiv = false;
     }
 
     // `Fläche` may stand alone on its line, or with its first shape behind it.
     void area(const Statement& s) {
         if (!inObjectHead(s) || s.size() == 1) return;
         const Text shape = normalised(s[1].value);
-        if (shape == normalised(rectangleWord) || shape == normalised(polygonWord) ||
-            shape == normalised(pictureWord))
+        if (std::any_of(shapeWords.begin(), shapeWords.end(),
+                        [&](TextView word) { return normalised(word) == shape; }))
             take(Statement(s.begin() + 1, s.end()));
         else
-            findings_.broken(s[1].place, "argument", "eine Fläche besteht aus Rechteck, Vieleck und Maskenbild");
-    }
-
-    std::optional<std::vector<Corner>> corners(const Statement& s) {
-        std::vector<double> numbers;
-        for (const Token& word : std::span(s).subspan(1)) {
-            const auto number = Zahl(word.value);
-            if (!number || !(std::abs(*number) <= farthest)) {
-                findings_.broken(word.place, "argument", shown(word.value) + " ist keine Zahl von Pixeln");
-                return std::nullopt;
-            }
-            numbers.push_back(*number);
-        }
-        std::vector<Corner> result;
-        for (std::size_t i = 0; i + 1 < numbers.size(); i += 2) result.push_back({numbers[i], numbers[i + 1]});
-        if (numbers.size() % 2 == 0) return result;
-        findings_.broken(s.back().place, "argument", "zu dieser Zahl fehlt die zweite: eine Ecke ist X und Y");
-        return std::nullopt;
-    }
-
-    void needsCells(const Statement& s, bool found) {
-        if (!found)
-            findings_.broken(s.front().place, "flaeche",
-                             "diese Fläche trifft keinen Punkt des Bildes; es reicht von 0 0 bis 640 480");
+            findings_.broken(
+                s[1].place, "argument",
+                "hinter \"Fläche\" steht Rechteck, Vieleck oder Maskenbild; hier steht " + shown(s[1].value));
     }
 
     void rectangle(const Statement& s) {
-        if (!inObjectHead(s)) return;
-        const auto points = corners(s);
-        if (points && points->size() == 2)
-            return needsCells(s, addRectangle(object_.Maske, (*points)[0], (*points)[1]));
-        if (points)
-            findings_.broken(
-                s.front().place, "argument",
-                "\"Rechteck\" braucht zwei Ecken, X1 Y1 X2 Y2; hier stehen " + std::to_string(points->size()));
+        if (inObjectHead(s)) takeRectangle(s, object_.Maske, findings_);
     }
 
     void polygon(const Statement& s) {
-        if (!inObjectHead(s)) return;
-        const auto points = corners(s);
-        if (points && points->size() > mostCorners)
-            findings_.broken(s.front().place, "argument",
-                             "ein Vieleck hat höchstens " + std::to_string(mostCorners) + " Ecken");
-        else if (points && points->size() >= 3)
-            needsCells(s, addPolygon(object_.Maske, *points));
-        else if (points)
-            findings_.broken(
-                s.front().place, "argument",
-                "\"Vieleck\" braucht mindestens drei Ecken, X Y; hier stehen " + std::to_string(points->size()));
+        if (inObjectHead(s)) takePolygon(s, object_.Maske, findings_);
     }
 
     void maskPicture(const Statement& s) {
-        if (!inObjectHead(s) || !oneName(s)) return;
-        const auto picture =
-            files_.picture((open_.back().parent_path() / fs::u8path(toUtf8(s[1].value))).lexically_normal());
-        if (!picture)
-            findings_.broken(
-                s[1].place, "flaeche",
-                "das Bild " + shown(s[1].value) + " lässt sich nicht lesen; gesucht wird es neben dieser Datei");
-        else if (!addPicture(object_.Maske, *picture))
-            findings_.broken(s[1].place, "flaeche", "in diesem Bild ist nichts weiß; weiß ist die Fläche");
+        if (!inObjectHead(s) || !oneName(s, findings_)) return;
+        const fs::path path = open_.back().parent_path() / fs::u8path(toUtf8(s[1].value));
+        takePicture(s, files_.picture(path.lexically_normal()), object_.Maske, findings_);
     }
 
     void right(const Statement& s) { action(s, 0); }
@@ -407,34 +341,20 @@ private:
         if (level_ != Level::object) return void(misplaced(s, " gehört in ein Objekt oder einen Gegenstand"));
         if (!onceInObject(s, normalised(s.front().value))) return;
         const bool off = s.size() == 2 && normalised(s[1].value) == "aus";
-        if (!off && !noWords(s)) return;
+        if (!off) noWords(s, findings_);
         object_.HatSkript[which] = !off;
         openScript(object_.Aktion[which], objectPlaces_.action[which], s.front().place);
     }
 
     // --- items
 
-    bool isPlainFileName(const Token& name) {
-        if (name.value.find_first_of("\\/:") == Text::npos && name.value.find('\0') == Text::npos) return true;
-        findings_.broken(name.place, "name", "hier steht ein Dateiname ohne Verzeichnis");
-        return false;
-    }
-
     void item(const Statement& s) {
         closeRoom();
         closeItem();
         level_ = Level::item;
-        keepItem_ = oneName(s) && isPlainFileName(s[1]);
+        keepItem_ = oneName(s, findings_) && isItemPicture(s[1], findings_);
         if (!keepItem_) return;
         item_ = s[1];
-        if (item_.value.size() < shortestItem || item_.value.find('.', 1) == Text::npos) {
-            findings_.broken(item_.place, "name",
-                             "ein Gegenstand heißt wie die Datei seines Bildes, etwa "
-                             "\"schluessel.bmp\"; hier steht " +
-                                 shown(item_.value));
-            keepItem_ = false;
-            return;
-        }
         story_.items.push_back({item_.value, item_.place});
     }
 
@@ -448,7 +368,7 @@ private:
     void itemScript(const Statement& s, std::size_t which) {
         closeItem();
         level_ = Level::item;
-        if (!noWords(s)) return;
+        noWords(s, findings_);
         script_ = {};
         if (keepItem_) script_.file = itemScriptFile(item_.value, which);
         keepScript_ = keepItem_ && isNew("skript ", {false, script_.file, s.front().place});
@@ -459,14 +379,11 @@ private:
     void scriptFile(const Statement& s) {
         closeRoom();
         closeItem();
-        if (!oneName(s) || !isPlainFileName(s[1])) return;
         level_ = Level::item;
         keepItem_ = false;
         script_ = {};
-        script_.file = s[1].value;
-        keepScript_ = lower(s[1].value).ends_with(".skp");
-        if (!keepScript_) findings_.broken(s[1].place, "name", "eine Skriptdatei endet auf .skp");
-        keepScript_ = keepScript_ && isNew("skript ", s[1]);
+        keepScript_ = oneName(s, findings_) && isScriptFile(s[1], findings_) && isNew("skript ", s[1]);
+        if (keepScript_) script_.file = s[1].value;
         openScript(script_.script, script_.places, s.front().place);
     }
 
@@ -481,7 +398,7 @@ private:
     Skript* toScript_ = nullptr;  // where the open script goes
     ScriptPlaces* toPlaces_ = nullptr;
     StoryRoom room_;
-    std::set<Text> seen_;
+    std::set<Text> roomSeen_;
     RaumObjekt object_;
     ObjectPlaces objectPlaces_;
     std::set<Text> objectSeen_;

@@ -122,9 +122,10 @@ private:
         }
         if (rest_.empty() || isBlank(rest_.front()) || rest_.front() == ',') return token;
         if (rest_.starts_with("\xC2\xA0")) return token;
-        findings_.broken(here(), "text",
-                         "hinter dem Text fehlt ein Leerzeichen; ein Anführungszeichen kann nicht in einem Text "
-                         "stehen, richtig sind dort „ und “");
+        findings_.broken(
+            here(), "text",
+            "hinter dem schließenden Anführungszeichen fehlt ein Leerzeichen; in einem Text stehen statt "
+            "gerader Anführungszeichen „ und “");
         rest_ = {};
         return token;
     }
@@ -155,7 +156,7 @@ private:
         if (digits.size() != 2 || error != std::errc() || end != digits.data() + digits.size()) {
             findings_.broken(here(), "text",
                              "in geschweiften Klammern steht die Nummer eines Zeichens in zwei hexadezimalen "
-                             "Ziffern, wie in {09}");
+                             "Ziffern, wie in {09}; Blöcke haben keine Klammern");
             rest_ = {};
             return false;
         }

@@ -92,7 +92,9 @@ std::optional<std::int32_t> ScriptBuilder::addOption(const Statement& statement)
     if (text.find(optionMark) != Text::npos)
         findings_.broken(place, "zeichen", "eine Möglichkeit kann kein | enthalten, das trennt die Möglichkeiten");
     if (choice.options.emplace(number, Choice::Option{text, linePlaces(words)}).second) return number;
-    findings_.broken(place, "fall", "die Möglichkeit " + std::to_string(number) + " gibt es schon");
+    findings_.broken(
+        place, "fall",
+        "die Möglichkeit " + std::to_string(number) + " gibt es schon; jede Nummer kommt nur einmal vor");
     return std::nullopt;
 }
 
@@ -112,7 +114,8 @@ void ScriptBuilder::raw(const Statement& statement) {
     const auto number = opcode ? opcode->number : wholeNumber(statement[1].value);
     if (!number) {
         findings_.broken(statement[1].place, "befehl",
-                         "einen Befehl " + shown(statement[1].value) + " gibt es nicht");
+                         "einen Befehl " + shown(statement[1].value) +
+                             " gibt es nicht; hier steht der Name eines Befehls oder eine Nummer");
         return;
     }
     const Text argument = statement.size() > 2 ? statement[2].value : Text();

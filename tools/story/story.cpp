@@ -19,7 +19,7 @@ std::vector<ScriptView> scriptsOf(const StoryRoom& room) {
     for (std::size_t i = 0; i < room.room.Objekte.size(); ++i)
         for (std::size_t which = 0; which < room.room.Objekte[i].Aktion.size(); ++which)
             views.push_back(
-                {room.room.Objekte[i].Aktion[which], room.objects[i].action[which], &room, Role::action});
+                {room.room.Objekte[i].Aktion[which], room.objects[i].action[which], &room, Role::action, which});
     views.push_back({room.room.CountDownSkript, room.countDown, &room, Role::countDown});
     return views;
 }

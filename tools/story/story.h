@@ -85,6 +85,10 @@ struct ScriptView {
     const ScriptPlaces& places;
     const StoryRoom* room = nullptr;  // null for the script of an item
     Role role = Role::item;
+    std::size_t which = 0;  // of the actions of an object
+
+    // Whether `WennParameter` can find an item there: of a room only where one is dropped on an object.
+    bool knowsItem() const { return role == Role::item || (role == Role::action && which == 2); }
 };
 
 // All scripts, rooms first, in their order.
