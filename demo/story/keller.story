@@ -125,9 +125,9 @@ Raum "Keller.lsd"
                     Text "Erst versuche ich es ehrlich. Das wäre das erste Mal."
                 EndeWenn
             Sonst
-                WennParameter SCHLUESSEL
+                WennParameter MUENZE
                     Ton "velmix-keller-14.wav"
-                    Text "Kein Schlüsselloch. Nur Zahlen."
+                    Text "Kein Münzschlitz. Kein Schlüsselloch. Nur Zahlen."
                 Sonst
                     Fehlerton
                 EndeWenn
