@@ -1,5 +1,5 @@
-// What a machine has to do for the game: tell the time, hand in input, sleep, show pictures, start programs. There are
-// two: the desktop, and the probe with no screen, no sound and a clock of its own.
+// What a machine has to do for the game: tell the time, hand in input, sleep, show pictures, start programs. There
+// are two: the desktop, and the probe with no screen, no sound and a clock of its own.
 #pragma once
 
 #include <array>
@@ -20,15 +20,15 @@ using Milliseconds = std::int64_t;
 struct Input {
     enum class Kind { move, press, release, wheel, keyDown, keyUp, keyPress, resize, close };
     Kind kind = Kind::move;
-    Point at;                       // move, press, release, wheel: in pixels of the client area
-    Button button = Button::none;   // press, release; of a move the one held
-    int clicks = 1;                 // press
-    int code = 0;                   // keyDown, keyUp: virtual code; wheel: lines, up positive
-    bool repeat = false;            // keyDown: the keyboard repeats a held key
-    bool shift = false;             // keyDown
-    bool control = false;           // keyDown
-    char character = 0;             // keyPress
-    Size size;                      // resize: the new client area
+    Point at;                      // move, press, release, wheel: in pixels of the client area
+    Button button = Button::none;  // press, release; of a move the one held
+    int clicks = 1;                // press
+    int code = 0;                  // keyDown, keyUp: virtual code; wheel: lines, up positive
+    bool repeat = false;           // keyDown: the keyboard repeats a held key
+    bool shift = false;            // keyDown
+    bool control = false;          // keyDown
+    char character = 0;            // keyPress
+    Size size;                     // resize: the new client area
 };
 
 struct MessageBox;

@@ -51,9 +51,10 @@ public:
     void copy(const Bitmap& source, const Rect& from, Point to, Op op = Op::plain);
     void copy(const Bitmap& source, Point to, Op op = Op::plain) { copy(source, source.bounds(), to, op); }
 
-    // Copies `from` of `source`, scaled, onto `to`. A negative width or height of one of them mirrors: the area is then
-    // the one from x + w to x (y + h to y). The pixel taken is floor(offset * source side / target side); source pixels
-    // outside the source are left out. The source may be this bitmap itself; it is then taken as it was before.
+    // Copies `from` of `source`, scaled, onto `to`. A negative width or height of one of them mirrors: the area is
+    // then the one from x + w to x (y + h to y). The pixel taken is floor(offset * source side / target side);
+    // source pixels outside the source are left out. The source may be this bitmap itself; it is then taken as it
+    // was before.
     void stretch(const Bitmap& source, const Rect& from, const Rect& to, Op op = Op::plain);
 
     friend bool operator==(const Bitmap& a, const Bitmap& b) {

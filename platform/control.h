@@ -19,7 +19,7 @@ struct PointerEvent {
     Button button = Button::none;  // the button pressed or released; of a move, the one held
     float x = 0;
     float y = 0;
-    int clicks = 1;                // of a press: 2 for the second one of a double click
+    int clicks = 1;  // of a press: 2 for the second one of a double click
 };
 
 class Control {
@@ -76,7 +76,8 @@ public:
     virtual void pointerMove(const PointerEvent& /*event*/) {}
     virtual void pointerUp(const PointerEvent& /*event*/) {}
     virtual void wheel(int /*lines*/) {}
-    // A key went down, by its virtual code; true if the control has used it up. `shift` and `control` are held keys.
+    // A key went down, by its virtual code; true if the control has used it up. `shift` and `control` are held
+    // keys.
     virtual bool keyDown(int /*code*/, bool /*shift*/, bool /*control*/) { return false; }
     virtual bool keyPress(char /*c*/) { return false; }
 

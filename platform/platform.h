@@ -13,8 +13,14 @@ namespace zentrox {
 class Platform {
 public:
     // The backend, the fonts and the sound device must outlive it.
-    Platform(Backend& machine, Fonts& fontSource, SoundDevice& soundDevice, const std::filesystem::path& programDirectory)
-        : backend(machine), fonts(fontSource), sound(soundDevice), files(programDirectory), queue(machine), random(machine.seed()) {}
+    Platform(Backend& machine, Fonts& fontSource, SoundDevice& soundDevice,
+             const std::filesystem::path& programDirectory)
+        : backend(machine),
+          fonts(fontSource),
+          sound(soundDevice),
+          files(programDirectory),
+          queue(machine),
+          random(machine.seed()) {}
 
     Backend& backend;
     Fonts& fonts;

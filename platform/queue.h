@@ -1,5 +1,5 @@
-// The event queue: one thread, timers, and the only waits of the program. Each wait serves input and timers, so that
-// handlers nest; each says why it waits.
+// The event queue: one thread, timers, and the only waits of the program. Each wait serves input and timers, so
+// that handlers nest; each says why it waits.
 #pragma once
 
 #include <functional>
@@ -15,8 +15,8 @@ class Queue;
 // that the speeds of the games were made for.
 constexpr Milliseconds shortestPeriod = 16;
 
-// Calls its handler in a turn of the queue, again and again. A timer that could not fire in time fires once, not once
-// for each period missed.
+// Calls its handler in a turn of the queue, again and again. A timer that could not fire in time fires once, not
+// once for each period missed.
 class Timer {
 public:
     Timer(Queue& queue, Milliseconds period, bool enabled, std::function<void()> onTick);

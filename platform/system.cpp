@@ -15,7 +15,9 @@ std::filesystem::path programFile() {
     return error ? std::filesystem::current_path() / "zentrox" : file;
 }
 
-std::filesystem::path programDirectory() { return programFile().parent_path(); }
+std::filesystem::path programDirectory() {
+    return programFile().parent_path();
+}
 
 bool startProcess(const std::vector<std::string>& command) {
     if (command.empty()) return false;

@@ -42,7 +42,9 @@ void weite(int& a, int& b, int hälfte) {
     b = mitte + hälfte;
 }
 
-int abwärts(float wert) { return static_cast<int>(std::floor(wert)); }
+int abwärts(float wert) {
+    return static_cast<int>(std::floor(wert));
+}
 
 }  // namespace
 

@@ -52,7 +52,9 @@ void Form1::gegenstandZeichnen(int slot) {
 }
 
 // The white edge at the bar's upper end.
-void Form1::leisteStrich() { Picture1.line({0, leisteOben()}, {Picture1.width(), leisteOben()}, Farbe16(15)); }
+void Form1::leisteStrich() {
+    Picture1.line({0, leisteOben()}, {Picture1.width(), leisteOben()}, Farbe16(15));
+}
 
 void Form1::ZeigeLeiste() {
     const int W = Picture1.width();

@@ -12,14 +12,16 @@ namespace zentrox {
 
 namespace {
 
-constexpr int zelle = 64;            // of the bar
-constexpr int endung = 4;            // dot and extension of a file name
+constexpr int zelle = 64;  // of the bar
+constexpr int endung = 4;  // dot and extension of a file name
 constexpr int meisteZeigerbilder = 5;
 
 constexpr TextView geballt = "ge2.ico";
 constexpr TextView werfen = "werfen.ico";
 
-int ganz(float wert) { return static_cast<int>(std::nearbyint(wert)); }
+int ganz(float wert) {
+    return static_cast<int>(std::nearbyint(wert));
+}
 
 Text ohneEndung(Text name) {
     name.resize(name.size() > endung ? name.size() - endung : 0);
@@ -48,7 +50,9 @@ Form1::Zeigerart Form1::zeigerart() const {
     }
 }
 
-void Form1::ZeigerStandard() { setPointer({}); }
+void Form1::ZeigerStandard() {
+    setPointer({});
+}
 
 void Form1::ZeigerEigen() {
     if (!eigenerZeiger_.empty()) setPointer({Pointer::Mode::own, eigenerZeiger_});
@@ -64,7 +68,9 @@ void Form1::ZeigerLaden(TextView Pfad) {
     ZeigerEigen();
 }
 
-void Form1::zeigerFrage() { setPointer({Pointer::Mode::question, {}}); }
+void Form1::zeigerFrage() {
+    setPointer({Pointer::Mode::question, {}});
+}
 
 void Form1::zeigerÜberNichts() {
     if (z_.GezogenerGegenstand > -1) {
@@ -119,7 +125,9 @@ void Form1::Hintergrund_MouseMove() {
 
 // --- places
 
-bool Form1::inLeiste(int Y) const { return z_.LeisteOffen && Y >= leisteOben(); }
+bool Form1::inLeiste(int Y) const {
+    return z_.LeisteOffen && Y >= leisteOben();
+}
 
 int Form1::slotBei(int X, int Y) const {
     const int breite = Picture1.width() / zelle;
@@ -155,7 +163,9 @@ void Form1::Picture1_MouseDown(Button Taste, float X, float Y) {
 
 // --- move
 
-void Form1::ZeigerAuffrischen() { Picture1_MouseMove(z_.MausX, z_.MausY); }
+void Form1::ZeigerAuffrischen() {
+    Picture1_MouseMove(z_.MausX, z_.MausY);
+}
 
 void Form1::Picture1_MouseMove(float X, float Y) {
     z_.MausX = X;
@@ -199,7 +209,8 @@ void Form1::bewegtInLeiste(int X, int Y) {
 void Form1::bewegtImRaum(int X, int Y) {
     const Raum& raum = z_.AktuellerRaum;
     const bool hält = z_.GezogenerGegenstand > -1;
-    const int hit = objektBei(raum, X, Y, [hält](const RaumObjekt& o) { return o.Aktiv && (!hält || o.HatSkript[2]); });
+    const int hit =
+        objektBei(raum, X, Y, [hält](const RaumObjekt& o) { return o.Aktiv && (!hält || o.HatSkript[2]); });
     if (hit == -1) return zeigerÜberNichts();
     if (hält) return zeigerHeiß();
     zeigerFürObjekt(raum.Objekte[static_cast<std::size_t>(hit)]);

@@ -10,6 +10,7 @@ int main() {
     SDL_FillRect(surface, nullptr, 0xFF0000);
     SDL_UpdateWindowSurface(window);
     SDL_Event event;
-    while (SDL_WaitEvent(&event) != 0 && event.type != SDL_QUIT) {}
+    while (SDL_WaitEvent(&event) != 0 && event.type != SDL_QUIT) {
+    }
     return 0;
 }

@@ -90,7 +90,9 @@ const fs::path& story() {
     return directory;
 }
 
-std::vector<std::string> game() { return {ZENTROX_PROGRAM, "--dir", story().string(), "Start.lsd"}; }
+std::vector<std::string> game() {
+    return {ZENTROX_PROGRAM, "--dir", story().string(), "Start.lsd"};
+}
 
 double untilShown(const std::vector<std::string>& command) {
     while (screen().shown()) std::this_thread::sleep_for(std::chrono::milliseconds(10));

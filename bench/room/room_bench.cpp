@@ -24,7 +24,8 @@ std::string roomOf(const std::string& pointer) {
     for (int i = 0; i < objects; ++i) {
         room += "0,-1,0,-1,0,-1,\"" + pointer + "\",1,\"Ding\"\r\n";
         for (int cell = 0; cell < Maskenspalten * Maskenzeilen; ++cell)
-            room += cell % Maskenzeilen == (i == objects - 1 ? Maskenzeilen - 1 : i % (Maskenzeilen - 1)) ? "255," : "0,";
+            room += cell % Maskenzeilen == (i == objects - 1 ? Maskenzeilen - 1 : i % (Maskenzeilen - 1)) ? "255,"
+                                                                                                          : "0,";
     }
     return room + "-1\r\n";
 }
@@ -39,17 +40,17 @@ std::string icon() {
 struct RoomStage : test::Stage {
     explicit RoomStage(const std::string& pointer) {
         writeFile(directory.path() / "rooms" / "Start.lsd", roomOf(pointer));
-        for (const char* const name : {"taste1", "taste2", "ge2", "werfen", "hand1", "hand2", "hand3", "hand4", "hand5"})
+        for (const char* const name :
+             {"taste1", "taste2", "ge2", "werfen", "hand1", "hand2", "hand3", "hand4", "hand5"})
             writeFile(directory.path() / "cursors" / (std::string(name) + ".ico"), icon());
-        backend.then([this] {
-            form.emplace(platform, zustand, medien, spiele, "Start.lsd");
-        });
+        backend.then([this] { form.emplace(platform, zustand, medien, spiele, "Start.lsd"); });
         platform.queue.yield("bench");
         // The room window's start serves the queue for ever; its end comes from inside.
         Timer end(platform.queue, 2000, true, [] { Queue::endProgram(); });
         try {
             form->Zeigen();
-        } catch (const ProgramEnd&) {}
+        } catch (const ProgramEnd&) {
+        }
     }
 
     Zustand zustand;
@@ -64,10 +65,14 @@ void move(benchmark::State& state, const std::string& pointer) {
     for (auto _ : state) stage.form->deliverMove({300 + (x++ & 31), 476}, Button::none);
 }
 
-void moveWithoutLookups(benchmark::State& state) { move(state, ""); }
+void moveWithoutLookups(benchmark::State& state) {
+    move(state, "");
+}
 BENCHMARK(moveWithoutLookups)->Unit(benchmark::kMicrosecond);
 
-void moveWithLookups(benchmark::State& state) { move(state, "hand1.ico"); }
+void moveWithLookups(benchmark::State& state) {
+    move(state, "hand1.ico");
+}
 BENCHMARK(moveWithLookups)->Unit(benchmark::kMicrosecond);
 
 // The whole animation on a clock that costs nothing, its picture composed at every frame; a frame is its share.
@@ -79,8 +84,8 @@ void frames(benchmark::State& state, int count, const std::function<void(Form1&)
         ++shown;
     };
     for (auto _ : state) animation(*stage.form);
-    state.counters["us_per_frame"] = benchmark::Counter(
-        static_cast<double>(state.iterations()) * count / 1e6, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    state.counters["us_per_frame"] = benchmark::Counter(static_cast<double>(state.iterations()) * count / 1e6,
+                                                        benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     state.counters["shown"] = static_cast<double>(shown) / static_cast<double>(state.iterations());
 }
 

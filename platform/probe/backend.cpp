@@ -60,7 +60,9 @@ void ProbeBackend::sleep(std::optional<Milliseconds> until) {
     if (clockMoved_) clockMoved_();
 }
 
-Milliseconds ProbeBackend::nextFrame() { return now_ + frame; }
+Milliseconds ProbeBackend::nextFrame() {
+    return now_ + frame;
+}
 
 void ProbeBackend::opened(Window& window) {
     if (window.name() != "MsgBox") trace("window " + toUtf8(window.name()) + " open");

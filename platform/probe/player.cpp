@@ -20,19 +20,26 @@ Button buttonNamed(const std::string& word) {
     return Button::left;
 }
 
-int number(const std::string& word) { return std::atoi(word.c_str()); }
+int number(const std::string& word) {
+    return std::atoi(word.c_str());
+}
 
 }  // namespace
 
 Player::Player(Walk walk, ProbeBackend& backend, std::filesystem::path pictures, std::ostream& out)
-    : walk_(std::move(walk)), backend_(backend), pictures_(std::move(pictures)), out_(out) {}
+    : walk_(std::move(walk)),
+      backend_(backend),
+      pictures_(std::move(pictures)),
+      out_(out) {}
 
 void Player::attach(Platform* platform, Game* game) {
     platform_ = platform;
     game_ = game;
 }
 
-std::string Player::place() const { return walk_.name + ":" + std::to_string(line_); }
+std::string Player::place() const {
+    return walk_.name + ":" + std::to_string(line_);
+}
 
 void Player::fail(const std::string& expected, const std::string& found) {
     failed_ = true;
@@ -89,7 +96,9 @@ std::optional<Input> Player::next() {
 }
 
 // Before its first window is open there is nothing that a person could do.
-bool Player::somethingShown() const { return platform_ != nullptr && platform_->queue.active() != nullptr; }
+bool Player::somethingShown() const {
+    return platform_ != nullptr && platform_->queue.active() != nullptr;
+}
 
 bool Player::ready() {
     if (!somethingShown()) return false;
@@ -195,7 +204,10 @@ void Player::beginKeys(const Command& command) {
     for (const char c : fromUtf8(command.words[0])) {
         const char big = upper(c);
         const bool plain = (big >= 'A' && big <= 'Z') || (c >= '0' && c <= '9') || c == ' ';
-        const int code = plain ? static_cast<unsigned char>(big) : c == ',' ? key::comma : c == '.' ? key::period : 0;
+        const int code = plain      ? static_cast<unsigned char>(big)
+                         : c == ',' ? key::comma
+                         : c == '.' ? key::period
+                                    : 0;
         pushKey(code, c, true, true);
     }
 }
@@ -224,7 +236,8 @@ void Player::beginThing(const Command& command) {
             return;
         }
         pushUnfold([this] {
-            push({.kind = Input::Kind::move, .at = reach(game_->aboveBar(), "a place above the bar"),
+            push({.kind = Input::Kind::move,
+                  .at = reach(game_->aboveBar(), "a place above the bar"),
                   .button = Button::left});
         });
         pushUntil([this] { return !game_->barOpen() && !game_->barSlides(); }, slideLimit, "the bar closed");
@@ -328,7 +341,9 @@ void printControls(Control& control, Point at, std::ostream& out) {
 
 }  // namespace
 
-void Player::sayControls() { printControls(active("controls").root(), {0, 0}, out_); }
+void Player::sayControls() {
+    printControls(active("controls").root(), {0, 0}, out_);
+}
 
 // --- conditions
 
@@ -371,7 +386,8 @@ std::string Player::found(const Condition& condition) {
     if (condition.kind == "pixel") {
         const Point at{number(condition.words[0]), number(condition.words[1])};
         char colour[16];
-        std::snprintf(colour, sizeof colour, "%06X", static_cast<unsigned>(window->compose().pixel(at)) & 0xFFFFFFU);
+        std::snprintf(colour, sizeof colour, "%06X",
+                      static_cast<unsigned>(window->compose().pixel(at)) & 0xFFFFFFU);
         return colour;
     }
     if (condition.kind == "evil" && game_ != nullptr) return std::to_string(game_->evil());

@@ -23,7 +23,8 @@ public:
     virtual bool choiceOpen() = 0;
     virtual bool barOpen() = 0;
     virtual bool barSlides() = 0;
-    // Where an object takes the click, an item of the open bar lies, an option stands; nothing if it can't be reached.
+    // Where an object takes the click, an item of the open bar lies, an option stands; nothing if it can't be
+    // reached.
     virtual std::optional<Point> object(TextView name) = 0;
     virtual std::optional<Point> item(TextView name) = 0;
     virtual std::optional<Point> option(int number) = 0;

@@ -90,14 +90,15 @@ struct ConditionForm {
 };
 
 constexpr std::array conditionForms{
-    ConditionForm{"idle", ""},   ConditionForm{"window", "w"}, ConditionForm{"title", "w"},
-    ConditionForm{"text", "w"},  ConditionForm{"flag", "w"},   ConditionForm{"item", "w"},
-    ConditionForm{"room", "w"},  ConditionForm{"evil", "n"},   ConditionForm{"choice", ""},
-    ConditionForm{"ended", ""},  ConditionForm{"pixel", "nnx"},
+    ConditionForm{"idle", ""},  ConditionForm{"window", "w"},  ConditionForm{"title", "w"},
+    ConditionForm{"text", "w"}, ConditionForm{"flag", "w"},    ConditionForm{"item", "w"},
+    ConditionForm{"room", "w"}, ConditionForm{"evil", "n"},    ConditionForm{"choice", ""},
+    ConditionForm{"ended", ""}, ConditionForm{"pixel", "nnx"},
 };
 
 bool isColour(const std::string& word) {
-    return word.size() == 6 && std::all_of(word.begin(), word.end(), [](unsigned char c) { return std::isxdigit(c) != 0; });
+    return word.size() == 6 &&
+           std::all_of(word.begin(), word.end(), [](unsigned char c) { return std::isxdigit(c) != 0; });
 }
 
 bool fits(char letter, const Word& word) {
@@ -200,11 +201,11 @@ int keyCode(const std::string& name) {
         int code;
     };
     static constexpr std::array keys{
-        Named{"space", key::space},     Named{"enter", key::enter},   Named{"escape", key::escape},
-        Named{"tab", key::tab},         Named{"home", key::home},     Named{"backspace", key::backspace},
-        Named{"delete", key::del},      Named{"end", key::end},       Named{"up", key::up},
-        Named{"down", key::down},       Named{"left", key::left},     Named{"right", key::right},
-        Named{"comma", key::comma},     Named{"period", key::period},
+        Named{"space", key::space}, Named{"enter", key::enter},   Named{"escape", key::escape},
+        Named{"tab", key::tab},     Named{"home", key::home},     Named{"backspace", key::backspace},
+        Named{"delete", key::del},  Named{"end", key::end},       Named{"up", key::up},
+        Named{"down", key::down},   Named{"left", key::left},     Named{"right", key::right},
+        Named{"comma", key::comma}, Named{"period", key::period},
     };
     if (name.size() == 1 && name[0] >= 'a' && name[0] <= 'z') return name[0] - 'a' + 'A';
     if (name.size() == 1 && name[0] >= '0' && name[0] <= '9') return name[0];

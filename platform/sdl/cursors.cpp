@@ -27,8 +27,8 @@ constexpr std::array<std::string_view, 21> drawn{
 constexpr int arrowWidth = 12;  // the columns of the arrow alone
 
 SDL_Cursor* makeCursor(std::vector<std::uint32_t>& pixels, int width, int height, Point hotSpot) {
-    SDL_Surface* const surface = SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), width, height, 32, width * 4,
-                                                                    SDL_PIXELFORMAT_ARGB8888);
+    SDL_Surface* const surface =
+        SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), width, height, 32, width * 4, SDL_PIXELFORMAT_ARGB8888);
     if (surface == nullptr) return nullptr;
     SDL_Cursor* const cursor = SDL_CreateColorCursor(surface, hotSpot.x, hotSpot.y);
     SDL_FreeSurface(surface);

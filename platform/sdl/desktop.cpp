@@ -54,7 +54,9 @@ void enlarge(const Bitmap& picture, const Rect& part, SDL_Surface& target, Point
 }
 
 // Window managers put a name of their own where there is none.
-std::string shownTitle(const Window& window) { return window.title().empty() ? " " : toUtf8(window.title()); }
+std::string shownTitle(const Window& window) {
+    return window.title().empty() ? " " : toUtf8(window.title());
+}
 
 bool plainFormat(const SDL_Surface& surface) {
     return surface.format->format == SDL_PIXELFORMAT_RGB888 || surface.format->format == SDL_PIXELFORMAT_ARGB8888;
@@ -63,7 +65,9 @@ bool plainFormat(const SDL_Surface& surface) {
 }  // namespace
 
 Desktop::Desktop(const Files& files, std::vector<std::string> restartCommand)
-    : files_(files), restartCommand_(std::move(restartCommand)), cursors_(std::make_unique<Cursors>(files)) {}
+    : files_(files),
+      restartCommand_(std::move(restartCommand)),
+      cursors_(std::make_unique<Cursors>(files)) {}
 
 Desktop::~Desktop() {
     cursors_.reset();
@@ -71,8 +75,8 @@ Desktop::~Desktop() {
     if (videoStarted_) SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
 
-// The plain window surface without acceleration starts faster, takes less memory and costs less than what SDL chooses
-// by itself on a machine without a graphics card. A hint set in the environment wins.
+// The plain window surface without acceleration starts faster, takes less memory and costs less than what SDL
+// chooses by itself on a machine without a graphics card. A hint set in the environment wins.
 void Desktop::startVideo() {
     if (videoStarted_) return;
     SDL_SetHintWithPriority(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0", SDL_HINT_DEFAULT);
@@ -125,7 +129,8 @@ std::uint64_t Desktop::seed() {
 // --- windows
 
 Desktop::Shown* Desktop::of(const Window& window) {
-    const auto hit = std::find_if(shown_.begin(), shown_.end(), [&](const Shown& s) { return s.window == &window; });
+    const auto hit =
+        std::find_if(shown_.begin(), shown_.end(), [&](const Shown& s) { return s.window == &window; });
     return hit == shown_.end() ? nullptr : &*hit;
 }
 
@@ -178,7 +183,8 @@ void Desktop::opened(Window& window) {
         throw ProgramEnd{1};
     }
     if (window.frame() == Frame::sizable)
-        SDL_SetWindowMinimumSize(shown.native.get(), window.minimum.w * shown.scale, window.minimum.h * shown.scale);
+        SDL_SetWindowMinimumSize(shown.native.get(), window.minimum.w * shown.scale,
+                                 window.minimum.h * shown.scale);
     place(shown, owner);
     SDL_ShowWindow(shown.native.get());
     SDL_RaiseWindow(shown.native.get());
@@ -233,8 +239,8 @@ void Desktop::layOut(Shown& shown) {
     SDL_GetWindowSize(shown.native.get(), &native.w, &native.h);
     const bool sizable = shown.window->frame() == Frame::sizable;
     const Size needed = sizable ? shown.window->minimum : shown.window->client();
-    shown.scale = shown.fullScreen ? std::max(1, std::min(native.w / needed.w, native.h / needed.h))
-                                   : shown.windowedScale;
+    shown.scale =
+        shown.fullScreen ? std::max(1, std::min(native.w / needed.w, native.h / needed.h)) : shown.windowedScale;
     shown.exposed = true;
     if (sizable) {
         shown.corner = {0, 0};
@@ -253,8 +259,8 @@ void Desktop::layOut(Shown& shown) {
 
 void Desktop::present(const std::vector<Window*>& /*windows*/) {
     presentDue_.reset();
-    const bool news = std::any_of(shown_.begin(), shown_.end(),
-                                  [](const Shown& s) { return s.exposed || s.window->stale(); });
+    const bool news =
+        std::any_of(shown_.begin(), shown_.end(), [](const Shown& s) { return s.exposed || s.window->stale(); });
     if (!news) return;
     const Milliseconds now = clock();
     if (now < lastPresent_ + frame) {
@@ -280,8 +286,8 @@ void Desktop::show(Shown& shown) {
         enlarge(picture, part, *target, shown.corner, shown.scale);
     } else {
         auto* const pixels = const_cast<std::uint32_t*>(picture.row(0));
-        SDL_Surface* const source = SDL_CreateRGBSurfaceWithFormatFrom(pixels, picture.width(), picture.height(), 32,
-                                                                       picture.width() * 4, SDL_PIXELFORMAT_RGB888);
+        SDL_Surface* const source = SDL_CreateRGBSurfaceWithFormatFrom(
+            pixels, picture.width(), picture.height(), 32, picture.width() * 4, SDL_PIXELFORMAT_RGB888);
         SDL_Rect from{part.x, part.y, part.w, part.h};
         SDL_Rect to{shown.corner.x + part.x * shown.scale, shown.corner.y + part.y * shown.scale,
                     part.w * shown.scale, part.h * shown.scale};
@@ -359,8 +365,9 @@ void Desktop::translate(const SDL_Event& event) {
 }
 
 void Desktop::translateWindow(const SDL_WindowEvent& event) {
-    const auto hit = std::find_if(shown_.begin(), shown_.end(),
-                                  [&](const Shown& s) { return SDL_GetWindowID(s.native.get()) == event.windowID; });
+    const auto hit = std::find_if(shown_.begin(), shown_.end(), [&](const Shown& s) {
+        return SDL_GetWindowID(s.native.get()) == event.windowID;
+    });
     if (hit == shown_.end()) return;
     switch (event.event) {
         case SDL_WINDOWEVENT_CLOSE: {
@@ -419,7 +426,9 @@ void Desktop::translateText(const char* utf8) {
     }
 }
 
-std::array<std::uint8_t, 256> Desktop::keys() { return heldKeys(); }
+std::array<std::uint8_t, 256> Desktop::keys() {
+    return heldKeys();
+}
 
 // --- the rest of the machine
 
@@ -430,9 +439,13 @@ std::string Desktop::clipboard() {
     return copy;
 }
 
-void Desktop::setClipboard(const std::string& text) { SDL_SetClipboardText(text.c_str()); }
+void Desktop::setClipboard(const std::string& text) {
+    SDL_SetClipboardText(text.c_str());
+}
 
-bool Desktop::start(const std::vector<std::string>& command) { return startProcess(command); }
+bool Desktop::start(const std::vector<std::string>& command) {
+    return startProcess(command);
+}
 
 void Desktop::restart() {
     if (!startProcess(restartCommand_)) std::cerr << "zentrox: can't start " << restartCommand_.front() << '\n';

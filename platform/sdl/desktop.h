@@ -50,7 +50,7 @@ private:
         int scale = 1;
         int windowedScale = 1;
         Point corner;
-        bool exposed = true;     // all of it has to be shown
+        bool exposed = true;  // all of it has to be shown
         bool fullScreen = false;
     };
 
@@ -74,7 +74,7 @@ private:
     std::vector<std::string> restartCommand_;
     std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
     bool videoStarted_ = false;
-    bool fullScreen_ = false;  // what the player wants for the game's windows
+    bool fullScreen_ = false;   // what the player wants for the game's windows
     std::vector<Shown> shown_;  // the topmost one is the last
     std::deque<Input> pending_;
     Milliseconds frameDue_ = 0;

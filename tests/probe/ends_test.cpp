@@ -41,7 +41,8 @@ bool endsAt(int turn, const Walk& walk, const Text& room, Fonts& fonts) {
     Player player(walk, backend, ".", said);
     Impatient person(player, turn);
     backend.setPerson(&person);
-    Recorder recorder(WALK_DATA, [&] { return backend.clock(); }, [](Milliseconds, const Text&) {});
+    Recorder recorder(
+        WALK_DATA, [&] { return backend.clock(); }, [](Milliseconds, const Text&) {});
     Platform platform(backend, fonts, recorder, WALK_DATA);
     const auto zustand = std::make_unique<Zustand>();
     Story story(platform, *zustand, recorder);
@@ -58,7 +59,9 @@ struct Case {
     int step;  // how many turns lie between two ends that are tried
 };
 
-void PrintTo(const Case& c, std::ostream* out) { *out << (*c.room == 0 ? "the menu" : c.room); }
+void PrintTo(const Case& c, std::ostream* out) {
+    *out << (*c.room == 0 ? "the menu" : c.room);
+}
 
 class EndsTest : public testing::TestWithParam<Case> {};
 
@@ -73,11 +76,19 @@ TEST_P(EndsTest, EveryWaitCanBeLeft) {
 INSTANTIATE_TEST_SUITE_P(
     Walks, EndsTest,
     testing::Values(
-        Case{"Rahmen.lsd", "until idle\nuse Rahmen\nuntil text \"zwei\"\nkey a\nuntil text \"mitgenommen\"\nkey a\nuntil idle", 1},
-        Case{"Zoom.lsd", "until idle\nuse Blende\nuntil text \"weiß\"\nkey a\nuntil idle\nuse Zoom\nuntil text \"nah\"\nkey a\nuntil idle", 5},
+        Case{"Rahmen.lsd",
+             "until idle\nuse Rahmen\nuntil text \"zwei\"\nkey a\nuntil text \"mitgenommen\"\nkey a\nuntil idle",
+             1},
+        Case{"Zoom.lsd",
+             "until idle\nuse Blende\nuntil text \"weiß\"\nkey a\nuntil idle\nuse Zoom\nuntil text \"nah\"\nkey "
+             "a\nuntil idle",
+             5},
         Case{"Ziehen.lsd", "until idle\ncombine blue lime\nuntil idle\ngive lime Kiste\nuntil idle", 2},
         Case{"Auswahl.lsd", "until choice\nchoose 2\nuntil choice\nchoose 2\nuntil idle", 2},
-        Case{"Tasten.lsd", "until idle\nkey f7\nkey enter\nkey f2\nuntil window Dialog\nkey escape\nkey f1\nuntil window Dialog\ntype \"x\"\nkey escape\nuntil idle", 1},
+        Case{"Tasten.lsd",
+             "until idle\nkey f7\nkey enter\nkey f2\nuntil window Dialog\nkey escape\nkey f1\nuntil window "
+             "Dialog\ntype \"x\"\nkey escape\nuntil idle",
+             1},
         Case{"", "wait 600\nkey down\nwait 500\nkey down\nkey enter", 3}));
 
 }  // namespace

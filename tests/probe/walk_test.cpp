@@ -16,7 +16,8 @@ std::string refusal(const std::string& line) {
 }
 
 TEST(WalkLanguage, ReadsWordsQuotesAndComments) {
-    const Walk walk = parseWalk("w", "# first\n\n  click right 3 -4   # the door\r\nuse \"rote Tür\"\nuse a#1\nsay state\n");
+    const Walk walk =
+        parseWalk("w", "# first\n\n  click right 3 -4   # the door\r\nuse \"rote Tür\"\nuse a#1\nsay state\n");
     ASSERT_EQ(walk.commands.size(), 4U);
     EXPECT_EQ(walk.commands[0].words, (std::vector<std::string>{"right", "3", "-4"}));
     EXPECT_EQ(walk.commands[0].line, 3);
@@ -34,10 +35,30 @@ TEST(WalkLanguage, TellsATimeBehindAConditionFromItsOwnNumber) {
 }
 
 TEST(WalkLanguage, RefusesWhatIsNoneOfIt) {
-    for (const char* const line :
-         {"jump", "wait", "wait ten", "wait 1 2", "click", "click 1", "click far 1 2", "key f13", "key", "type",
-          "type \"open", "press left 3", "expect", "expect not", "expect idle now", "expect pixel 1 2 red",
-          "use", "give a", "say", "say nothing", "use \"a\"b", "until 500", "choose first", "down \"\""}) {
+    for (const char* const line : {"jump",
+                                   "wait",
+                                   "wait ten",
+                                   "wait 1 2",
+                                   "click",
+                                   "click 1",
+                                   "click far 1 2",
+                                   "key f13",
+                                   "key",
+                                   "type",
+                                   "type \"open",
+                                   "press left 3",
+                                   "expect",
+                                   "expect not",
+                                   "expect idle now",
+                                   "expect pixel 1 2 red",
+                                   "use",
+                                   "give a",
+                                   "say",
+                                   "say nothing",
+                                   "use \"a\"b",
+                                   "until 500",
+                                   "choose first",
+                                   "down \"\""}) {
         const std::string message = refusal(line);
         EXPECT_EQ(message.rfind("w:2: expected ", 0), 0U) << line << ": " << message;
         EXPECT_NE(message.find(", found "), std::string::npos) << line;

@@ -14,7 +14,8 @@ protected:
     Queue& queue() { return stage_.platform.queue; }
     Milliseconds now() { return queue().clock(); }
     void sleepTo(Milliseconds end) {
-        queue().waitUntil("test", [] { return false; }, end);
+        queue().waitUntil(
+            "test", [] { return false; }, end);
     }
     std::function<void()> note(Times& times) {
         return [this, &times] { times.push_back(now()); };

@@ -10,7 +10,8 @@ namespace {
 class Probe : public Window {
 public:
     Probe(Platform& platform, TextView name, Frame frame = Frame::fixed)
-        : Window(platform, name, name, {100, 80}, frame), face(platform.fonts, &root(), {10, 20, 50, 40}) {
+        : Window(platform, name, name, {100, 80}, frame),
+          face(platform.fonts, &root(), {10, 20, 50, 40}) {
         face.onMove = [this](const PointerEvent& e) { note("move", e); };
         face.onDown = [this](const PointerEvent& e) { note("down", e); };
         face.onUp = [this](const PointerEvent& e) { note("up", e); };
@@ -30,7 +31,8 @@ public:
 
 private:
     void note(const char* what, const PointerEvent& e) {
-        log.push_back(what + (" " + std::to_string(static_cast<int>(e.x))) + "," + std::to_string(static_cast<int>(e.y)));
+        log.push_back(what + (" " + std::to_string(static_cast<int>(e.x))) + "," +
+                      std::to_string(static_cast<int>(e.y)));
     }
 };
 
@@ -69,7 +71,8 @@ TEST(WindowTest, APressKeepsThePointerUntilTheRelease) {
     stage.backend.move({95, 5}, Button::left);
     stage.backend.release({95, 5});  // elsewhere: no click
     stage.backend.move({95, 5});
-    stage.platform.queue.waitUntil("test", [] { return false; }, 10);
+    stage.platform.queue.waitUntil(
+        "test", [] { return false; }, 10);
     EXPECT_EQ(window.log, (Log{"down 2,3", "move 85,-15", "up 85,-15"}));
 }
 
@@ -110,7 +113,8 @@ TEST(WindowTest, ComposesFromBackToFrontAndTellsWhatIsNew) {
     window.compose();
     window.takeNews();
     EXPECT_EQ(window.compose().pixel({51, 51}), static_cast<std::int32_t>(Colour(1, 2, 3).rgb));
-    EXPECT_NE(window.compose().pixel({61, 51}), static_cast<std::int32_t>(Colour(1, 2, 3).rgb)) << "cut by its parent";
+    EXPECT_NE(window.compose().pixel({61, 51}), static_cast<std::int32_t>(Colour(1, 2, 3).rgb))
+        << "cut by its parent";
     EXPECT_TRUE(window.takeNews().empty());
 
     window.face.box({1, 1}, {2, 3}, white);
@@ -132,9 +136,11 @@ TEST(WindowTest, AToolTipShowsAfterARestAndGoesWithTheNextMove) {
     window.open();
     stage.backend.move({30, 30});
     Queue& queue = stage.platform.queue;
-    queue.waitUntil("test", [] { return false; }, 400);
+    queue.waitUntil(
+        "test", [] { return false; }, 400);
     EXPECT_FALSE(window.toolTipShown());
-    queue.waitUntil("test", [] { return false; }, 600);
+    queue.waitUntil(
+        "test", [] { return false; }, 600);
     EXPECT_TRUE(window.toolTipShown());
     const Bitmap with = window.compose();
     stage.backend.move({31, 30});

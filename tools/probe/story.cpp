@@ -49,7 +49,9 @@ bool Story::idle() {
     return window->name() == "Form1" && !z_.SkriptLäuft && !z_.LeisteBewegt && !z_.RaumDatei.empty();
 }
 
-bool Story::flag(TextView name) { return MerkerGesetzt(z_, name); }
+bool Story::flag(TextView name) {
+    return MerkerGesetzt(z_, name);
+}
 
 bool Story::carries(TextView item) {
     for (int i = 0; i <= z_.InventarLetzter; ++i)
@@ -57,7 +59,9 @@ bool Story::carries(TextView item) {
     return false;
 }
 
-bool Story::inRoom(TextView file) { return equalIgnoringCase(z_.RaumDatei, file); }
+bool Story::inRoom(TextView file) {
+    return equalIgnoringCase(z_.RaumDatei, file);
+}
 
 int Story::lowestAt(int column, int row) const {
     const Raum& room = z_.AktuellerRaum;
@@ -88,9 +92,8 @@ std::optional<Point> Story::object(TextView name) {
                 const Point d{c.x * count - sum.x, c.y * count - sum.y};
                 return static_cast<double>(d.x) * d.x + static_cast<double>(d.y) * d.y;
             };
-            const Point best = *std::min_element(cells.begin(), cells.end(), [&](Point a, Point b) {
-                return distance(a) < distance(b);
-            });
+            const Point best = *std::min_element(cells.begin(), cells.end(),
+                                                 [&](Point a, Point b) { return distance(a) < distance(b); });
             return inPicture({best.x * Maskenzelle + Maskenzelle / 2, best.y * Maskenzelle + Maskenzelle / 2});
         }
     }
@@ -129,12 +132,14 @@ std::vector<Text> Story::state() {
     for (const Text& name : z_.Merker)
         if (!name.empty()) flags.push_back(name);
     std::sort(flags.begin(), flags.end(), [](const Text& a, const Text& b) {
-        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) { return x < y; });
+        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                            [](unsigned char x, unsigned char y) { return x < y; });
     });
     lines.push_back("flags " + std::to_string(flags.size()));
     for (const Text& name : flags) lines.push_back("flag " + name);
     lines.push_back("items " + std::to_string(z_.InventarLetzter + 1));
-    for (int i = 0; i <= z_.InventarLetzter; ++i) lines.push_back("item " + z_.Inventar[static_cast<std::size_t>(i)]);
+    for (int i = 0; i <= z_.InventarLetzter; ++i)
+        lines.push_back("item " + z_.Inventar[static_cast<std::size_t>(i)]);
     lines.push_back("music " + recorder_.song());
     lines.push_back("voice " + recorder_.voice());
     return lines;

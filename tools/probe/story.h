@@ -10,7 +10,9 @@ namespace zentrox::probe {
 class Story : public Game {
 public:
     Story(Platform& platform, Zustand& zustand, const Recorder& recorder)
-        : platform_(platform), z_(zustand), recorder_(recorder) {}
+        : platform_(platform),
+          z_(zustand),
+          recorder_(recorder) {}
 
     bool idle() override;
     bool flag(TextView name) override;
