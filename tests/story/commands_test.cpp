@@ -85,6 +85,8 @@ TEST(Commands, WrongCallsAndDamagedFiles) {
     const zentrox::test::TempDirectory directory;
     const std::string empty = directory.path().string();
     const std::string cut = directory.write("rooms/a.lsd", "\"b.jpg\",-1,5").string();
+    const std::string source = directory.write("story/x.story", "Raum a.lsd").string();
+    fs::create_directory(directory.path() / "leer");
     for (const std::vector<std::string>& words :
          std::vector<std::vector<std::string>>{{},
                                                {"bau"},
@@ -93,7 +95,10 @@ TEST(Commands, WrongCallsAndDamagedFiles) {
                                                {"check"},
                                                {"check", "/no/such"},
                                                {"check", empty + "/rooms", "--jason"},
-                                               {"source", "x.story"},
+                                               {"check", empty + "/rooms", empty},
+                                               {"check", cut, source},
+                                               {"check", empty + "/leer"},
+                                               {"source", source},
                                                {"new"}})
         EXPECT_EQ(call(words).status, wrongCall) << testing::PrintToString(words);
     EXPECT_EQ(call({"--help"}).status, clean);
@@ -101,6 +106,7 @@ TEST(Commands, WrongCallsAndDamagedFiles) {
     const Result damaged = call({"check", empty});
     EXPECT_EQ(damaged.status, hasFindings);
     EXPECT_NE(damaged.out.find("a.lsd:1:12: error [datei]: der letzte Index 5 passt nicht"), std::string::npos);
+    EXPECT_EQ(call({"check", empty + "/rooms"}).status, hasFindings);  // the room, as it lies there
     EXPECT_EQ(call({"source", empty}).status, hasFindings);
     EXPECT_EQ(call({"build", cut, "--into", empty + "/rooms/a.lsd"}).status, hasFindings);  // no source at all
 }

@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
-#include <set>
 
 #include "platform/error.h"
 #include "tools/story/build.h"
@@ -11,6 +10,7 @@
 #include "tools/story/coverage.h"
 #include "tools/story/data.h"
 #include "tools/story/fresh.h"
+#include "tools/story/inputs.h"
 #include "tools/story/parser.h"
 #include "tools/story/reference.h"
 #include "tools/story/source.h"
@@ -20,11 +20,6 @@ namespace zentrox::story {
 namespace fs = std::filesystem;
 
 namespace {
-
-// What the command line cannot mean. The text tells why.
-struct WrongCall {
-    std::string why;
-};
 
 struct Options {
     std::vector<std::string> words;
@@ -39,60 +34,6 @@ struct Streams {
     std::ostream& out;
     std::ostream& err;
 };
-
-// --- what lies where
-
-std::vector<fs::path> sourcesIn(const fs::path& directory) {
-    std::vector<fs::path> inside;
-    std::error_code error;
-    for (const auto& entry : fs::directory_iterator(directory, error))
-        if (entry.path().extension() == ".story" && entry.is_regular_file(error)) inside.push_back(entry.path());
-    std::sort(inside.begin(), inside.end());
-    return inside;
-}
-
-void needAll(const std::vector<std::string>& words) {
-    std::error_code error;
-    for (const std::string& word : words)
-        if (!fs::exists(word, error)) throw WrongCall{"there is no " + word};
-}
-
-// Files as they are, directories as the sources that lie directly in them.
-std::vector<fs::path> sourcesOf(const std::vector<std::string>& words) {
-    needAll(words);
-    std::vector<fs::path> sources;
-    std::error_code error;
-    for (const std::string& word : words) {
-        if (!fs::is_directory(word, error)) {
-            sources.emplace_back(word);
-            continue;
-        }
-        const auto inside = sourcesIn(word);
-        if (inside.empty()) throw WrongCall{"there is no source (*.story) in " + word};
-        sources.insert(sources.end(), inside.begin(), inside.end());
-    }
-    return sources;
-}
-
-// The sources beside these that are not among them: the rest of the story, most likely.
-std::vector<fs::path> neighboursOf(const std::vector<fs::path>& sources) {
-    std::set<fs::path> known;
-    std::set<fs::path> directories;
-    for (const fs::path& source : sources) {
-        known.insert(fs::absolute(source).lexically_normal());
-        directories.insert(fs::absolute(source).lexically_normal().parent_path());
-    }
-    std::vector<fs::path> neighbours;
-    for (const fs::path& directory : directories)
-        for (const fs::path& path : sourcesIn(directory))
-            if (!known.contains(path)) neighbours.push_back(path);
-    return neighbours;
-}
-
-bool isDataFile(const fs::path& path) {
-    const Text extension = lower(path.extension().native());
-    return extension == ".lsd" || extension == ".skp";
-}
 
 // Without fonts everything but the size of texts can still be looked at.
 std::unique_ptr<Fonts> fontsIfAny() {
@@ -127,13 +68,17 @@ struct Checked {
     bool wholeStory = true;
 };
 
-void readDataFiles(const std::vector<std::string>& words, Checked& checked, Findings& findings) {
-    for (const std::string& word : words) readDataFile(word, checked.story, findings);
-    checked.root = dataDirectoryOf(words.front());
-    checked.wholeStory = !checked.root.empty();
+void readData(const DataInputs& data, Checked& checked, Findings& findings) {
+    if (data.directories.size() + (data.files.empty() ? 0 : 1) > 1) throw WrongCall{"one data directory at a time"};
+    if (data.files.empty()) {
+        checked.root = data.directories.front();
+        return readDataDirectory(checked.root, checked.story, findings);
+    }
+    for (const fs::path& file : data.files) readDataFile(file, checked.story, findings);
+    checked.root = dataDirectoryOf(data.files.front());
     Findings ignored;
-    if (checked.wholeStory) readDataDirectory(checked.root, checked.rest, ignored);
-    checked.wholeStory = checked.wholeStory && !ignored.hasBroken();
+    if (!checked.root.empty()) readDataDirectory(checked.root, checked.rest, ignored);
+    checked.wholeStory = !checked.root.empty() && !ignored.hasBroken();
 }
 
 void readSources(const std::vector<std::string>& words, Checked& checked, Findings& findings) {
@@ -146,28 +91,15 @@ void readSources(const std::vector<std::string>& words, Checked& checked, Findin
     checked.root = dataRootOf(sources.front());
 }
 
-Checked readChecked(const std::vector<std::string>& words, Findings& findings) {
-    needAll(words);
-    Checked checked;
-    const fs::path first = words.front();
-    std::error_code error;
-    const bool isData = fs::is_directory(first, error) && sourcesIn(first).empty() && isDataDirectory(first);
-    if (isData && words.size() > 1) throw WrongCall{"one data directory at a time"};
-    if (isData) {
-        readDataDirectory(first, checked.story, findings);
-        checked.root = first;
-    } else if (isDataFile(first)) {
-        readDataFiles(words, checked, findings);
-    } else {
-        readSources(words, checked, findings);
-    }
-    return checked;
-}
-
 int check(const Options& options, const Streams& to) {
     if (!options.data.empty()) needAll({options.data});
     Findings findings;
-    const Checked checked = readChecked(options.words, findings);
+    Checked checked;
+    const DataInputs inputs = dataOf(options.words);
+    if (inputs.directories.empty() && inputs.files.empty())
+        readSources(options.words, checked, findings);
+    else
+        readData(inputs, checked, findings);
     const fs::path root = options.data.empty() ? checked.root : fs::path(options.data);
     const auto data = root.empty() ? nullptr : std::make_unique<DataFiles>(root);
     const auto fonts = fontsIfAny();
@@ -178,18 +110,22 @@ int check(const Options& options, const Streams& to) {
 }
 
 int source(const Options& options, const Streams& to) {
-    needAll(options.words);
+    const DataInputs data = dataOf(options.words);
+    if (data.directories.empty() && data.files.empty())
+        throw WrongCall{options.words.front() + " is no compiled room (.lsd) and no script (.skp)"};
     Story story;
     Findings findings;
     std::vector<Text> pictures;
-    for (const std::string& word : options.words) {
-        std::error_code error;
-        const bool whole = fs::is_directory(word, error);
-        if (whole && !isDataDirectory(word)) throw WrongCall{"there are no rooms and no items in " + word};
-        if (!whole && !isDataFile(word)) throw WrongCall{word + " is no room (.lsd) and no script (.skp)"};
-        whole ? readDataDirectory(word, story, findings) : readDataFile(word, story, findings);
-        const fs::path root = whole ? fs::path(word) : dataDirectoryOf(word);
+    const auto notePictures = [&](const fs::path& root) {
         if (pictures.empty() && !root.empty()) pictures = Files(root).list("items\\");
+    };
+    for (const fs::path& directory : data.directories) {
+        readDataDirectory(directory, story, findings);
+        notePictures(directory);
+    }
+    for (const fs::path& file : data.files) {
+        readDataFile(file, story, findings);
+        notePictures(dataDirectoryOf(file));
     }
     findings.settle(story);
     to.err << asLines(story, findings);
