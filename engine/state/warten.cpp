@@ -3,14 +3,17 @@
 namespace zentrox {
 
 void WarteFrame(Zustand& z, Platform& platform, std::int32_t ms) {
+    WarteFrame(z, platform, ms, [] { return false; });
+}
+
+void WarteFrame(Zustand& z, Platform& platform, std::int32_t ms, const std::function<bool()>& schluss) {
     constexpr TextView grund = "WarteFrame";
     platform.queue.yield(grund);
     const Milliseconds jetzt = platform.queue.clock();
     // The mark has 32 bits, so the clock wraps around; unsigned, the difference comes out right all the same.
     const std::uint32_t vergangen = static_cast<std::uint32_t>(jetzt) - static_cast<std::uint32_t>(z.LetzterFrame);
     if (ms > 0 && vergangen < static_cast<std::uint32_t>(ms))
-        platform.queue.waitUntil(
-            grund, [] { return false; }, jetzt + (ms - static_cast<Milliseconds>(vergangen)));
+        platform.queue.waitUntil(grund, schluss, jetzt + (ms - static_cast<Milliseconds>(vergangen)));
     z.LetzterFrame = static_cast<std::int32_t>(static_cast<std::uint32_t>(platform.queue.clock()));
 }
 

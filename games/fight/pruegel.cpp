@@ -144,7 +144,6 @@ void Prügel::Command1_Click() {
     RM.setEnabled(true);
     Frame2.setVisible(false);
     Frame1.setVisible(true);
-    setPointer(unsichtbar());
     Kampf kampf(platform().random, wahl_.Angriff(), wahl_.Abwehr());
     for (Folge folge = kampf.Weiter(); !folge.empty(); folge = kampf.Weiter())
         if (!Spielen(folge, kampf)) return;
@@ -172,10 +171,8 @@ bool Prügel::Tun(const Schritt& schritt, Kampf& kampf) {
     return true;
 }
 
-// In pieces, so that a window that has been closed keeps nobody waiting.
 bool Prügel::Warten(std::int32_t ms) {
-    constexpr std::int32_t stück = 100;
-    for (; ms > 0 && isOpen(); ms -= stück) WarteFrame(z_, platform(), std::min(ms, stück));
+    WarteFrame(z_, platform(), ms, [this] { return !isOpen(); });
     return isOpen();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/state/felder.h"
+#include "engine/state/warten.h"
 #include "games/memory/memoryfenster.h"
 #include "platform/error.h"
 #include "platform/picture.h"
@@ -20,8 +21,10 @@ constexpr int gewonneneSeite = 16;
 constexpr int gewonnenerAbstand = 24;
 constexpr Milliseconds flugDauer = 1000;
 
-constexpr Milliseconds nachDemZug = 500;
-constexpr Milliseconds ansehen = 1000;
+// A wait goes from the end of the one before. Behind a click or a flight that is long ago, so this one comes first.
+constexpr std::int32_t luftholen = 1;
+constexpr std::int32_t kurz = 500;
+constexpr std::int32_t ansehen = 1000;
 
 constexpr TextView unentschieden = "Unentschieden! Nächste Runde!"_t;
 
@@ -123,15 +126,17 @@ Memory::Ausgang Memory::spielerZug() {
     const std::int32_t b = karteGewählt(a);
     if (!laeuft) return Ausgang::schluss;
     aufdecken(b);
-    return warten(nachDemZug) ? nachZug({a, b}, Wer::spieler) : Ausgang::schluss;
+    if (!warten(luftholen) || !warten(kurz)) return Ausgang::schluss;
+    return nachZug({a, b}, Wer::spieler);
 }
 
 Memory::Ausgang Memory::gegnerZug() {
     const Memoryspiel::Zug zug = spiel_.gegnerZug(platform().random);
+    if (!warten(luftholen)) return Ausgang::schluss;
     aufdecken(zug.a);
-    if (!warten(nachDemZug)) return Ausgang::schluss;
+    if (!warten(kurz)) return Ausgang::schluss;
     aufdecken(zug.b);
-    return warten(nachDemZug) ? nachZug(zug, Wer::gegner) : Ausgang::schluss;
+    return warten(kurz) ? nachZug(zug, Wer::gegner) : Ausgang::schluss;
 }
 
 // A click on another card than `nicht`. Earlier clicks are forgotten.
@@ -148,23 +153,21 @@ Memory::Ausgang Memory::nachZug(Memoryspiel::Zug zug, Wer wer) {
         Ende();
         return Ausgang::schluss;
     }
+    if (wer == Wer::spieler && !warten(luftholen)) return Ausgang::schluss;
     if (!warten(ansehen)) return Ausgang::schluss;
     spiel_.AddIntelligenz(zug.a, zug.b);
     zudecken(zug);
-    return warten(nachDemZug) ? Ausgang::wechsel : Ausgang::schluss;
+    return warten(kurz) ? Ausgang::wechsel : Ausgang::schluss;
 }
 
 void Memory::Ende() {
     const TextView ergebnis = spiel_.ergebnis();
-    if (ergebnis == "U") showMessageBox(platform(), {"Memory", Text(unentschieden)});
+    if (ergebnis == "U") showMessageBox(platform(), {"Zentrox", Text(unentschieden)});
     z_.Übergabe = Text(ergebnis);
 }
 
-bool Memory::warten(Milliseconds ms) {
-    Queue& queue = platform().queue;
-    queue.waitUntil(
-        "Memory", [this] { return !laeuft; }, queue.clock() + ms);
-    z_.LetzterFrame = static_cast<std::int32_t>(static_cast<std::uint32_t>(queue.clock()));
+bool Memory::warten(std::int32_t ms) {
+    WarteFrame(z_, platform(), ms, [this] { return !laeuft; });
     return laeuft;
 }
 

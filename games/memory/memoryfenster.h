@@ -44,7 +44,7 @@ private:
     void KartenWeg(Memoryspiel::Zug zug, Wer wer);
     void Ende();
     // Lets time pass; false if the window has been closed.
-    bool warten(Milliseconds ms);
+    bool warten(std::int32_t ms);
     void zeigen(std::int32_t position, const Bitmap& bild);
     void aufdecken(std::int32_t position);
     void zudecken(Memoryspiel::Zug zug);

@@ -4,6 +4,7 @@
 #include <numbers>
 
 #include "engine/state/felder.h"
+#include "engine/state/warten.h"
 #include "games/pi/pifenster.h"
 #include "games/pi/pispiel.h"
 #include "platform/error.h"
@@ -26,10 +27,10 @@ constexpr float schriftSchluss = 12;
 
 constexpr int kreisSchritt = 4;  // degrees
 constexpr int kreisRadius = 100;
-constexpr Milliseconds kreisTakt = 16;
+constexpr std::int32_t kreisTakt = 16;
 
-constexpr Milliseconds titelZeit = 500;
-constexpr Milliseconds blitz = 10;
+constexpr std::int32_t titelZeit = 500;
+constexpr std::int32_t blitz = 10;
 constexpr Milliseconds schlussZeit = 10'000;
 
 }  // namespace
@@ -60,11 +61,8 @@ void PISpiel::Timer1_Timer() {
     close();
 }
 
-bool PISpiel::warten(Milliseconds ms) {
-    Queue& queue = platform().queue;
-    queue.waitUntil(
-        "PISpiel", [this] { return !spielLaeuft; }, queue.clock() + ms);
-    z_.LetzterFrame = static_cast<std::int32_t>(static_cast<std::uint32_t>(queue.clock()));
+bool PISpiel::warten(std::int32_t ms) {
+    WarteFrame(z_, platform(), ms, [this] { return !spielLaeuft; });
     return spielLaeuft;
 }
 
@@ -73,7 +71,7 @@ bool PISpiel::warten(Milliseconds ms) {
 bool PISpiel::vorspann() {
     Picture1.clear();
     gedruckt(PiMitte(fläche, Picture1.measure("PI")), "PI", hellgrün);
-    if (!warten(titelZeit) || !kreis()) return false;
+    if (!warten(0) || !warten(titelZeit) || !kreis()) return false;
     Picture1.font.points = schriftAnsage;
     return ansage("Ready") && ansage("GO!");
 }
@@ -141,7 +139,7 @@ bool PISpiel::schluss() {
     medien_.SongStop();
     Picture1.setBack(white);
     Picture1.clear();
-    if (!warten(blitz)) return false;
+    if (!warten(0) || !warten(blitz)) return false;
     medien_.SpieleWav(z_.PfadGames + "JINGLE.WAV");
     Picture1.setBack(black);
     Picture1.clear();
@@ -151,7 +149,10 @@ bool PISpiel::schluss() {
     Picture1.print(urteil);
     Picture1.print(std::to_string(anzahl) + " Zeichen von PI geschafft!");
     if (anzahl >= piBestanden) z_.Übergabe = true;
-    return warten(schlussZeit);
+    Queue& queue = platform().queue;
+    queue.waitUntil(
+        "PISpiel", [this] { return !spielLaeuft; }, queue.clock() + schlussZeit);
+    return spielLaeuft;
 }
 
 void PIZeigen(Platform& platform, Zustand& zustand, Medien& medien) {

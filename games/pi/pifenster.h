@@ -27,7 +27,7 @@ private:
     bool kreis();
     bool abfragen();
     bool schluss();
-    bool warten(Milliseconds ms);
+    bool warten(std::int32_t ms);
 
     void zeigen(char zeichen);
     void gedruckt(Point ort, TextView text, Colour farbe);

@@ -25,7 +25,7 @@ int farbteil(Random& zufall) {
 }
 
 bool tippbar(char c) {
-    return static_cast<unsigned char>(c) > ' ';
+    return static_cast<unsigned char>(c) >= ' ';
 }
 
 }  // namespace

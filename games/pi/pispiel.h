@@ -13,7 +13,7 @@ namespace zentrox {
 constexpr std::int32_t piZeichen = 10'000;  // more are never asked
 constexpr std::int32_t piBestanden = 40;    // who gets as far as this has won
 
-// The characters in the order in which they are asked, at most `piZeichen`. Line ends and blanks, which nobody
+// The characters in the order in which they are asked, at most `piZeichen`. Line ends and the like, which nobody
 // could type, are left out. Throws `DataError` if the file is missing or holds none.
 Text PiLesen(const Files& files, TextView pfad);
 

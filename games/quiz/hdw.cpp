@@ -108,11 +108,14 @@ void HDW::Timer3_Timer() {
 
 void HDWZeigen(Platform& platform, Zustand& zustand, Medien& medien) {
     zustand.Übergabe = false;
+    std::vector<Frage> fragen;
     try {
-        HDW(platform, zustand, medien, FragenLaden(platform.files, zustand.PfadGames + "HDW.txt")).showModal();
+        fragen = FragenLaden(platform.files, zustand.PfadGames + "HDW.txt");
     } catch (const DataError& fehler) {
         showMessageBox(platform, {"HDW", fehler.message(), MessageBox::Icon::critical});
+        return;
     }
+    HDW(platform, zustand, medien, std::move(fragen)).showModal();
 }
 
 }  // namespace zentrox

@@ -159,6 +159,15 @@ TEST_F(Warten, TimersRunMeanwhile) {
     EXPECT_EQ(ticks, 3);
 }
 
+TEST_F(Warten, EndsWhenItIsToldSo) {
+    bool closed = false;
+    const Timer timer(platform.queue, 30, true, [&] { closed = true; });
+    WarteFrame(z, platform, 100, [&] { return closed; });
+    EXPECT_EQ(backend.now, 30);
+    WarteFrame(z, platform, 20, [] { return false; });
+    EXPECT_EQ(backend.now, 50) << "the mark is where it ended";
+}
+
 TEST_F(Warten, TheMarkSurvivesTheWrappingOfTheClock) {
     for (const Milliseconds wrap : {Milliseconds{1} << 31, Milliseconds{1} << 32}) {
         backend.now = wrap - 10;

@@ -173,7 +173,11 @@ TEST(FightWindow, BeginsWithItsLabelsCountingUp) {
     Fight fight;
     fight.start();
     fight.backend.then([&] {
+        EXPECT_EQ(fight.window().pointer().mode, Pointer::Mode::arrow) << "still below the picture";
+        fight.window().deliverMove({300, 200}, Button::none);
         EXPECT_EQ(fight.window().pointer().mode, Pointer::Mode::invisible);
+        fight.window().deliverMove({300, 430}, Button::none);
+        EXPECT_EQ(fight.window().pointer().mode, Pointer::Mode::arrow);
         EXPECT_EQ(fight.sound.song, fight.z.PfadGames + "Ken_g.mid");
     });
     fight.backend.schedule(
@@ -193,17 +197,19 @@ TEST(FightWindow, BeginsWithItsLabelsCountingUp) {
 
 TEST(FightWindow, ClosesAtEveryWait) {
     bool won = false;
+    Fight fight;
     for (const std::uint64_t seed : {1U, 2U}) {
         const Milliseconds end = length(seed, won);
-        for (Milliseconds when = 0; when < end; when += 1499) {
-            Fight fight("", seed);
+        for (Milliseconds when = 0; when < end; when += 300) {
+            fight.platform.random.reseed(seed);
+            const Milliseconds begin = fight.backend.now;
             fight.start();
             fight.backend.wait(when);
             fight.backend.closeBox();
             fight.show();
             EXPECT_EQ(fight.z.Übergabe, Übergabewert(false)) << when;
             EXPECT_TRUE(fight.sound.song.empty());
-            EXPECT_LE(fight.backend.now, when + 100) << "nobody waits for a window that is gone";
+            EXPECT_EQ(fight.backend.now, begin + when) << "nobody waits for a window that is gone";
         }
     }
 }

@@ -84,6 +84,29 @@ TEST(MemoryWindow, TurnsCardsAndHidesThemAgain) {
     EXPECT_EQ(play.show(), "L");
 }
 
+// Both cards are clicked at 20 ms; each wait begins where the one before has ended.
+TEST(MemoryWindow, PlaysByTheClock) {
+    struct Look {
+        Milliseconds at;
+        int faces;
+    };
+    Play play;
+    play.backend.wait(20);
+    play.click(0);
+    play.click(4);
+    constexpr Milliseconds hidden = 20 + turn + 1 + look;
+    constexpr Milliseconds tirsa = hidden + turn + 1;
+    for (const Look& now : {Look{hidden - 1, 2}, Look{hidden + 1, 0}, Look{tirsa - 1, 0}, Look{tirsa + 1, 1},
+                            Look{tirsa + turn - 1, 1}, Look{tirsa + turn + 1, 2}})
+        play.backend.schedule(now.at, [&play, now] {
+            int faces = 0;
+            for (int i = 0; i < 16; ++i) faces += play.seen(i) == white.rgb ? 0 : 1;
+            EXPECT_EQ(faces, now.faces) << now.at;
+        });
+    play.backend.closeBox();
+    EXPECT_EQ(play.show(), "L");
+}
+
 TEST(MemoryWindow, FliesAPairToItsRowAndGoesOn) {
     Play play;
     play.backend.wait(20);
@@ -167,15 +190,15 @@ TEST(MemoryWindow, ForgetsClicksInTirsasTurn) {
 }
 
 TEST(MemoryWindow, ClosesAtEveryWait) {
-    for (Milliseconds when = 0; when < 6000; when += 170) {
+    for (Milliseconds when = 0; when < 6000; when += 100) {
         Play play;
         play.backend.wait(20);
         play.click(0);
-        play.click(when % 340 == 0 ? 1 : 2);
+        play.click(when % 200 == 0 ? 1 : 2);
         play.backend.wait(when);
         play.backend.closeBox();
         EXPECT_EQ(play.show(), "L");
-        EXPECT_LE(play.backend.now, 40 + when + 40) << "at once, not at the end of the wait";
+        EXPECT_LT(play.backend.now, 20 + when + 16) << "at once, not at the end of the wait";
     }
 }
 
