@@ -63,8 +63,8 @@ void sayYears(Text& text) {
         const bool number = std::all_of(year.begin(), year.end(), isDigit) && standsAlone(text, at, yearLength);
         const bool decimal = at > 0 && (text[at - 1] == ',' || text[at - 1] == '.');
         if (!number || decimal || year[0] != '1' || year[1] == '0') continue;
-        const Text rest = year.substr(2) == "00" ? "" : year[2] == '0' ? year.substr(3) : year.substr(2);
-        text.replace(at, yearLength, year.substr(0, 2) + "hundert " + rest);
+        const Text rest = year.substr(year[2] == '0' ? 3 : 2);
+        text.replace(at, yearLength, year.substr(0, 2) + (rest == "0" ? "hundert" : "hundert " + rest));
     }
 }
 
