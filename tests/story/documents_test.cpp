@@ -51,4 +51,17 @@ TEST(Documents, TheReferenceIsWhatTheProgramPrints) {
     EXPECT_EQ(document("opcodes.md"), referencePage());
 }
 
+TEST(Documents, TheDemoShowsEveryCommand) {
+    Findings findings;
+    SourceFiles files;
+    std::vector<std::filesystem::path> sources;
+    for (const auto& entry : std::filesystem::directory_iterator(DEMO))
+        if (entry.path().extension() == ".story") sources.push_back(entry.path());
+    const Story story = parseSources(sources, files, findings);
+    std::set<std::int32_t> used;
+    for (const ScriptView& view : scriptsOf(story))
+        used.insert(view.script.Befehl.begin(), view.script.Befehl.end());
+    for (const Opcode& opcode : opcodes()) EXPECT_TRUE(used.contains(opcode.number)) << toUtf8(opcode.name);
+}
+
 }  // namespace zentrox::story::test

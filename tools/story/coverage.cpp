@@ -66,6 +66,7 @@ Coverage::Coverage(const Story& story) : story_(story) {
     for (const auto& [key, script] : scripts_)
         for (std::size_t i = 0; i < lengthOf(script.view.script); ++i) {
             const Place& place = script.view.places.commands[i].command;
+            commands_[script.view.script.Befehl[i]] = false;
             if (!holdsBlockTogether(script.view.script.Befehl[i])) lines_[{place.file, place.line}] = false;
         }
 }
@@ -94,7 +95,7 @@ void Coverage::take(Script& script, const std::vector<bool>& ran) {
     script.begun = true;
     for (std::size_t i = 0; i < ran.size(); ++i) {
         if (!ran[i]) continue;
-        commands_.insert(script.view.script.Befehl[i]);
+        commands_[script.view.script.Befehl[i]] = true;
         const Place& place = script.view.places.commands[i].command;
         const auto line = lines_.find({place.file, place.line});
         if (line != lines_.end()) line->second = true;
@@ -149,8 +150,9 @@ std::string Coverage::missingLines(SourceFiles& files) const {
 
 std::string Coverage::missingCommands() const {
     std::string names;
-    for (const Opcode& opcode : opcodes())
-        if (!commands_.contains(opcode.number)) names += " " + toUtf8(opcode.name);
+    for (const auto& [number, ran] : commands_)
+        if (const Opcode* const opcode = findOpcode(number); !ran && opcode != nullptr)
+            names += " " + toUtf8(opcode->name);
     return names.empty() ? "" : "Befehle, die nirgends gelaufen sind:" + names + "\n";
 }
 

@@ -3,7 +3,6 @@
 
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -47,7 +46,7 @@ private:
     std::multimap<std::pair<Text, std::string>, Script> scripts_;
     // By file and line: whether it has run. Lines that only hold a block together do not count.
     std::map<std::pair<int, int>, bool> lines_;
-    std::set<std::int32_t> commands_;  // that have run
+    std::map<std::int32_t, bool> commands_;  // those of the story: whether they have run
 };
 
 }  // namespace zentrox::story
