@@ -43,7 +43,8 @@ const TempDirectory& story() {
     static const TempDirectory directory;
     static const bool made = [] {
         for (int room = 0; room < rooms; ++room) {
-            std::string source = "Raum \"Raum" + std::to_string(room) + ".lsd\"\n    Bild \"bild.jpg\"\n";
+            std::string source = "Raum \"Raum" + std::to_string(room) +
+                                 ".lsd\"\n    Bild \"bild.jpg\"\n    Start\n        NimmGegenstand \"ring.bmp\"\n";
             for (int index = 0; index < objects; ++index) source += object(room, index);
             directory.write("story/raum" + std::to_string(room) + ".story", source);
         }

@@ -54,9 +54,12 @@ void expectTheSameOfData(const std::string& source, const DataFiles* data = null
     EXPECT_EQ(codesOf(checked(compiled, findings, data)), codesOf(checked(story, {}, data))) << source;
 }
 
-// Lines 1 to 3 stand before what a script holds, which begins in line 4.
+// Lines 1 to 3 stand before what a script holds, which begins in line 4. There are two items to be dropped.
 std::string inScript(const std::string& lines) {
-    return "Raum \"a.lsd\"\n Objekt \"Tür\"\n  Ablegen\n" + lines + "\n";
+    std::string items;
+    for (const char* name : {"X.bmp", "Y.bmp"})
+        items += std::string("NimmGegenstand ") + name + "\nGibGegenstand " + name + "\n";
+    return "Raum \"a.lsd\"\n Objekt \"Tür\"\n  Ablegen\n" + lines + "\nLinks\n" + items;
 }
 
 struct Case {
@@ -208,16 +211,26 @@ TEST(FindingsOf, WaysThroughAScript) {
 
 // Only what is dropped is an item for a room.
 TEST(FindingsOf, ConditionsThatAreNeverTrue) {
-    const std::string condition = "WennParameter X\nText \"a\"\nSonst\nText \"b\"\nEndeWenn";
+    const std::string condition = "WennParameter X\nText \"a\"\nSonst\nText \"b\"\nEndeWenn\nNimmGegenstand x.bmp";
     expectAll(
         {
             {"Raum a.lsd\nStart\n" + condition, {"4:1 unerreichbar"}},
             {"Raum a.lsd\nCountdown\n" + condition, {"4:1 unerreichbar"}},
             {"Raum a.lsd\nObjekt x\nRechts\n" + condition + "\nLinks\n" + condition + "\nAblegen\n" + condition,
-             {"5:1 unerreichbar", "11:1 unerreichbar"}},
+             {"5:1 unerreichbar", "12:1 unerreichbar"}},
             {"Gegenstand x.bmp\nLinks\n" + condition + "\nAblegen\n" + condition, {}},
         },
         false);
+}
+
+TEST(FindingsOf, ItemsThatNobodyTakes) {
+    expectAll(
+        {
+            {"WennParameter RING\nText \"a\"\nEndeWenn", {"4:15 gegenstand-nie-genommen"}},
+            {"WennParameter \" x \"\nText \"a\"\nEndeWenn", {}},
+            {"WennParameter RING\nText \"a\"\nEndeWenn\nNimmGegenstand \"alt\\ring.jpg\"", {}},
+        },
+        true);
 }
 
 TEST(FindingsOf, SavingWhileTheCountDownRuns) {

@@ -20,7 +20,9 @@ void check(const Story& story, const Surroundings& around, Findings& findings) {
     }
     if (around.data) checkFiles(story, around, findings);
     checkItems(story, around.rest, findings);
-    if (wholeStory) checkFlags(story, around.rest, findings);
+    if (!wholeStory) return;
+    checkFlags(story, around.rest, findings);
+    checkDropped(story, around.rest, findings);
 }
 
 }  // namespace zentrox::story

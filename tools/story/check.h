@@ -39,8 +39,9 @@ void checkRun(const ScriptView& view, Findings& findings);
 void checkTexts(const ScriptView& view, Fonts* fonts, Findings& findings);
 // Files that are named and not there.
 void checkFiles(const Story& story, const Surroundings& around, Findings& findings);
-// Flags, and the number of items.
+// Flags, items that are tested for, and the number of items.
 void checkFlags(const Story& story, const Story* rest, Findings& findings);
+void checkDropped(const Story& story, const Story* rest, Findings& findings);
 void checkItems(const Story& story, const Story* rest, Findings& findings);
 
 }  // namespace zentrox::story

@@ -1,6 +1,8 @@
-// What only the whole story shows: flags that nobody sets or tests, and more items than the inventory holds.
+// What only the whole story shows: flags that nobody sets or tests, items that nobody takes, and more of them than
+// the inventory holds.
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "engine/interpreter/opcodes.h"
 #include "engine/state/felder.h"
@@ -86,7 +88,33 @@ void noteItems(const Story& story, bool checked, std::map<Text, ItemUse>& uses) 
     }
 }
 
+void noteTaken(const Story& story, std::set<Text>& taken) {
+    for (const ScriptView& view : scriptsOf(story))
+        for (std::size_t i = 0; i < view.script.Befehl.size(); ++i)
+            if (view.script.Befehl[i] == opcode::NimmGegenstand)
+                taken.insert(upper(itemName(argumentOf(view.script, i))));
+}
+
 }  // namespace
+
+void checkDropped(const Story& story, const Story* rest, Findings& findings) {
+    std::set<Text> taken;
+    noteTaken(story, taken);
+    if (rest) noteTaken(*rest, taken);
+    const std::vector<Text> names(taken.begin(), taken.end());
+    for (const ScriptView& view : scriptsOf(story)) {
+        if (!view.knowsItem()) continue;  // there the condition is never true for whatever item
+        for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) {
+            if (view.script.Befehl[i] != opcode::WennParameter) continue;
+            const Text name = nameOf(argumentOf(view.script, i));
+            if (name.empty() || taken.contains(name)) continue;
+            const std::string hint = perhaps(name, names);
+            findings.warning(view.places.argument(i), "gegenstand-nie-genommen",
+                             "einen Gegenstand " + shown(name) + " nimmt niemand, diese Bedingung ist nie wahr" +
+                                 (hint.empty() ? "; hier steht der Name seines Bildes ohne Endung" : hint));
+        }
+    }
+}
 
 void checkFlags(const Story& story, const Story* rest, Findings& findings) {
     FlagUses uses;

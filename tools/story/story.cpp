@@ -1,5 +1,9 @@
 #include "tools/story/story.h"
 
+#include <algorithm>
+
+#include "engine/state/felder.h"
+
 namespace zentrox::story {
 
 namespace {
@@ -34,9 +38,13 @@ std::vector<ScriptView> scriptsOf(const Story& story) {
     return views;
 }
 
+Text itemName(TextView picture) {
+    const Text file = Dateiname(picture);
+    return file.substr(0, file.size() - std::min(file.size(), extensionLength));
+}
+
 Text itemScriptFile(TextView picture, std::size_t which) {
-    const TextView base = picture.substr(0, picture.size() - std::min(picture.size(), extensionLength));
-    return Text(base) + std::to_string(which) + ".skp";
+    return itemName(picture) + std::to_string(which) + ".skp";
 }
 
 }  // namespace zentrox::story

@@ -95,6 +95,8 @@ struct ScriptView {
 std::vector<ScriptView> scriptsOf(const Story& story);
 std::vector<ScriptView> scriptsOf(const StoryRoom& room);
 
+// What a script knows an item by: its picture without directory and extension.
+Text itemName(TextView picture);
 // The script file of an item: `which` is 0 for the right button, 1 for the left one, 2 for a dropped item.
 Text itemScriptFile(TextView picture, std::size_t which);
 
