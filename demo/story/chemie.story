@@ -94,7 +94,7 @@ Raum "Chemie.lsd"
                             Springe JAGD
                         Fall "Licht aus und mit dem Kuchenblech klappern."
                             BöseÄndern 1
-                            Ton "platsch.wav"
+                            Ton "klong.wav"
                             Text "KLONG! KLONG! KLONG!"
                             Einbinden "gesicht/ampulla.teil"
                             Ton "ampulla-chemie-09.wav"

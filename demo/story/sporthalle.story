@@ -230,7 +230,7 @@ Raum "Sporthalle.lsd"
                 Fall "Dagegentreten."
                     SetzeMerker COLA
                     BöseÄndern 1
-                    Ton "platsch.wav"
+                    Ton "rumms.wav"
                     Text "RUMMS. Klonk."
                     NimmGegenstand "cola.bmp"
                     Ton "velmix-sporthalle-13.wav"

@@ -55,7 +55,7 @@ List readList(const fs::path& path) {
 
 void writeList(const fs::path& path, const List& list) {
     std::string text;
-    for (const auto& [file, made] : list) text += made + " " + file + "\n";
+    for (const auto& [file, made] : list) text.append(made).append(" ").append(file).append("\n");
     replaceFile(path, text);
 }
 
