@@ -13,20 +13,32 @@ namespace zentrox::story {
 namespace {
 
 struct FileKind {
-    Arg arg;
-    int field;  // 0 for the whole argument
     const char* directory;
     const char* code;
     const char* what;
 };
-constexpr std::array fileKinds{
-    FileKind{Arg::sound, 0, "sounds", "ton-fehlt", "die Tondatei"},
-    FileKind{Arg::picture, 0, "graphics", "bild-fehlt", "das Bild"},
-    FileKind{Arg::item, 0, "items", "gegenstand-fehlt", "das Bild des Gegenstands"},
-    FileKind{Arg::video, 0, "movies", "film-fehlt", "der Film"},
-    FileKind{Arg::objectPointer, 2, "cursors", "zeiger-fehlt", "der Zeiger"},
-    FileKind{Arg::portrait, 2, "graphics", "bild-fehlt", "das Bild"},
-    FileKind{Arg::music, 1, "musics", "musik-fehlt", "die Musik"},
+constexpr FileKind picture{"graphics", "bild-fehlt", "das Bild"};
+constexpr FileKind pointer{"cursors", "zeiger-fehlt", "der Zeiger"};
+constexpr FileKind item{"items", "gegenstand-fehlt", "das Bild des Gegenstands"};
+constexpr FileKind sound{"sounds", "ton-fehlt", "die Tondatei"};
+constexpr FileKind song{"musics", "musik-fehlt", "die Musik"};
+constexpr FileKind video{"movies", "film-fehlt", "der Film"};
+constexpr FileKind otherRoom{"rooms", "raum-fehlt", "der Raum"};
+
+// Where the arguments of commands name files; rooms aside, which are more than files.
+struct NamedFile {
+    Arg arg;
+    int field;  // 0 for the whole argument
+    FileKind kind;
+};
+constexpr std::array namedFiles{
+    NamedFile{Arg::sound, 0, sound},
+    NamedFile{Arg::picture, 0, picture},
+    NamedFile{Arg::item, 0, item},
+    NamedFile{Arg::video, 0, video},
+    NamedFile{Arg::objectPointer, 2, pointer},
+    NamedFile{Arg::portrait, 2, picture},
+    NamedFile{Arg::music, 1, song},
 };
 
 class FileChecker {
@@ -44,52 +56,48 @@ public:
 
     void all() {
         for (const StoryRoom& room : story_.rooms) {
-            need(room.picture, "graphics", room.room.Bild, "bild-fehlt", "das Bild");
+            need(room.picture, picture, room.room.Bild);
             for (std::size_t i = 0; i < room.room.Objekte.size(); ++i)
-                need(room.objects[i].pointer, "cursors", room.room.Objekte[i].Zeiger, "zeiger-fehlt", "der Zeiger");
+                need(room.objects[i].pointer, pointer, room.room.Objekte[i].Zeiger);
         }
-        for (const Story::Item& item : story_.items)
-            need(item.place, "items", item.picture, "gegenstand-fehlt", "das Bild des Gegenstands");
+        for (const Story::Item& named : story_.items) need(named.place, item, named.picture);
         for (const ScriptView& view : scriptsOf(story_))
             for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) instruction(view, i);
     }
 
 private:
-    void missing(Place place, TextView file, const char* directory, const char* code, const char* what,
-                 const std::vector<Text>& present) {
+    void missing(Place place, const FileKind& kind, TextView file, const std::vector<Text>& present) {
         const std::string hint = perhaps(file, present);
-        findings_.warning(place, code,
-                          std::string(what) + " " + shown(file) + " fehlt" +
-                              (hint.empty() ? std::string("; gesucht wird in ") + directory : hint));
+        findings_.warning(place, kind.code,
+                          std::string(kind.what) + " " + shown(file) + " fehlt" +
+                              (hint.empty() ? std::string("; gesucht wird in ") + kind.directory : hint));
     }
 
-    void need(Place place, const char* directory, TextView path, const char* code, const char* what) {
+    void need(Place place, const FileKind& kind, TextView path) {
         const Text file = Dateiname(path);
-        if (!file.empty() && !data_.has(directory, file))
-            missing(place, file, directory, code, what, data_.names(directory));
+        if (!file.empty() && !data_.has(kind.directory, file))
+            missing(place, kind, file, data_.names(kind.directory));
     }
 
     void instruction(const ScriptView& view, std::size_t i) {
         const Opcode* const row = findOpcode(view.script.Befehl[i]);
         if (!row) return;
         const TextView argument = argumentOf(view.script, i);
+        if (row->arg == Arg::room) return needRoom(view.places.argument(i), argument);
+        const auto named = std::find_if(namedFiles.begin(), namedFiles.end(),
+                                        [&](const NamedFile& n) { return n.arg == row->arg; });
+        if (named == namedFiles.end()) return;
+        const Text path = named->field == 0 ? Text(argument) : Trim(Feld(argument, ",", named->field));
+        if (row->arg == Arg::sound && data_.hasSound(path)) return;
         const auto& places = view.places.commands[i].argument;
-        if (row->arg == Arg::room) return room(view.places.argument(i), argument);
-        for (const FileKind& kind : fileKinds) {
-            if (kind.arg != row->arg) continue;
-            const Text field = kind.field == 0 ? Text(argument) : Trim(Feld(argument, ",", kind.field));
-            const bool ownPlace = kind.field == 2 && places.size() > 1;
-            const Place place = ownPlace ? places[1] : view.places.argument(i);
-            if (kind.arg == Arg::sound && data_.hasSound(field)) return;
-            return need(place, kind.directory, field, kind.code, kind.what);
-        }
+        need(named->field == 2 && places.size() > 1 ? places[1] : view.places.argument(i), named->kind, path);
     }
 
-    void room(Place place, TextView path) {
+    void needRoom(Place place, TextView path) {
         Text name = upper(path);
         std::replace(name.begin(), name.end(), '/', '\\');
-        if (Dateiname(path).empty() || rooms_.contains(name) || data_.hasRoom(path)) return;
-        missing(place, path, "rooms", "raum-fehlt", "der Raum", roomNames_);
+        if (!Dateiname(path).empty() && !rooms_.contains(name) && !data_.hasRoom(path))
+            missing(place, otherRoom, path, roomNames_);
     }
 
     const Story& story_;
