@@ -201,10 +201,10 @@ void Memory::KartenWeg(Memoryspiel::Zug zug, Wer wer) {
     const std::array karten{zug.a, zug.b};
     for (const std::int32_t k : karten) nachVorn(k);
     const auto setzen = [&](double p) {
+        const Bitmap klein = verkleinert(gesicht, imFlug({}, {}, p).size());
         for (const std::int32_t k : karten) {
-            const Rect ort = imFlug(platz(k).at(), ziel, p);
-            karte(k).setArea(ort);
-            zeigen(k, verkleinert(gesicht, ort.size()));
+            karte(k).setArea(imFlug(platz(k).at(), ziel, p));
+            zeigen(k, klein);
         }
     };
     Queue& queue = platform().queue;
