@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "tests/support/fake_fonts.h"
 #include "tools/story/check.h"
 #include "tools/story/parser.h"
 #include "tools/story/source.h"
@@ -33,7 +34,9 @@ inline std::string bytesOf(const Story& story) {
 }
 
 inline void lookOver(const Story& story, Findings& findings) {
-    check(story, {}, findings);
+    static const DataFiles nothing("nowhere");
+    static zentrox::test::FakeFonts fonts;
+    check(story, {nullptr, &nothing, &fonts, true}, findings);
     findings.settle(story);
     if (asLines(story, findings).empty() != findings.empty()) std::abort();
     asJson(story, findings);

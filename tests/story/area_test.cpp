@@ -49,11 +49,11 @@ TEST(Area, APictureOfAnySizeIsStretchedOverTheRoom) {
     Bitmap large({1280, 960}, black);
     large.fill({40, 20, 40, 20}, white);
     large.fill({0, 0, 9, 20}, white);  // less than half a cell
-    files.pictures["gross.png"] = large;
+    files.pictures["teile/gross.png"] = large;
     Bitmap small({2, 1}, black);
     small.setPixel({1, 0}, white);
     files.pictures["klein.png"] = small;
-    EXPECT_EQ(areaOf("Maskenbild gross.png", files), maskOf({"", "  ##"}));
+    EXPECT_EQ(areaOf("Maskenbild teile\\gross.png", files), maskOf({"", "  ##"}));
     EXPECT_EQ(areaOf("Maskenbild \"klein.png\"", files), coverOf({{32, 0, 32, 48}}));
 }
 

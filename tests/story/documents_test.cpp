@@ -42,6 +42,9 @@ TEST(Documents, EverySampleCompiles) {
     const auto scripts = samplesOf(text, "skript");
     EXPECT_GT(whole.size(), 4U);
     EXPECT_GT(scripts.size(), 6U);
+    std::size_t fences = 0;
+    for (std::size_t at = 0; (at = text.find("```", at)) != std::string::npos; at += 3) ++fences;
+    EXPECT_EQ(fences, 2 * (whole.size() + scripts.size())) << "a sample of another kind is compiled by nobody";
     for (const std::string& sample : whole) compile(sample);
     for (const std::string& sample : scripts) compile("Raum \"Probe.lsd\"\nObjekt \"Tür\"\nLinks\n" + sample);
     for (const Opcode& opcode : opcodes()) EXPECT_TRUE(used.contains(opcode.number)) << toUtf8(opcode.name);

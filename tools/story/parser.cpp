@@ -62,9 +62,16 @@ private:
         for (const Statement& statement : scan(utf8, file, findings_, story_.silences)) take(statement);
     }
 
+    // A file that the open source names; directories may be told apart as in the game.
+    fs::path besideThis(const Token& name) const {
+        std::string path = toUtf8(name.value);
+        std::replace(path.begin(), path.end(), '\\', '/');
+        return (open_.back().parent_path() / fs::u8path(path)).lexically_normal();
+    }
+
     void include(const Statement& s) {
         if (!oneName(s, findings_)) return;
-        const fs::path path = (open_.back().parent_path() / fs::u8path(toUtf8(s[1].value))).lexically_normal();
+        const fs::path path = besideThis(s[1]);
         const bool circle = std::find(open_.begin(), open_.end(), path) != open_.end();
         if (circle || open_.size() >= deepestInclude || ++includes_ > mostIncludes) {
             findings_.broken(s[1].place, "einbinden",
@@ -327,8 +334,7 @@ private:
 
     void maskPicture(const Statement& s) {
         if (!inObjectHead(s) || !oneName(s, findings_)) return;
-        const fs::path path = open_.back().parent_path() / fs::u8path(toUtf8(s[1].value));
-        takePicture(s, files_.picture(path.lexically_normal()), object_.Maske, findings_);
+        takePicture(s, files_.picture(besideThis(s[1])), object_.Maske, findings_);
     }
 
     void right(const Statement& s) { action(s, 0); }
