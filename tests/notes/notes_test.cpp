@@ -27,6 +27,19 @@ TEST(Notes, PhrasesAreShiftedAndRepeatedWithinEachOther) {
         "0+240 61, 480+240 63, 960+240 73, 1440+240 75, 1920+240 61, 2400+240 63, 2880+240 73, 3360+240 75, ");
 }
 
+TEST(Notes, ATieGoesOverBarLinesAndLoudnessIsAlsoToldByItsChange) {
+    const Song song = readSong("bar 2/4 track a g50 v60 r:1/4 [c4 e4] | ~:1/8 v+20 g4 ~ v-79 c4 |");
+    EXPECT_EQ(played(song.tracks[0]), "480+360 60, 480+360 64, 1200+240 67, 1680+120 60, ");
+    EXPECT_EQ(song.tracks[0].notes[2].velocity, 80);
+    EXPECT_EQ(song.tracks[0].notes[3].velocity, 1);
+}
+
+TEST(Notes, TheSongsVolumeIsAPartOfEachTracks) {
+    const std::string file = midiFile(readSong("volume 50 track a volume 90 c4 track drums volume 41 kick"));
+    EXPECT_NE(file.find("\xB0\x07\x2D"), std::string::npos);
+    EXPECT_NE(file.find("\xB9\x07\x14"), std::string::npos);
+}
+
 TEST(Notes, DrumsHaveNamesAndAreNotShifted) {
     const Song song = readSong("let Beat ( kick:1/8 [hat snare] ) track drums Beat Beat+5");
     EXPECT_TRUE(song.tracks[0].drums);
@@ -61,6 +74,9 @@ TEST(Notes, MistakesAreToldWithTheirLine) {
         {"track a\n[c4 d4", 2, "nicht geschlossen"},
         {"track a ( c4 )*0", 1, "*2 bis *1000"},
         {"track a v200", 1, "bis 127"},
+        {"track a v60 c4\nv-60", 2, "bis 127"},
+        {"track a c4 r\n~:1/4", 2, "keine Note"},
+        {"volume 101", 1, "von 1 bis 100"},
         {"track a\nprogram 128", 2, "von 0 bis 127"},
         {"let A ( B ) let B ( A )\ntrack a\nA", 1, "sich selbst"},
         {"let A c4", 1, "Klammer"},

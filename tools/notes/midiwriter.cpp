@@ -84,7 +84,7 @@ std::vector<Event> eventsOf(const Track& track) {
     return events;
 }
 
-std::string track(const Track& track, int channel) {
+std::string track(const Track& track, int channel, int volume) {
     std::string out;
     variable(out, 0);
     meta(out, 0x03, track.name);
@@ -92,7 +92,7 @@ std::string track(const Track& track, int channel) {
     out += static_cast<char>(0xC0 | channel);
     out += static_cast<char>(track.program);
     for (const auto& [controller, value] :
-         {std::pair(volumeController, track.volume), {panController, track.pan}}) {
+         {std::pair(volumeController, track.volume * volume / 100), {panController, track.pan}}) {
         variable(out, 0);
         message(out, 0xB0 | channel, controller, value);
     }
@@ -118,7 +118,7 @@ std::string midiFile(const Song& song) {
     int channel = 0;
     for (const Track& t : song.tracks) {
         if (channel == drumChannel) ++channel;
-        out += track(t, t.drums ? drumChannel : channel++);
+        out += track(t, t.drums ? drumChannel : channel++, song.volume);
     }
     return out;
 }

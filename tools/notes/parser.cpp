@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <charconv>
 #include <map>
 #include <optional>
@@ -12,6 +13,7 @@ namespace {
 constexpr std::size_t mostNotes = 200'000;
 constexpr int mostTracks = 15;
 constexpr int highestKey = 127;
+constexpr int loudest = 127;
 constexpr int deepest = 32;  // phrases within phrases
 
 const std::map<std::string_view, int> drumKeys{{"kick", 36},  {"stick", 37}, {"snare", 38}, {"clap", 39},
@@ -88,6 +90,13 @@ std::optional<int> keyOf(std::string_view text) {
     return key + 12 * (*octave + 1);
 }
 
+// "v90", "v+10", "g50".
+bool isSetting(std::string_view text) {
+    if (text.size() < 2 || (text[0] != 'v' && text[0] != 'g')) return false;
+    const bool change = text[0] == 'v' && (text[1] == '+' || text[1] == '-');
+    return number(text.substr(change && text[1] == '+' ? 2 : 1)).has_value() && (change || text[1] != '-');
+}
+
 class Reader {
 public:
     explicit Reader(std::string_view text) : tokens_(tokensOf(text)) {}
@@ -127,6 +136,8 @@ private:
             song_.tempo = numberNext(20, 400);
         } else if (word("bar")) {
             bar();
+        } else if (song_.tracks.empty() && word("volume")) {
+            song_.volume = numberNext(1, 100);
         } else if (word("track")) {
             track();
         } else if (word("let")) {
@@ -168,6 +179,7 @@ private:
         }
         song_.tracks.push_back(t);
         length_ = ticksPerQuarter;
+        tied_ = 0;
         velocity_ = 100;
         gate_ = 90;
         barStart_ = 0;
@@ -207,14 +219,24 @@ private:
         if (text == "(") return repeat();
         if (text == "[") return chord();
         if (text == "|") return barLine();
-        if (text.size() > 1 && (text[0] == 'v' || text[0] == 'g') &&
-            text.find_first_not_of("0123456789", 1) == std::string_view::npos && takeSetting(text))
-            return;
+        if (text == "~" || text.starts_with("~:")) return tie();
+        if (isSetting(text) && takeSetting(text)) return;
         if (phrase(text)) return;
         const std::string_view name = timed(text);
+        tied_ = 0;
         if (name != "r") play(keyOrFail(name));
+        song_.tracks.back().end += length_;
+        ++at_;
+    }
+
+    // "~:1/4": what sounded last goes on for so long, over a bar line too.
+    void tie() {
+        if (tied_ == 0) fail("vor ~ steht keine Note, die weiterklingen kann");
+        timed(tokens_[at_].text);
         Track& t = song_.tracks.back();
         t.end += length_;
+        for (auto n = t.notes.end() - tied_; n != t.notes.end(); ++n)
+            n->length = std::max<std::int64_t>((t.end - n->start) * gate_ / 100, 1);
         ++at_;
     }
 
@@ -230,14 +252,16 @@ private:
         ++at_;
     }
 
-    // "v90", how loud from 1 to 127; "g50", how much of its time a note sounds, in hundredths.
+    // "v90", how loud from 1 to 127, "v+10", so much louder; "g50", how much of its time a note sounds, in
+    // hundredths.
     bool takeSetting(std::string_view text) {
         // "g4" is a note; a gate below ten hundredths is none.
         if (text[0] == 'g' && text.size() < 3) return false;
-        const auto value = number(text.substr(1));
-        const int high = text[0] == 'v' ? 127 : 100;
-        if (!value || *value < 1 || *value > high) fail(quoted() + " geht nur bis " + std::to_string(high));
-        (text[0] == 'v' ? velocity_ : gate_) = *value;
+        const int high = text[0] == 'v' ? loudest : 100;
+        const bool change = text[1] == '+' || text[1] == '-';
+        const int value = number(text.substr(1)).value_or(0) + (change ? velocity_ : 0);
+        if (value < 1 || value > high) fail(quoted() + " führt aus 1 bis " + std::to_string(high) + " hinaus");
+        (text[0] == 'v' ? velocity_ : gate_) = value;
         ++at_;
         return true;
     }
@@ -279,6 +303,7 @@ private:
     void play(int key) {
         Track& t = song_.tracks.back();
         if (t.notes.size() == mostNotes) fail("das Lied ist zu lang");
+        ++tied_;
         t.notes.push_back({t.end, std::max<std::int64_t>(length_ * gate_ / 100, 1), key, velocity_});
     }
 
@@ -288,6 +313,7 @@ private:
             keys.push_back(keyOrFail(tokens_[at_].text));
         if (at_ == tokens_.size()) fail("dieser Akkord wird nicht geschlossen");
         timed(tokens_[at_].text);
+        tied_ = 0;
         for (const int key : keys) play(key);
         song_.tracks.back().end += length_;
         ++at_;
@@ -308,6 +334,7 @@ private:
     std::map<std::string, Range> phrases_;
     std::int64_t length_ = ticksPerQuarter;
     std::int64_t barStart_ = 0;
+    int tied_ = 0;  // the notes at the end of the track that a tie makes longer
     int velocity_ = 100;
     int gate_ = 90;
     int shift_ = 0;

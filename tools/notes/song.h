@@ -31,6 +31,7 @@ struct Track {
 
 struct Song {
     double tempo = 120;  // quarters a minute
+    int volume = 100;    // of all tracks, hundredths
     int barTicks = ticksPerWhole;
     int barQuarters = 4;  // as the time signature says: that many of `barUnit`
     int barUnit = 4;
