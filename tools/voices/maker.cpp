@@ -121,7 +121,7 @@ public:
         const unsigned count = std::max(1U, std::thread::hardware_concurrency());
         for (unsigned i = 0; i < count; ++i)
             threads.emplace_back([&] {
-                for (std::size_t line = 0; (line = next_++) < lines_.size();) one(*lines_[line], made);
+                for (std::size_t line = 0; (line = next_++) < lines_.size() && !stopped_;) one(*lines_[line], made);
             });
         for (std::thread& thread : threads) thread.join();
     }
@@ -137,6 +137,7 @@ private:
             std::error_code ignored;
             fs::remove(unfinished, ignored);
             const std::lock_guard guard(mutex_);
+            stopped_ = true;
             made.failed.push_back(file + ": " + error.what());
             return;
         }
@@ -152,7 +153,8 @@ private:
     const Speaker& speak_;
     std::ofstream list_;
     std::atomic<std::size_t> next_ = 0;
-    std::mutex mutex_;  // guards the list and what has been made
+    std::atomic<bool> stopped_ = false;  // what fails once mostly fails each time
+    std::mutex mutex_;                   // guards the list and what has been made
 };
 
 }  // namespace

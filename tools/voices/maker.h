@@ -11,7 +11,7 @@ namespace zentrox::voices {
 struct Made {
     std::vector<std::string> written;  // names of files, in no order
     std::vector<std::string> removed;
-    std::vector<std::string> failed;  // name and reason
+    std::vector<std::string> failed;  // name and reason; the rest then waits for the next time
 };
 
 // Speaks one line into the file at `target`, with `work` for what lies between.
