@@ -79,7 +79,7 @@ Bitmap verkleinert(const Bitmap& bild, Size größe) {
 }
 
 Memory::Memory(Platform& platform, Zustand& zustand, Memorybilder bilder)
-    : Window(platform, "Memory", "Memory", fensterfläche, Frame::dialog),
+    : Window(platform, "Memory", "Memory", fensterfläche, Frame::fixed),
       z_(zustand),
       bilder_(std::move(bilder)),
       Label1{{{&root(), {0, 416, 41, 17}, "Velmar:"}, {&root(), {0, 440, 41, 17}, "Tirsa:"}}},
@@ -90,9 +90,9 @@ Memory::Memory(Platform& platform, Zustand& zustand, Memorybilder bilder)
 
 // A control made anew is the topmost one.
 void Memory::karteAnlegen(std::int32_t position) {
-    Image& bild = Image1[static_cast<std::size_t>(position)].emplace(&root(), platz(position), true);
-    bild.setPicture(bilder_.rücken);
-    bild.onClick = [this, position] { Klick = position; };
+    Image1[static_cast<std::size_t>(position)].emplace(&root(), platz(position), true);
+    karte(position).setPicture(bilder_.rücken);
+    karte(position).onClick = [this, position] { Klick = position; };
 }
 
 bool Memory::onQueryClose() {

@@ -36,7 +36,7 @@ constexpr Milliseconds schlussZeit = 10'000;
 }  // namespace
 
 PISpiel::PISpiel(Platform& platform, Zustand& zustand, Medien& medien, Text zeichen)
-    : Window(platform, "PISpiel", "PI-Spiel", fläche, Frame::dialog),
+    : Window(platform, "PISpiel", "PI-Spiel", fläche, Frame::fixed),
       z_(zustand),
       medien_(medien),
       zeichen_(std::move(zeichen)),
