@@ -41,6 +41,8 @@ constexpr std::array namedFiles{
     NamedFile{Arg::music, 1, song},
 };
 
+constexpr int mostHints = 500;  // who lacks more files than these has not misspelled them
+
 class FileChecker {
 public:
     FileChecker(const Story& story, const Surroundings& around, Findings& findings)
@@ -67,7 +69,7 @@ public:
 
 private:
     void missing(Place place, const FileKind& kind, TextView file, const std::vector<Text>& present) {
-        const std::string hint = perhaps(file, present);
+        const std::string hint = hints_++ < mostHints ? perhaps(file, present) : "";
         findings_.warning(place, kind.code,
                           std::string(kind.what) + " " + shown(file) + " fehlt" +
                               (hint.empty() ? std::string("; gesucht wird in ") + kind.directory : hint));
@@ -105,6 +107,7 @@ private:
     Findings& findings_;
     std::set<Text> rooms_;  // in upper case
     std::vector<Text> roomNames_;
+    int hints_ = 0;
 };
 
 }  // namespace
