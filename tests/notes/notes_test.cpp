@@ -75,6 +75,7 @@ TEST(Notes, MistakesAreToldWithTheirLine) {
         {"track a ( c4 )*0", 1, "*2 bis *1000"},
         {"track a v200", 1, "bis 127"},
         {"track a v60 c4\nv-60", 2, "bis 127"},
+        {"track a v+2147483647", 1, "bis 127"},
         {"track a c4 r\n~:1/4", 2, "keine Note"},
         {"volume 101", 1, "von 1 bis 100"},
         {"track a\nprogram 128", 2, "von 0 bis 127"},

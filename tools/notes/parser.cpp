@@ -94,7 +94,7 @@ std::optional<int> keyOf(std::string_view text) {
 bool isSetting(std::string_view text) {
     if (text.size() < 2 || (text[0] != 'v' && text[0] != 'g')) return false;
     const bool change = text[0] == 'v' && (text[1] == '+' || text[1] == '-');
-    return number(text.substr(change && text[1] == '+' ? 2 : 1)).has_value() && (change || text[1] != '-');
+    return number(text.substr(1)).has_value() && (change || text[1] != '-');
 }
 
 class Reader {
@@ -259,9 +259,9 @@ private:
         if (text[0] == 'g' && text.size() < 3) return false;
         const int high = text[0] == 'v' ? loudest : 100;
         const bool change = text[1] == '+' || text[1] == '-';
-        const int value = number(text.substr(1)).value_or(0) + (change ? velocity_ : 0);
+        const std::int64_t value = std::int64_t{number(text.substr(1)).value_or(0)} + (change ? velocity_ : 0);
         if (value < 1 || value > high) fail(quoted() + " führt aus 1 bis " + std::to_string(high) + " hinaus");
-        (text[0] == 'v' ? velocity_ : gate_) = value;
+        (text[0] == 'v' ? velocity_ : gate_) = static_cast<int>(value);
         ++at_;
         return true;
     }
