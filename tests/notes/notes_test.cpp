@@ -69,6 +69,7 @@ TEST(Notes, MistakesAreToldWithTheirLine) {
         {"track a\n\nkick", 3, "keine Note"},
         {"track a c4:1/7", 1, "Bruch"},
         {"track a c4:1/0", 1, "Bruch"},
+        {"track a c4:1/2000000000", 1, "Bruch"},
         {"track a\nc4 | ", 2, "4/16 und nicht 16"},
         {"track a\n( c4 d4", 2, "nicht geschlossen"},
         {"track a\n[c4 d4", 2, "nicht geschlossen"},

@@ -72,8 +72,9 @@ std::optional<std::int64_t> duration(std::string_view text) {
     const auto under = slash == std::string_view::npos ? std::optional(1) : number(text.substr(slash + 1));
     if (!over || !under || *over < 1 || *under < 1 || *over > 1000) return std::nullopt;
     const std::int64_t ticks = std::int64_t{ticksPerWhole} * *over * (dotted ? 3 : 2);
-    if (ticks % (2 * *under) != 0) return std::nullopt;
-    return ticks / (2 * *under);
+    const std::int64_t parts = std::int64_t{2} * *under;
+    if (ticks % parts != 0) return std::nullopt;
+    return ticks / parts;
 }
 
 // "c4", "f#3", "bb5".
