@@ -54,10 +54,13 @@ std::uint32_t mittel(const Bitmap& bild, const Rect& teil) {
 }
 
 Memorybilder laden(const Files& files, const Text& pfad) {
+    const auto karte = [&](TextView datei) {
+        return verkleinert(loadPicture(files, pfad + Text(datei)), {kartenSeite, kartenSeite});
+    };
     Memorybilder bilder;
-    bilder.rücken = loadPicture(files, pfad + "m9.jpg");
+    bilder.rücken = karte("m9.jpg");
     for (std::size_t i = 0; i < bilder.gesichter.size(); ++i)
-        bilder.gesichter[i] = loadPicture(files, pfad + "m" + std::to_string(i + 1) + ".jpg");
+        bilder.gesichter[i] = karte("m" + std::to_string(i + 1) + ".jpg");
     return bilder;
 }
 
