@@ -300,6 +300,7 @@ Gegenstand "minze.bmp"
             GibGegenstand "minze.bmp"
             NimmGegenstand "mischung.bmp"
             Ton "blubber.wav"
+            Text "Zisch. Blubber."
             Ton "velmix-chemie-29.wav"
             Text "Es schäumt. Es schäumt sehr. Jetzt müsste man es nur noch erhitzen."
         Sonst

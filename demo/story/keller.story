@@ -117,6 +117,7 @@ Raum "Keller.lsd"
                     SetzeMerker PI_FERTIG
                     SetzeZeiger "Stahltür" "tuer1.ico"
                     Ton "schloss.wav"
+                    Text "Klack. Klack. Klack."
                     Ton "velmix-keller-12.wav"
                     Text "Drei, Komma, eins, vier und so weiter, abgelesen bis zur vierzigsten."
                          "Offen. Archimedes dreht sich im Kreis."

@@ -394,6 +394,7 @@ Gegenstand "cola.bmp"
             GibGegenstand "minze.bmp"
             NimmGegenstand "mischung.bmp"
             Ton "blubber.wav"
+            Text "Zisch. Blubber."
             Ton "velmix-sporthalle-34.wav"
             Text "Es schäumt. Es schäumt sehr. Jetzt müsste man es nur noch erhitzen."
         Sonst

@@ -159,8 +159,9 @@ Raum "Start.lsd"
                 Text "Jetzt klemmt nichts mehr. Schade, es klang so modern."
             Sonst
                 SetzeMerker MÜNZE
-                Ton "muenze.wav"
                 NimmGegenstand "muenze.bmp"
+                Ton "muenze.wav"
+                Text "Kling, kling, kuller."
                 Ton "velmix-start-16.wav"
                 Text "Unter dem hohen C steckte eine Münze! Die nehme ich als Gage."
             EndeWenn
