@@ -100,6 +100,9 @@ TEST(Voices, APairThatIsNotOneIsTold) {
     EXPECT_EQ(read("Ton \"anna-01.wav\"\nText \"Ich.\"").findings, "2 stimme-farbe\n");
     EXPECT_EQ(read("Ton \"karl-01.wav\"\nText \"Ich.\"\nTon \"karl-01.mp3\"\nText \"Du.\"").findings,
               "3 stimme-doppelt\n");
+    EXPECT_EQ(read("Ton \"klick.wav\"\nSetzeMerker X\nTon \"klack.wav\"\nText \"Klack.\"").findings,
+              "1 ton-verstummt\n");
+    EXPECT_EQ(read("Ton \"klick.wav\"\nZeigBild x.jpg\nTon \"klack.wav\"").findings, "");
     EXPECT_EQ(read("Ton \"anna-01.wav\"").findings, "1 ton-ohne-text\n");
 }
 

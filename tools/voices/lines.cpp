@@ -1,5 +1,8 @@
 #include "tools/voices/lines.h"
 
+#include <algorithm>
+#include <array>
+
 #include "engine/interpreter/opcodes.h"
 #include "tools/voices/spoken.h"
 
@@ -52,7 +55,21 @@ private:
         return view.places.argument(static_cast<std::size_t>(index));
     }
 
+    // True if another sound begins before anything takes time.
+    bool cutOff(const story::ScriptView& view, int index) const {
+        const auto takesNoTime = [&](int next) {
+            return std::any_of(quick_.begin(), quick_.end(),
+                               [&](std::int32_t command) { return is(view, next, command); });
+        };
+        do ++index;
+        while (takesNoTime(index));
+        return is(view, index, ton_);
+    }
+
     void lookAtTon(const story::ScriptView& view, int index) {
+        if (cutOff(view, index))
+            findings_.error(placeOf(view, index), "ton-verstummt",
+                            "Der nächste „Ton“ folgt sofort; von diesem ist nichts zu hören.");
         const std::string person = personOf(argument(view, index));
         if (person.empty()) return;
         const auto voice = table_.voices.find(person);
@@ -90,6 +107,9 @@ private:
     const std::int32_t ton_ = findOpcode("Ton")->number;
     const std::int32_t text_ = findOpcode("Text")->number;
     const std::int32_t portrait_ = findOpcode("Portrait")->number;
+    const std::array<std::int32_t, 7> quick_{opcode::SetzeMerker,   opcode::LöscheMerker, opcode::NimmGegenstand,
+                                             opcode::GibGegenstand, opcode::BöseÄndern,   opcode::CountDownSetzen,
+                                             opcode::Marke};
 };
 
 }  // namespace
