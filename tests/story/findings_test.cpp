@@ -354,6 +354,8 @@ TEST(FindingsOf, WhatIsMeantPerhaps) {
              {"Gehe X", "ist kein Befehl; alle Befehle zeigt"},
              {"# Kommentar", "; ein Kommentar beginnt mit //\n"},
              {"ObjektAn Tur", "; dieser Raum hat \"Tür\""},
+             {"ObjektAn rote Tür", "hier steht zu viel; mit Leerzeichen steht es in Anführungszeichen\n"},
+             {"CountDownSetzen 0,5", "; Brüche schreibt man mit einem Punkt\n"},
              {"Spiel PONK A", "; gemeint ist vielleicht \"PONG\"\n"},
              {"Springe obn\nMarke OBEN", "; gemeint ist vielleicht \"OBEN\"\n"},
              {"ZeigBild flur.jpg", "; gemeint ist vielleicht \"flur.png\"\n"},

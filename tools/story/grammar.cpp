@@ -89,7 +89,10 @@ bool rightCount(const Opcode& opcode, Place command, std::span<const Token> word
                           (words.empty()               ? "nichts"
                            : words.size() < form.least ? "zu wenig"
                                                        : "zu viel");
-    if (isNumeric(opcode.arg) && words.size() == 2) message += "; Brüche schreibt man mit einem Punkt";
+    if (isNumeric(opcode.arg) && words.size() == 2)
+        message += "; Brüche schreibt man mit einem Punkt";
+    else if (form.most == 1 && words.size() > 1)
+        message += "; mit Leerzeichen steht es in Anführungszeichen";
     findings.broken(place, "argument", message);
     return false;
 }
