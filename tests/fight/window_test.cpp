@@ -129,6 +129,10 @@ TEST(FightWindow, HidesThePotionFromWhoHasNone) {
     }
 }
 
+constexpr Milliseconds ringsTake = 41 * Milliseconds{15};
+constexpr Milliseconds beamTakes = 34 * Milliseconds{10};
+constexpr Milliseconds flickerTakes = 10 * Milliseconds{100};
+
 // The whole course of a fight by the rules, in milliseconds from the click on.
 Milliseconds length(std::uint64_t seed, bool& won) {
     Random random(seed);
@@ -142,9 +146,9 @@ Milliseconds length(std::uint64_t seed, bool& won) {
                     while (energy.Nachzählen()) all += 20;
                     break;
                 }
-                case Schritt::Art::ringe: all += 41 * 15; break;
-                case Schritt::Art::strahl: all += 34 * 10; break;
-                case Schritt::Art::flackern: all += 10 * 100; break;
+                case Schritt::Art::ringe: all += ringsTake; break;
+                case Schritt::Art::strahl: all += beamTakes; break;
+                case Schritt::Art::flackern: all += flickerTakes; break;
                 default: break;
             }
     won = kampf.Gewonnen();

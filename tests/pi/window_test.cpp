@@ -10,7 +10,8 @@
 namespace zentrox::test {
 namespace {
 
-constexpr Milliseconds intro = 16 + 500 + 3 * 91 * 16;  // the first character is shown then
+constexpr Milliseconds circle = 91 * Milliseconds{16};
+constexpr Milliseconds intro = 16 + 500 + 3 * circle;  // the first character is shown then
 
 struct Play : Stage {
     Zustand z;
@@ -61,9 +62,9 @@ TEST(PiWindow, OpensWithItsThreeScreens) {
         EXPECT_EQ(play.window().compose().pixel({184 + 100, 136 + 3}), 0x00FF00) << "and goes to the right";
         EXPECT_EQ(play.window().compose().pixel({184 - 100, 136 + 3}), 0);
     });
-    play.backend.wait(91 * 16);
+    play.backend.wait(circle);
     play.backend.then([&] { EXPECT_TRUE(play.shows("Ready")); });
-    play.backend.wait(91 * 16);
+    play.backend.wait(circle);
     play.backend.then([&] { EXPECT_TRUE(play.shows("GO!")); });
     play.backend.closeBox();
     EXPECT_FALSE(play.show());
@@ -84,7 +85,8 @@ TEST(PiWindow, IsLostAt39AndWonAt40) {
             EXPECT_EQ(play.sound.notes.back(), "effect " + play.z.PfadGames + "JINGLE.WAV");
         });
         EXPECT_EQ(play.show(), right >= 39) << right;
-        EXPECT_NEAR(static_cast<double>(play.backend.now), static_cast<double>(intro + 1 + right * 40 + 10'010), 2)
+        EXPECT_NEAR(static_cast<double>(play.backend.now),
+                    static_cast<double>(intro + 1 + right * Milliseconds{40} + 10'010), 2)
             << "it ends by itself";
     }
 }

@@ -40,7 +40,7 @@ TEST(QuizFile, EndsItsLinesAsAnySystemDoes) {
     const Text line = "Malta#Valletta,Sliema,Mdina,Rom";
     for (const TextView between : {"\r\n", "\n", "\r", "\n\n; ein Kommentar\n"})
         for (const TextView last : {"", "\r\n"})
-            EXPECT_EQ(FragenLesen(line + Text(between) + line + Text(last)), two);
+            EXPECT_EQ(FragenLesen(Text(line).append(between).append(line).append(last)), two);
     EXPECT_TRUE(FragenLesen("").empty());
     EXPECT_TRUE(FragenLesen("\r\n\r\nnichts\r\n").empty());
 }
