@@ -35,6 +35,8 @@ struct Speaker {
     TempDirectory directory;
     Environment driver{"SDL_AUDIODRIVER", "disk"};
     Environment file{"SDL_DISKAUDIOFILE", (directory.path() / "heard.raw").string()};
+    // Of the fonts that may be there the one with steady organs: others have a tremolo that measures like a pause.
+    Environment font{"SDL_SOUNDFONTS", "/usr/share/sounds/sf2/TimGM6mb.sf2"};
     std::unique_ptr<SoundDevice> device = desktopSound(directory.path());
 
     // The left samples of all that has been heard; closes the output.
