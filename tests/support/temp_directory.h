@@ -29,7 +29,7 @@ public:
     const std::filesystem::path& path() const { return path_; }
     // Writes a file; the directories on its way are made. `name` has forward slashes and is UTF-8.
     std::filesystem::path write(std::string_view name, std::string_view bytes) const {
-        const std::filesystem::path file = path_ / std::filesystem::path(name);
+        std::filesystem::path file = path_ / std::filesystem::path(name);
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         return file;

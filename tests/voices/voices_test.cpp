@@ -4,6 +4,7 @@
 #include <cmath>
 #include <fstream>
 
+#include "tests/support/temp_directory.h"
 #include "tools/story/parser.h"
 #include "tools/voices/level.h"
 #include "tools/voices/maker.h"
@@ -139,9 +140,6 @@ TEST(Voices, LoudnessDoesNotCountPausesAndPeaksStayBelowFullScale) {
 // A directory of the test's own, and a speaker that writes the words down.
 class VoicesMade : public testing::Test {
 protected:
-    VoicesMade() { fs::remove_all(place); }
-    ~VoicesMade() override { fs::remove_all(place); }
-
     Made make() {
         return makeLines(lines, table, place / "sounds", place / "work",
                          [&](const SpokenLine& line, const fs::path& target, const fs::path&) {
@@ -160,7 +158,8 @@ protected:
             std::distance(fs::directory_iterator(place / "sounds"), fs::directory_iterator()));
     }
 
-    fs::path place = fs::path(testing::TempDir()) / "voices";
+    const zentrox::test::TempDirectory directory;
+    const fs::path& place = directory.path();
     Table table = readTable(twoPeople);
     std::vector<SpokenLine> lines{{"anna-01", "anna", "$DGuten Tag."}, {"karl-01", "karl", "Die CD."}};
     Text mute;
