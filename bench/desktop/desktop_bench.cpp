@@ -25,6 +25,7 @@ class Process {
 public:
     explicit Process(std::vector<std::string> words) {
         std::vector<char*> arguments;
+        arguments.reserve(words.size() + 1);
         for (std::string& word : words) arguments.push_back(word.data());
         arguments.push_back(nullptr);
         id_ = fork();
