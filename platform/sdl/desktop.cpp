@@ -152,9 +152,11 @@ Uint32 Desktop::flagsOf(const Window& window) {
     }
 }
 
-// Centred on the window below, else on the screen.
+// Centred on the window below; without one, or without a frame to move it by, in the middle of the screen.
 void Desktop::place(Shown& shown, const Shown* owner) {
     if (owner == nullptr) return;
+    SDL_SetWindowModalFor(shown.native.get(), owner->native.get());
+    if (shown.window->frame() == Frame::none) return;
     int x = 0;
     int y = 0;
     Size below;
@@ -163,7 +165,6 @@ void Desktop::place(Shown& shown, const Shown* owner) {
     SDL_GetWindowSize(owner->native.get(), &below.w, &below.h);
     SDL_GetWindowSize(shown.native.get(), &size.w, &size.h);
     SDL_SetWindowPosition(shown.native.get(), x + (below.w - size.w) / 2, y + (below.h - size.h) / 2);
-    SDL_SetWindowModalFor(shown.native.get(), owner->native.get());
 }
 
 void Desktop::opened(Window& window) {
