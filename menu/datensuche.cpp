@@ -38,7 +38,7 @@ Text cdLaufwerk(const Files& files, const std::vector<std::filesystem::path>& wu
 }  // namespace
 
 Text DatenSuchen(const Files& files, const std::vector<std::filesystem::path>& wurzeln, Zustand& z) {
-    const Text laufwerk = cdLaufwerk(files, wurzeln);
+    Text laufwerk = cdLaufwerk(files, wurzeln);
     const Text& programm = files.programDirectory();
     for (const Datenverzeichnis& verzeichnis : Verzeichnisse) {
         Text& pfad = z.*verzeichnis.pfad;

@@ -30,7 +30,7 @@ bool startProcess(const std::vector<std::string>& command) {
     posix_spawnattr_init(&attributes);
     // A session of its own, so that it outlives this process and its terminal.
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
-    std::signal(SIGCHLD, SIG_IGN);  // nobody waits for it
+    static_cast<void>(std::signal(SIGCHLD, SIG_IGN));  // nobody waits for it
     pid_t child = 0;
     const int failure = posix_spawnp(&child, words[0], nullptr, &attributes, words.data(), environ);
     posix_spawnattr_destroy(&attributes);

@@ -136,14 +136,10 @@ EditText::Answer EditText::move(int code, bool shift, bool control) {
 }
 
 EditText::Answer EditText::deleting(int code, bool control) {
-    std::size_t to = caret_;
-    if (code == key::backspace)
-        to = control ? wordBefore(caret_) : before(caret_);
-    else if (code == key::del)
-        to = control ? wordBehind(caret_) : behind(caret_);
-    else
-        return Answer::unused;
-    return erase(to) ? Answer::changed : Answer::moved;
+    const auto eraseTo = [this](std::size_t to) { return erase(to) ? Answer::changed : Answer::moved; };
+    if (code == key::backspace) return eraseTo(control ? wordBefore(caret_) : before(caret_));
+    if (code == key::del) return eraseTo(control ? wordBehind(caret_) : behind(caret_));
+    return Answer::unused;
 }
 
 EditText::Answer EditText::clipboard(Backend& backend, int code, bool shift, bool control, bool readOnly) {

@@ -156,10 +156,10 @@ bool TextBox::moveByLine(int code, bool shift, bool control) {
     const auto here = static_cast<int>(lineOf(edit_.caret()));
     int there = here;
     switch (code) {
-        case key::up: there = here - 1; break;
-        case key::down: there = here + 1; break;
-        case key::pageUp: there = here - visibleLines(); break;
-        case key::pageDown: there = here + visibleLines(); break;
+        case key::up: there -= 1; break;
+        case key::down: there += 1; break;
+        case key::pageUp: there -= visibleLines(); break;
+        case key::pageDown: there += visibleLines(); break;
         case key::home:
         case key::end: {
             if (control) return false;

@@ -1,7 +1,10 @@
 #include "platform/probe/player.h"
 
+#include <charconv>
 #include <cstdlib>
+#include <iomanip>
 #include <ostream>
+#include <sstream>
 
 #include "platform/error.h"
 #include "platform/keys.h"
@@ -20,8 +23,11 @@ Button buttonNamed(const std::string& word) {
     return Button::left;
 }
 
+// What the walk's reader has found to be one.
 int number(const std::string& word) {
-    return std::atoi(word.c_str());
+    int value = 0;
+    std::from_chars(word.data(), word.data() + word.size(), value);
+    return value;
 }
 
 }  // namespace
@@ -385,10 +391,10 @@ std::string Player::found(const Condition& condition) {
     if (condition.kind == "title") return "the title \"" + toUtf8(window->title()) + '"';
     if (condition.kind == "pixel") {
         const Point at{number(condition.words[0]), number(condition.words[1])};
-        char colour[16];
-        std::snprintf(colour, sizeof colour, "%06X",
-                      static_cast<unsigned>(window->compose().pixel(at)) & 0xFFFFFFU);
-        return colour;
+        std::ostringstream colour;
+        colour << std::hex << std::uppercase << std::setfill('0') << std::setw(6)
+               << (window->compose().pixel(at) & 0xFFFFFFU);
+        return colour.str();
     }
     if (condition.kind == "evil" && game_ != nullptr) return std::to_string(game_->evil());
     std::string where = "window " + toUtf8(window->name());

@@ -20,6 +20,7 @@ struct ListPlay : Playground {
     Point row(int n) const { return {20, 2 + 13 * n + 6}; }
     void fill(int count) {
         std::vector<Text> items;
+        items.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) items.push_back("Spiel " + std::to_string(i));
         list.setItems(std::move(items));
     }

@@ -30,7 +30,6 @@ private:
         std::string place;
         std::vector<std::int32_t> numbers;
         std::vector<Text> arguments;
-        // NOLINTNEXTLINE(modernize-use-nullptr): the linter takes it for a 0
         friend auto operator<=>(const Key&, const Key&) = default;
     };
     Key keyOf(const Skript& script, TextView room, int object) const;

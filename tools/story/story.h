@@ -15,8 +15,7 @@ struct Place {
     int file = 0;
     int line = 1;
     int column = 1;
-    friend auto operator<=>(const Place&,
-                            const Place&) = default;  // NOLINT(modernize-use-nullptr): takes it for a 0
+    friend auto operator<=>(const Place&, const Place&) = default;
 };
 
 struct CommandPlace {
@@ -61,7 +60,7 @@ struct Silence {
     int file = 0;
     int line = 0;
     std::string code;
-    friend auto operator<=>(const Silence&, const Silence&) = default;  // NOLINT(modernize-use-nullptr): likewise
+    friend auto operator<=>(const Silence&, const Silence&) = default;
 };
 
 struct Story {
