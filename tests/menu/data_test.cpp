@@ -17,6 +17,7 @@ struct Disk {
     Text at(TextView path) const { return Files::gamePath(directory.path()) + "\\" + Text(path); }
     Text search(const std::vector<std::string>& roots) {
         std::vector<std::filesystem::path> paths;
+        paths.reserve(roots.size());
         for (const auto& root : roots) paths.push_back(directory.path() / root);
         return DatenSuchen(files, paths, z);
     }
@@ -76,9 +77,7 @@ TEST(SearchRoots, AreTheProgramsOwnAndTheMountedMedia) {
     while (below != roots.front() && below.has_relative_path()) below = below.parent_path();
     EXPECT_EQ(below, roots.front()) << "the program's own root lies above it";
     roots.erase(roots.begin());
-    EXPECT_EQ(roots, (std::vector<std::filesystem::path>{"/run/media/velmar/USB STICK", "/cd",
-                                                         "/media/k\xC3\xBC"
-                                                         "che",
+    EXPECT_EQ(roots, (std::vector<std::filesystem::path>{"/run/media/velmar/USB STICK", "/cd", "/media/küche",
                                                          "/mnt", "/srv/film"}));
     EXPECT_EQ(searchRoots(directory.path(), directory.path() / "fehlt").size(), 1U);
 }

@@ -55,7 +55,7 @@ TEST(Menu, HasItsLinesInTheirPlaces) {
     play.backend.then([&] {
         Window& menu = *play.platform.queue.active();
         EXPECT_EQ(menu.title(), "Zentrox - Menü"_t);
-        EXPECT_EQ(menu.client(), Size(501, 397));
+        EXPECT_EQ(menu.client(), (Size{501, 397}));
         EXPECT_EQ(play.lines(),
                   (Lines{"*Spiel beginnen", "Altes Spiel laden", "Bonusmaterial", Text("Menü verlassen"_t)}));
         for (int i = 0; i < 4; ++i) {

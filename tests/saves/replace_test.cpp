@@ -83,7 +83,7 @@ TEST(ReplaceFile, NoRoomInTheMiddleOfTheFileIsAFailure) {
     TempDirectory directory;
     const auto target = directory.write("spiel.xtc", "alt");
     const int code = inAProcess([&] {
-        std::signal(SIGXFSZ, SIG_IGN);
+        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
         const rlimit small{10'000, 10'000};
         setrlimit(RLIMIT_FSIZE, &small);
         try {
