@@ -81,6 +81,22 @@ TEST(Commands, AFreshStoryIsCleanAndComesBack) {
     EXPECT_NE(missing.out.find("\"code\": \"bild-fehlt\""), std::string::npos);
 }
 
+TEST(Commands, FilesAreLookedForWhereDataLies) {
+    const zentrox::test::TempDirectory directory;
+    const std::string source = directory.write("demo/story/a.story", "Raum a.lsd\nBild b.jpg").string();
+    const Result alone = call({"check", source});
+    EXPECT_EQ(alone.status, clean) << alone.out;
+    EXPECT_NE(alone.err.find("--data"), std::string::npos);
+    // The sources of mini-games are no data yet.
+    fs::create_directory(directory.path() / "demo/games");
+    EXPECT_EQ(call({"check", source}).status, clean);
+    fs::create_directory(directory.path() / "demo/sounds");
+    EXPECT_NE(call({"check", source}).out.find("[bild-fehlt]"), std::string::npos);
+    directory.write("data/graphics/b.jpg", "");
+    const Result elsewhere = call({"check", source, "--data", (directory.path() / "data").string()});
+    EXPECT_EQ(elsewhere.out + elsewhere.err, "");
+}
+
 TEST(Commands, WrongCallsAndDamagedFiles) {
     const zentrox::test::TempDirectory directory;
     const std::string empty = directory.path().string();

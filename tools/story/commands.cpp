@@ -102,6 +102,9 @@ int check(const Options& options, const Streams& to) {
         readData(inputs, checked, findings);
     const fs::path root = options.data.empty() ? checked.root : fs::path(options.data);
     const auto data = root.empty() ? nullptr : std::make_unique<DataFiles>(root);
+    if (!data)
+        to.err << "zentrox-story: no data lies beside " << options.words.front()
+               << ", so no pictures and sounds were looked for; --data DIR tells where they are\n";
     const auto fonts = fontsIfAny();
     check(checked.story, {&checked.rest, data.get(), fonts.get(), checked.wholeStory}, findings);
     findings.settle(checked.story);

@@ -11,7 +11,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array directories{"rooms", "sounds", "graphics", "movies", "cursors", "items", "musics", "games"};
+// Any of them tells that data lies here. A directory of games does not: the games of a story may be sources as
+// well.
+constexpr std::array directories{"rooms", "sounds", "graphics", "movies", "cursors", "items", "musics"};
 constexpr std::size_t extensionLength = 3;  // without the dot
 
 bool holdsData(const fs::path& directory) {
@@ -48,7 +50,8 @@ bool DataFiles::hasRoom(TextView path) const {
 
 fs::path dataRootOf(const fs::path& source) {
     const fs::path own = fs::absolute(source).lexically_normal().parent_path();
-    return !holdsData(own) && own.has_parent_path() && holdsData(own.parent_path()) ? own.parent_path() : own;
+    if (holdsData(own)) return own;
+    return own.has_parent_path() && holdsData(own.parent_path()) ? own.parent_path() : fs::path();
 }
 
 }  // namespace zentrox::story

@@ -34,8 +34,7 @@ private:
     mutable std::map<Text, Listing, std::less<>> listings_;
 };
 
-// The nearest of a source's own directory and the one above it that holds data directories; its own where none
-// does.
+// The nearest of a source's own directory and the one above it that holds data directories; empty where none does.
 std::filesystem::path dataRootOf(const std::filesystem::path& source);
 
 }  // namespace zentrox::story
