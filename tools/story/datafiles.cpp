@@ -49,7 +49,7 @@ bool DataFiles::hasRoom(TextView path) const {
 }
 
 fs::path dataRootOf(const fs::path& source) {
-    const fs::path own = fs::absolute(source).lexically_normal().parent_path();
+    fs::path own = fs::absolute(source).lexically_normal().parent_path();
     if (holdsData(own)) return own;
     return own.has_parent_path() && holdsData(own.parent_path()) ? own.parent_path() : fs::path();
 }
