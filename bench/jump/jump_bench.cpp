@@ -97,20 +97,25 @@ void jumpGamesWithoutSurface(benchmark::State& state) {
 }
 BENCHMARK(jumpGamesWithoutSurface)->Unit(benchmark::kMicrosecond);
 
+struct Hunt {
+    static constexpr Size size{645, 445};
+    Scene scene{size};
+    Bruhksbild view{scene.field};
+    Random chance{1};
+    Bruhksspiel game{chance, 3.14159274F, size, view.Frame()};
+
+    Hunt() { scene.field.setPicture(BruhksHintergrund()); }
+};
+
 // 21 creatures and 500 sparks.
 void bruhksTick(benchmark::State& state) {
-    constexpr Size size{645, 445};
-    Scene scene(size);
-    scene.field.setPicture(BruhksHintergrund());
-    Bruhksbild view(scene.field);
-    Random chance(1);
-    Bruhksspiel game(chance, 3.14159274F, size, view.Frame());
+    Hunt hunt;
     for (auto _ : state) {
-        keepFlying(game.Funken, chance, 500, size);
-        view.Entfernen(game);
-        game.JagdTick();
-        view.Zeichnen(game);
-        if (state.range(0) != 0) benchmark::DoNotOptimize(scene.window.compose().row(0));
+        keepFlying(hunt.game.Funken, hunt.chance, 500, Hunt::size);
+        hunt.view.Entfernen(hunt.game);
+        hunt.game.JagdTick();
+        hunt.view.Zeichnen(hunt.game);
+        if (state.range(0) != 0) benchmark::DoNotOptimize(hunt.scene.window.compose().row(0));
     }
     state.SetLabel(state.range(0) != 0 ? "composed for the display" : "on its surface");
 }
@@ -118,20 +123,15 @@ BENCHMARK(bruhksTick)->DenseRange(0, 1)->Unit(benchmark::kMicrosecond);
 
 // The 64 copies of its text and a burst of sparks.
 void bruhksCelebration(benchmark::State& state) {
-    constexpr Size size{645, 445};
-    Scene scene(size);
-    scene.field.setPicture(BruhksHintergrund());
-    Bruhksbild view(scene.field);
-    Random chance(1);
-    Bruhksspiel game(chance, 3.14159274F, size, view.Frame());
-    game.SiegBeginn(view.Textmitte());
+    Hunt hunt;
+    hunt.game.SiegBeginn(hunt.view.Textmitte());
     for (auto _ : state) {
-        keepFlying(game.Funken, chance, 250, size);
-        view.FunkenEntfernen(game);
-        game.SiegTickText();
-        view.Siegtext(game);
-        game.SiegTickFunken();
-        view.FunkenZeichnen(game);
+        keepFlying(hunt.game.Funken, hunt.chance, 250, Hunt::size);
+        hunt.view.FunkenEntfernen(hunt.game);
+        hunt.game.SiegTickText();
+        hunt.view.Siegtext(hunt.game);
+        hunt.game.SiegTickFunken();
+        hunt.view.FunkenZeichnen(hunt.game);
     }
 }
 BENCHMARK(bruhksCelebration)->Unit(benchmark::kMicrosecond);

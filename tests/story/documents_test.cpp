@@ -4,6 +4,7 @@
 
 #include "engine/interpreter/opcodes.h"
 #include "story_support.h"
+#include "tools/story/inputs.h"
 #include "tools/story/reference.h"
 
 namespace zentrox::story::test {
@@ -57,10 +58,7 @@ TEST(Documents, TheReferenceIsWhatTheProgramPrints) {
 TEST(Documents, TheDemoShowsEveryCommand) {
     Findings findings;
     SourceFiles files;
-    std::vector<std::filesystem::path> sources;
-    for (const auto& entry : std::filesystem::directory_iterator(DEMO))
-        if (entry.path().extension() == ".story") sources.push_back(entry.path());
-    const Story story = parseSources(sources, files, findings);
+    const Story story = parseSources(sourcesOf({DEMO}), files, findings);
     std::set<std::int32_t> used;
     for (const ScriptView& view : scriptsOf(story))
         used.insert(view.script.Befehl.begin(), view.script.Befehl.end());

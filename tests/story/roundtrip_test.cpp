@@ -5,6 +5,7 @@
 #include "engine/interpreter/opcodes.h"
 #include "story_support.h"
 #include "tools/story/data.h"
+#include "tools/story/inputs.h"
 #include "tools/story/source.h"
 
 namespace zentrox::story::test {
@@ -189,13 +190,9 @@ TEST(RoundTrip, TheGameReadsWhatIsWritten) {
 }
 
 TEST(RoundTrip, TheDemoComesBackByteForByte) {
-    std::vector<std::filesystem::path> sources;
-    for (const auto& entry : std::filesystem::directory_iterator(DEMO))
-        if (entry.path().extension() == ".story") sources.push_back(entry.path());
-    ASSERT_FALSE(sources.empty());
     Findings findings;
     SourceFiles files;
-    const Story story = parseSources(sources, files, findings);
+    const Story story = parseSources(sourcesOf({DEMO}), files, findings);
     checkForBuild(story, findings);
     EXPECT_EQ(asLines(story, findings), "");
     EXPECT_EQ(filesOf(compiled(sourceOf(story))), filesOf(story));

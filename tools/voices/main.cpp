@@ -4,6 +4,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "tools/story/inputs.h"
 #include "tools/story/parser.h"
 #include "tools/voices/maker.h"
 #include "tools/voices/spoken.h"
@@ -23,14 +24,6 @@ struct Options {
     fs::path work;
 };
 
-std::vector<fs::path> sourcesIn(const fs::path& directory) {
-    std::vector<fs::path> sources;
-    for (const auto& entry : fs::directory_iterator(directory))
-        if (entry.path().extension() == ".story") sources.push_back(entry.path());
-    std::sort(sources.begin(), sources.end());
-    return sources;
-}
-
 voices::Table tableFrom(const fs::path& path) {
     std::ifstream in(path, std::ios::binary);
     return voices::readTable(std::string{std::istreambuf_iterator<char>(in), {}});
@@ -40,7 +33,7 @@ voices::Table tableFrom(const fs::path& path) {
 std::optional<std::vector<voices::SpokenLine>> linesFrom(const Options& options, const voices::Table& table) {
     story::Findings findings;
     story::SourceFiles files;
-    const story::Story story = story::parseSources(sourcesIn(options.story), files, findings);
+    const story::Story story = story::parseSources(story::sourcesOf({options.story.string()}), files, findings);
     auto lines = voices::linesOf(story, table, findings);
     findings.settle(story);
     std::cerr << story::asLines(story, findings);
@@ -90,6 +83,9 @@ int main(int count, char** arguments) {
         return listing->parsed() ? list(options) : make(options);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : badCall;
+    } catch (const story::WrongCall& call) {
+        std::cerr << "zentrox-voices: " << call.why << "\n";
+        return badCall;
     } catch (const voices::TableError& error) {
         std::cerr << options.table.string() << ":" << error.line << ": " << error.what() << "\n";
     } catch (const std::exception& error) {
