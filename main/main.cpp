@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "main/spiel.h"
-#include "platform/roots.h"
+#include "platform/machine/roots.h"
+#include "platform/machine/system.h"
 #include "platform/sdl/desktop.h"
-#include "platform/sdl/sound/sound.h"
-#include "platform/system.h"
+#include "platform/sdl/sound.h"
 
 namespace {
 

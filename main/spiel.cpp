@@ -10,7 +10,7 @@
 #include "games/riddle/riddle.h"
 #include "media/medien.h"
 #include "menu/menu.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "room/form1.h"
 
 namespace zentrox {

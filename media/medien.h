@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "engine/state/zustand.h"
+#include "platform/machine/sound.h"
 #include "platform/platform.h"
-#include "platform/sound.h"
 
 namespace zentrox {
 

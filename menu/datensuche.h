@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "engine/state/zustand.h"
-#include "platform/files.h"
+#include "platform/machine/files.h"
 
 namespace zentrox {
 

@@ -6,7 +6,7 @@
 #include "menu/datensuche.h"
 #include "menu/titelbild.h"
 #include "menu/welle.h"
-#include "platform/keys.h"
+#include "platform/values/keys.h"
 
 namespace zentrox {
 

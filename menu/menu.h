@@ -10,11 +10,11 @@
 #include "engine/state/schreibmaschine.h"
 #include "engine/state/zustand.h"
 #include "menu/hilfetexte.h"
-#include "platform/controls/image.h"
-#include "platform/controls/label.h"
 #include "platform/platform.h"
-#include "platform/surface.h"
-#include "platform/window.h"
+#include "platform/window/controls/image.h"
+#include "platform/window/controls/label.h"
+#include "platform/window/surface.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 

@@ -1,7 +1,7 @@
 // The title picture, which is part of the program.
 #pragma once
 
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 
 namespace zentrox {
 

@@ -1,7 +1,7 @@
 // The green wave at the right of the menu.
 #pragma once
 
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

@@ -1,12 +1,12 @@
 // All that the game gets from the machine, in one hand.
 #pragma once
 
-#include "platform/backend.h"
-#include "platform/files.h"
-#include "platform/font.h"
-#include "platform/messagebox.h"
-#include "platform/queue.h"
-#include "platform/random.h"
+#include "platform/machine/files.h"
+#include "platform/picture/font.h"
+#include "platform/values/random.h"
+#include "platform/window/backend.h"
+#include "platform/window/messagebox.h"
+#include "platform/window/queue.h"
 
 namespace zentrox {
 

@@ -6,7 +6,7 @@
 
 #include "engine/state/schreibmaschine.h"
 #include "engine/state/warten.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
 
 namespace zentrox {
 

@@ -7,7 +7,7 @@
 #include "engine/state/zustand.h"
 #include "media/medien.h"
 #include "platform/platform.h"
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "engine/state/felder.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
 #include "room/form1.h"
 
 namespace zentrox {

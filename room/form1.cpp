@@ -4,7 +4,7 @@
 
 #include "engine/files/raumdatei.h"
 #include "engine/state/felder.h"
-#include "platform/keys.h"
+#include "platform/values/keys.h"
 
 namespace zentrox {
 

@@ -10,7 +10,7 @@
 #include "engine/interpreter/interpreter.h"
 #include "media/medien.h"
 #include "platform/platform.h"
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

@@ -4,8 +4,8 @@
 #include "engine/state/farbe.h"
 #include "engine/state/felder.h"
 #include "engine/state/warten.h"
-#include "platform/error.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
 #include "room/form1.h"
 
 namespace zentrox {

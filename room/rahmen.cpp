@@ -1,6 +1,6 @@
 // The two black frames of a conversation, and the portraits in them.
 #include "engine/state/warten.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
 #include "room/form1.h"
 
 namespace zentrox {

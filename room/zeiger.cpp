@@ -5,7 +5,7 @@
 #include "engine/files/raumdatei.h"
 #include "engine/state/farbe.h"
 #include "engine/state/felder.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
 #include "room/form1.h"
 
 namespace zentrox {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/keys.h"
 #include "platform/platform.h"
+#include "platform/values/keys.h"
 
 namespace zentrox {
 

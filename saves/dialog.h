@@ -2,11 +2,11 @@
 #pragma once
 
 #include "engine/state/zustand.h"
-#include "platform/controls/button.h"
-#include "platform/controls/field.h"
-#include "platform/controls/list.h"
-#include "platform/files.h"
-#include "platform/window.h"
+#include "platform/machine/files.h"
+#include "platform/window/controls/button.h"
+#include "platform/window/controls/field.h"
+#include "platform/window/controls/list.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 

@@ -5,8 +5,8 @@
 #include <system_error>
 
 #include "engine/state/felder.h"
-#include "platform/error.h"
-#include "platform/replace_file.h"
+#include "platform/machine/replace_file.h"
+#include "platform/values/error.h"
 #include "saves/dialog.h"
 #include "saves/spielstand.h"
 

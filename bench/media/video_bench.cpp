@@ -5,7 +5,7 @@
 #include <ctime>
 #include <vector>
 
-#include "platform/decoder.h"
+#include "platform/machine/decoder.h"
 #include "tests/media/make_media.h"
 #include "tests/media/speaker.h"
 

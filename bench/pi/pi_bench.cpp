@@ -3,8 +3,8 @@
 #include <benchmark/benchmark.h>
 
 #include "games/pi/pispiel.h"
-#include "platform/surface.h"
-#include "platform/window.h"
+#include "platform/window/surface.h"
+#include "platform/window/window.h"
 #include "tests/support/stage.h"
 #include "tools/digits/pi.h"
 

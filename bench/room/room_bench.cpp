@@ -3,8 +3,8 @@
 
 #include <fstream>
 
-#include "platform/error.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
 #include "room/form1.h"
 #include "tests/support/stage.h"
 

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <memory>
 
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 
 namespace zentrox {
 namespace {

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cstring>
 
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

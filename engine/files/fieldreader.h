@@ -6,8 +6,8 @@
 #include <cstdint>
 
 #include "engine/state/zustand.h"
-#include "platform/error.h"
-#include "platform/text.h"
+#include "platform/values/error.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

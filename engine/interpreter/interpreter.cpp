@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "engine/state/felder.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

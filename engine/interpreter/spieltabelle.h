@@ -4,7 +4,7 @@
 #include <functional>
 #include <map>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

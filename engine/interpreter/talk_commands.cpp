@@ -2,8 +2,8 @@
 #include "engine/interpreter/interpreter.h"
 #include "engine/state/felder.h"
 #include "media/medien.h"
-#include "platform/error.h"
-#include "platform/keys.h"
+#include "platform/values/error.h"
+#include "platform/values/keys.h"
 
 namespace zentrox {
 

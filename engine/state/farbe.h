@@ -1,7 +1,7 @@
 // The 16 fixed colours of the game.
 #pragma once
 
-#include "platform/geometry.h"
+#include "platform/values/geometry.h"
 
 namespace zentrox {
 

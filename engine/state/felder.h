@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

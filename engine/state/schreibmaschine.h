@@ -2,7 +2,7 @@
 // one after. In a page "|" ends a line, and "#", with the two characters behind it, is a mark that prints nothing.
 #pragma once
 
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

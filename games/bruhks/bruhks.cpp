@@ -5,9 +5,9 @@
 #include "engine/state/warten.h"
 #include "games/bruhks/bruhksbild.h"
 #include "games/bruhks/bruhksbilder.h"
-#include "platform/controls/label.h"
-#include "platform/controls/look.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
+#include "platform/window/controls/label.h"
+#include "platform/window/controls/look.h"
 
 namespace zentrox {
 

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "games/bruhks/bruhksspiel.h"
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

@@ -1,7 +1,7 @@
 // The pictures of Bruhks, which are part of the program.
 #pragma once
 
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 
 namespace zentrox {
 

@@ -6,8 +6,8 @@
 #include <cstdint>
 
 #include "games/sparks/funken.h"
-#include "platform/geometry.h"
-#include "platform/random.h"
+#include "platform/values/geometry.h"
+#include "platform/values/random.h"
 
 namespace zentrox {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "games/fight/wahl.h"
-#include "platform/random.h"
-#include "platform/text.h"
+#include "platform/values/random.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

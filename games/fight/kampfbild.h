@@ -2,7 +2,7 @@
 #pragma once
 
 #include "games/fight/kampf.h"
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

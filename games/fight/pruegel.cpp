@@ -5,9 +5,9 @@
 #include "engine/state/felder.h"
 #include "engine/state/warten.h"
 #include "games/fight/fight.h"
-#include "platform/controls/look.h"
-#include "platform/error.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
+#include "platform/window/controls/look.h"
 
 namespace zentrox {
 

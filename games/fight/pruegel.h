@@ -5,10 +5,10 @@
 
 #include "games/fight/kampfbild.h"
 #include "media/medien.h"
-#include "platform/controls/button.h"
-#include "platform/controls/image.h"
-#include "platform/controls/label.h"
 #include "platform/platform.h"
+#include "platform/window/controls/button.h"
+#include "platform/window/controls/image.h"
+#include "platform/window/controls/label.h"
 
 namespace zentrox {
 

@@ -2,7 +2,7 @@
 
 #include "engine/state/warten.h"
 #include "games/jump/jumpbild.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

@@ -2,7 +2,7 @@
 
 #include "engine/state/felder.h"
 #include "games/sparks/funkenbild.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
 
 namespace zentrox {
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "games/jump/jumpspiel.h"
-#include "platform/files.h"
-#include "platform/surface.h"
+#include "platform/machine/files.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

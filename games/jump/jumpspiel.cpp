@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "engine/state/felder.h"
-#include "platform/keys.h"
+#include "platform/values/keys.h"
 
 namespace zentrox {
 

@@ -10,7 +10,7 @@
 #include "games/jump/level.h"
 #include "games/jump/sicht.h"
 #include "games/sparks/funken.h"
-#include "platform/random.h"
+#include "platform/values/random.h"
 
 namespace zentrox {
 

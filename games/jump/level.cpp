@@ -1,6 +1,6 @@
 #include "games/jump/level.h"
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

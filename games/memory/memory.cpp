@@ -5,8 +5,8 @@
 #include "engine/state/felder.h"
 #include "engine/state/warten.h"
 #include "games/memory/memoryfenster.h"
-#include "platform/error.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

@@ -7,10 +7,10 @@
 
 #include "engine/state/zustand.h"
 #include "games/memory/memoryspiel.h"
-#include "platform/controls/image.h"
-#include "platform/controls/label.h"
 #include "platform/platform.h"
-#include "platform/window.h"
+#include "platform/window/controls/image.h"
+#include "platform/window/controls/label.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <cstdint>
 
-#include "platform/random.h"
-#include "platform/text.h"
+#include "platform/values/random.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

@@ -7,7 +7,7 @@
 #include "engine/state/warten.h"
 #include "games/pi/pifenster.h"
 #include "games/pi/pispiel.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

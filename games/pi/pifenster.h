@@ -4,8 +4,8 @@
 #include "engine/state/zustand.h"
 #include "media/medien.h"
 #include "platform/platform.h"
-#include "platform/surface.h"
-#include "platform/window.h"
+#include "platform/window/surface.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "engine/state/felder.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

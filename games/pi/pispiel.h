@@ -3,10 +3,10 @@
 
 #include <cstdint>
 
-#include "platform/files.h"
-#include "platform/geometry.h"
-#include "platform/random.h"
-#include "platform/text.h"
+#include "platform/machine/files.h"
+#include "platform/values/geometry.h"
+#include "platform/values/random.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

@@ -1,7 +1,7 @@
 #include "games/pong/pong.h"
 
 #include "games/pong/pongfenster.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "engine/state/felder.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
 
 namespace zentrox {
 

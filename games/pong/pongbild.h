@@ -4,8 +4,8 @@
 
 #include "engine/state/zustand.h"
 #include "games/pong/pongspiel.h"
-#include "platform/files.h"
-#include "platform/surface.h"
+#include "platform/machine/files.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

@@ -3,11 +3,11 @@
 
 #include "games/pong/pongbild.h"
 #include "media/medien.h"
-#include "platform/controls/button.h"
-#include "platform/controls/field.h"
-#include "platform/controls/label.h"
 #include "platform/platform.h"
-#include "platform/window.h"
+#include "platform/window/controls/button.h"
+#include "platform/window/controls/field.h"
+#include "platform/window/controls/label.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 

@@ -6,7 +6,7 @@
 #include <array>
 #include <cstdint>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

@@ -1,7 +1,7 @@
 #include "games/quiz/fragen.h"
 
 #include "engine/state/felder.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

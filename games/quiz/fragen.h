@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/files.h"
-#include "platform/random.h"
+#include "platform/machine/files.h"
+#include "platform/values/random.h"
 
 namespace zentrox {
 

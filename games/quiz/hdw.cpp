@@ -1,7 +1,7 @@
 #include "games/quiz/hdw.h"
 
 #include "games/quiz/quiz.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 

@@ -5,8 +5,8 @@
 
 #include "games/quiz/fragen.h"
 #include "media/medien.h"
-#include "platform/controls/label.h"
 #include "platform/platform.h"
+#include "platform/window/controls/label.h"
 
 namespace zentrox {
 

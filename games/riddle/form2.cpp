@@ -1,9 +1,9 @@
 #include "games/riddle/raetsel.h"
 #include "games/riddle/riddle.h"
-#include "platform/controls/field.h"
-#include "platform/controls/label.h"
-#include "platform/controls/textbox.h"
-#include "platform/keys.h"
+#include "platform/values/keys.h"
+#include "platform/window/controls/field.h"
+#include "platform/window/controls/label.h"
+#include "platform/window/controls/textbox.h"
 
 namespace zentrox {
 

@@ -1,8 +1,8 @@
 // The words of the riddle: its story, and what it answers to an attempt.
 #pragma once
 
-#include "platform/random.h"
-#include "platform/text.h"
+#include "platform/values/random.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 

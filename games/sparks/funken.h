@@ -5,8 +5,8 @@
 #include <array>
 #include <cstdint>
 
-#include "platform/geometry.h"
-#include "platform/random.h"
+#include "platform/values/geometry.h"
+#include "platform/values/random.h"
 
 namespace zentrox {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "games/sparks/funken.h"
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 namespace zentrox {
 

@@ -5,8 +5,8 @@
 #include <functional>
 #include <iosfwd>
 
-#include "platform/backend.h"
-#include "platform/messagebox.h"
+#include "platform/window/backend.h"
+#include "platform/window/messagebox.h"
 
 namespace zentrox::probe {
 

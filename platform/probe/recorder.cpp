@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/midi.h"
+#include "platform/machine/midi.h"
 
 namespace zentrox {
 

@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 
-#include "platform/backend.h"
-#include "platform/decoder.h"
-#include "platform/files.h"
-#include "platform/sound.h"
+#include "platform/machine/decoder.h"
+#include "platform/machine/files.h"
+#include "platform/machine/sound.h"
+#include "platform/window/backend.h"
 
 namespace zentrox {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/error.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
 
 namespace zentrox::sdl {
 

@@ -6,8 +6,8 @@
 #include <map>
 #include <memory>
 
-#include "platform/files.h"
-#include "platform/window.h"
+#include "platform/machine/files.h"
+#include "platform/window/window.h"
 
 namespace zentrox::sdl {
 

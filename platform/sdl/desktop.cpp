@@ -5,10 +5,10 @@
 #include <random>
 #include <thread>
 
-#include "platform/error.h"
-#include "platform/keys.h"
+#include "platform/machine/system.h"
 #include "platform/sdl/keys.h"
-#include "platform/system.h"
+#include "platform/values/error.h"
+#include "platform/values/keys.h"
 
 namespace zentrox::sdl {
 

@@ -8,9 +8,9 @@
 #include <map>
 #include <memory>
 
-#include "platform/backend.h"
-#include "platform/files.h"
+#include "platform/machine/files.h"
 #include "platform/sdl/cursors.h"
+#include "platform/window/backend.h"
 
 namespace zentrox::sdl {
 

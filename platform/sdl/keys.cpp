@@ -1,6 +1,6 @@
 #include "platform/sdl/keys.h"
 
-#include "platform/keys.h"
+#include "platform/values/keys.h"
 
 namespace zentrox::sdl {
 

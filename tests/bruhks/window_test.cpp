@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "games/bruhks/bruhks.h"
-#include "platform/error.h"
-#include "platform/surface.h"
+#include "platform/values/error.h"
+#include "platform/window/surface.h"
 #include "tests/support/stage.h"
 
 namespace zentrox {

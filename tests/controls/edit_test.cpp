@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/controls/field.h"
+#include "platform/window/controls/field.h"
 #include "playground.h"
 
 namespace zentrox::test {

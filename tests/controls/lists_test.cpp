@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/controls/button.h"
-#include "platform/controls/list.h"
+#include "platform/window/controls/button.h"
+#include "platform/window/controls/list.h"
 #include "playground.h"
 
 namespace zentrox::test {

@@ -1,4 +1,4 @@
-#include "platform/messagebox.h"
+#include "platform/window/messagebox.h"
 
 #include <gtest/gtest.h>
 

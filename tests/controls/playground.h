@@ -1,7 +1,7 @@
 // A window with one control in it, to be played with as a person would.
 #pragma once
 
-#include "platform/window.h"
+#include "platform/window/window.h"
 #include "tests/support/stage.h"
 
 namespace zentrox::test {

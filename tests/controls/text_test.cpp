@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "platform/controls/label.h"
-#include "platform/controls/textbox.h"
-#include "platform/controls/tooltip.h"
+#include "platform/window/controls/label.h"
+#include "platform/window/controls/textbox.h"
+#include "platform/window/controls/tooltip.h"
 #include "playground.h"
 
 namespace zentrox::test {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/error.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
 #include "room/abspann.h"
 #include "tests/support/stage.h"
 

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Each room of the house includes only rooms below it, and only platform/sdl/ knows the libraries of the machine.
+# Each room of the house includes only rooms below it, and only platform/codec/ and platform/sdl/ know the libraries of
+# the machine.
 set -u
 shopt -s nullglob
 cd "$1"
@@ -13,6 +14,13 @@ forbid() {  # forbid FOLDER PATTERN-OF-INCLUDES
 }
 
 forbid platform 'engine|media|room|saves|menu|games|main|tools/'
+forbid platform/values 'platform/(picture|machine|window|codec|sdl|probe|platform)'
+forbid platform/picture 'platform/(machine|window|codec|sdl|probe|platform)'
+forbid platform/machine 'platform/(window|codec|sdl|probe|platform)'
+forbid platform/window 'platform/(codec|sdl|probe)'
+forbid platform/codec 'platform/(window|sdl|probe|platform)'
+forbid platform/sdl 'platform/probe'
+forbid platform/probe 'platform/sdl'
 forbid engine/state 'engine/(files|interpreter)|media|room|saves|menu|games|main|tools/'
 forbid engine/files 'engine/interpreter|media|room|saves|menu|games|main|tools/'
 forbid engine/interpreter 'room|saves|menu|games|main|tools/'
@@ -26,7 +34,7 @@ for game in games/*/; do
     others=$(basename -a games/*/ | grep -vxE "$game|sparks" | paste -sd"|")
     [ -z "$others" ] || forbid "games/$game" "games/($others)"
 done
-hits=$(grep -rlE '#include <(SDL|fluidsynth|fontconfig|lib(av|sw))' --include='*.h' --include='*.cpp' . |
-    grep -vE '^\./(platform/sdl|tests|bench|build)/')
-[ -z "$hits" ] || { printf 'only platform/sdl/ knows the libraries of the machine:\n%s\n' "$hits"; status=1; }
+hits=$(grep -rlE '#include <(SDL|fluidsynth|fontconfig|mpg123|lib(av|sw))' --include='*.h' --include='*.cpp' . |
+    grep -vE '^\./(platform/(codec|sdl)|tests|bench|build)/')
+[ -z "$hits" ] || { printf 'only platform/codec/ and platform/sdl/ know the libraries of the machine:\n%s\n' "$hits"; status=1; }
 exit $status

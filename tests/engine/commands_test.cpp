@@ -1,7 +1,7 @@
 // What each command asks of the room window, of the sound device, and what it leaves in the state.
 #include "engine/state/merker.h"
-#include "platform/error.h"
-#include "platform/keys.h"
+#include "platform/values/error.h"
+#include "platform/values/keys.h"
 #include "tests/engine/engine_fixture.h"
 
 namespace zentrox {

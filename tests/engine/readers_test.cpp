@@ -5,7 +5,7 @@
 #include "engine/files/fieldreader.h"
 #include "engine/files/raumdatei.h"
 #include "engine/interpreter/opcodes.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox {

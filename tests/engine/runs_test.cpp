@@ -1,7 +1,7 @@
 // How a run begins and ends, and what may happen inside it.
 #include "engine/files/raumdatei.h"
 #include "engine/state/merker.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/engine/engine_fixture.h"
 
 namespace zentrox {

@@ -6,7 +6,7 @@
 
 #include "games/fight/fight.h"
 #include "games/fight/pruegel.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/stage.h"
 
 namespace zentrox::test {

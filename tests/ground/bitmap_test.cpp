@@ -1,5 +1,5 @@
 // Every drawing against a model that goes over all pixels one by one.
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "platform/files.h"
+#include "platform/machine/files.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox {

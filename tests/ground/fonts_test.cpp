@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <limits>
 
-#include "platform/font.h"
+#include "platform/picture/font.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox {

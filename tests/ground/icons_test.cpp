@@ -2,8 +2,8 @@
 
 #include <random>
 
-#include "platform/error.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
 #include "tests/ground/bytes.h"
 #include "tests/support/temp_directory.h"
 

@@ -1,11 +1,11 @@
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <random>
 
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/ground/bytes.h"
 #include "tests/support/temp_directory.h"
 

@@ -1,4 +1,4 @@
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 
 #include <gtest/gtest.h>
 

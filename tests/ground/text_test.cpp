@@ -1,10 +1,10 @@
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 
-#include "platform/random.h"
+#include "platform/values/random.h"
 
 namespace zentrox {
 namespace {

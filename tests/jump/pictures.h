@@ -2,7 +2,7 @@
 #pragma once
 
 #include "games/jump/level.h"
-#include "platform/random.h"
+#include "platform/values/random.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox::test {

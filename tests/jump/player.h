@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "games/jump/jumpspiel.h"
-#include "platform/keys.h"
+#include "platform/values/keys.h"
 
 namespace zentrox::test {
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "games/jump/jump.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/jump/pictures.h"
 #include "tests/jump/player.h"
 #include "tests/support/stage.h"

@@ -3,7 +3,7 @@
 
 #include <random>
 
-#include "platform/decoder.h"
+#include "platform/machine/decoder.h"
 #include "platform/probe/recorder.h"
 #include "tests/media/make_media.h"
 #include "tests/media/speaker.h"

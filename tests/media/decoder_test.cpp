@@ -1,4 +1,4 @@
-#include "platform/decoder.h"
+#include "platform/machine/decoder.h"
 
 #include <gtest/gtest.h>
 

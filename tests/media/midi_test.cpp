@@ -1,4 +1,4 @@
-#include "platform/midi.h"
+#include "platform/machine/midi.h"
 
 #include <gtest/gtest.h>
 

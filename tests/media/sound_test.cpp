@@ -1,8 +1,8 @@
 // What the real mixer makes of the game's sounds, by pitch and level.
 #include <gtest/gtest.h>
 
-#include "platform/sdl/sound/soundfont.h"
-#include "platform/sdl/sound/synthesiser.h"
+#include "platform/codec/soundfont.h"
+#include "platform/codec/synthesiser.h"
 #include "tests/media/make_media.h"
 #include "tests/media/speaker.h"
 

@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/sdl/sound/sound.h"
+#include "platform/sdl/sound.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox::test {

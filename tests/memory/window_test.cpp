@@ -3,7 +3,7 @@
 
 #include "games/memory/memory.h"
 #include "games/memory/memoryfenster.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/stage.h"
 
 namespace zentrox::test {

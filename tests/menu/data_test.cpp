@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "menu/datensuche.h"
-#include "platform/roots.h"
+#include "platform/machine/roots.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox::test {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/stage.h"
 
 namespace zentrox::test {

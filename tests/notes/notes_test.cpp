@@ -1,7 +1,7 @@
 // Songs in letters: what they turn into, and what is told of their mistakes.
 #include <gtest/gtest.h>
 
-#include "platform/midi.h"
+#include "platform/machine/midi.h"
 #include "tools/notes/song.h"
 
 namespace zentrox::notes {

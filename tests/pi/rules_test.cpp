@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "games/pi/pispiel.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/temp_directory.h"
 #include "tools/digits/pi.h"
 

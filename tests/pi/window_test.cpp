@@ -3,7 +3,7 @@
 
 #include "games/pi/pi.h"
 #include "games/pi/pifenster.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/stage.h"
 #include "tools/digits/pi.h"
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "games/pong/pongspiel.h"
-#include "platform/keys.h"
-#include "platform/random.h"
+#include "platform/values/keys.h"
+#include "platform/values/random.h"
 
 namespace zentrox::test {
 

@@ -3,7 +3,7 @@
 
 #include "games/pong/pong.h"
 #include "games/pong/pongfenster.h"
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "pong_table.h"
 #include "tests/support/stage.h"
 

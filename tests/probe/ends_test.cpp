@@ -4,10 +4,10 @@
 #include <sstream>
 
 #include "main/spiel.h"
-#include "platform/error.h"
-#include "platform/probe/player.h"
+#include "platform/values/error.h"
 #include "tests/support/fake_sound.h"
 #include "tests/support/temp_directory.h"
+#include "tools/probe/player.h"
 #include "tools/probe/story.h"
 
 namespace zentrox::probe {

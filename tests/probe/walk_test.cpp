@@ -1,7 +1,7 @@
 // The language of walks: what is read, and what is refused with its line.
 #include <gtest/gtest.h>
 
-#include "platform/probe/walk.h"
+#include "tools/probe/walk.h"
 
 namespace zentrox::probe {
 namespace {

@@ -1,7 +1,7 @@
 // The waits and the timers on a clock that moves only while something waits.
 #include <gtest/gtest.h>
 
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tests/support/stage.h"
 
 namespace zentrox {

@@ -1,7 +1,7 @@
 // Modality, nesting, the place where input lands, and what a window paints.
 #include <gtest/gtest.h>
 
-#include "platform/surface.h"
+#include "platform/window/surface.h"
 #include "tests/support/stage.h"
 
 namespace zentrox {

@@ -5,8 +5,8 @@
 
 #include "games/riddle/raetsel.h"
 #include "games/riddle/riddle.h"
-#include "platform/controls/field.h"
-#include "platform/controls/textbox.h"
+#include "platform/window/controls/field.h"
+#include "platform/window/controls/textbox.h"
 #include "tests/support/stage.h"
 
 namespace zentrox::test {

@@ -1,4 +1,4 @@
-#include "platform/replace_file.h"
+#include "platform/machine/replace_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

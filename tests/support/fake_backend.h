@@ -6,10 +6,10 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/backend.h"
-#include "platform/keys.h"
-#include "platform/messagebox.h"
-#include "platform/window.h"
+#include "platform/values/keys.h"
+#include "platform/window/backend.h"
+#include "platform/window/messagebox.h"
+#include "platform/window/window.h"
 
 namespace zentrox::test {
 

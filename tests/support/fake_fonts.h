@@ -1,7 +1,7 @@
 // Fonts for tests: every character is a block of 6 by 13 pixels, whatever family is asked for.
 #pragma once
 
-#include "platform/font.h"
+#include "platform/picture/font.h"
 
 namespace zentrox::test {
 

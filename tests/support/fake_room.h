@@ -8,7 +8,7 @@
 
 #include "engine/interpreter/raumfenster.h"
 #include "engine/state/zustand.h"
-#include "platform/queue.h"
+#include "platform/window/queue.h"
 
 namespace zentrox::test {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/sound.h"
+#include "platform/machine/sound.h"
 #include "tests/support/fake_backend.h"
 
 namespace zentrox::test {

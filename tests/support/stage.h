@@ -2,8 +2,8 @@
 // directory.
 #pragma once
 
+#include "platform/machine/sound.h"
 #include "platform/platform.h"
-#include "platform/sound.h"
 #include "tests/support/fake_backend.h"
 #include "tests/support/fake_fonts.h"
 #include "tests/support/fake_sound.h"

@@ -5,10 +5,10 @@
 #include <iterator>
 
 #include "main/spiel.h"
-#include "platform/error.h"
-#include "platform/probe/player.h"
+#include "platform/machine/system.h"
 #include "platform/probe/recorder.h"
-#include "platform/system.h"
+#include "platform/values/error.h"
+#include "tools/probe/player.h"
 #include "tools/probe/ran.h"
 #include "tools/probe/story.h"
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "engine/state/zustand.h"
-#include "platform/probe/player.h"
 #include "platform/probe/recorder.h"
+#include "tools/probe/player.h"
 
 namespace zentrox::probe {
 

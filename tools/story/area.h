@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "engine/state/zustand.h"
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 
 namespace zentrox::story {
 

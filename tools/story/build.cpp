@@ -6,7 +6,7 @@
 #include <fstream>
 #include <optional>
 
-#include "platform/files.h"
+#include "platform/machine/files.h"
 #include "tools/story/writer.h"
 
 namespace zentrox::story {

@@ -1,7 +1,7 @@
 // Looks a story over: what the game could not make sense of is an error, what it can but nobody wants a warning.
 #pragma once
 
-#include "platform/font.h"
+#include "platform/picture/font.h"
 #include "tools/story/datafiles.h"
 #include "tools/story/finding.h"
 

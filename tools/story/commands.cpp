@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <iostream>
 
-#include "platform/error.h"
+#include "platform/values/error.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
 #include "tools/story/coverage.h"

@@ -4,7 +4,7 @@
 
 #include "engine/files/fieldreader.h"
 #include "engine/files/raumdatei.h"
-#include "platform/files.h"
+#include "platform/machine/files.h"
 #include "tools/story/sourcefiles.h"
 
 namespace zentrox::story {

@@ -5,7 +5,7 @@
 #include <map>
 #include <set>
 
-#include "platform/files.h"
+#include "platform/machine/files.h"
 
 namespace zentrox::story {
 

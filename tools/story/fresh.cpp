@@ -1,6 +1,6 @@
 #include "tools/story/fresh.h"
 
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 #include "tools/story/build.h"
 #include "tools/story/imagefiles.h"
 #include "tools/story/parser.h"

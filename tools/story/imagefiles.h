@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 
 namespace zentrox::story {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 #include "tools/story/data.h"
 
 namespace zentrox::story {

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "engine/state/zustand.h"
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 #include "tools/story/scanner.h"
 
 namespace zentrox::story {

@@ -2,9 +2,9 @@
 
 #include <fstream>
 
-#include "platform/error.h"
-#include "platform/files.h"
-#include "platform/picture.h"
+#include "platform/codec/pictures.h"
+#include "platform/machine/files.h"
+#include "platform/values/error.h"
 
 namespace zentrox::story {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/bitmap.h"
+#include "platform/picture/bitmap.h"
 
 namespace zentrox::story {
 

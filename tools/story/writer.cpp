@@ -1,6 +1,6 @@
 #include "tools/story/writer.h"
 
-#include "platform/error.h"
+#include "platform/values/error.h"
 
 namespace zentrox::story {
 

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <thread>
 
-#include "platform/replace_file.h"
+#include "platform/machine/replace_file.h"
 #include "tools/voices/level.h"
 #include "tools/voices/process.h"
 #include "tools/voices/spoken.h"

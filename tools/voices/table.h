@@ -15,7 +15,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/text.h"
+#include "platform/values/text.h"
 
 namespace zentrox::voices {
 

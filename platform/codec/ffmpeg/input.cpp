@@ -1,0 +1,118 @@
+#include "platform/codec/ffmpeg/input.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zentrox::ffmpeg {
+
+namespace {
+
+// Formats that hold sound and video and nothing else: no play lists, which could name other files.
+constexpr const char* formats =
+    "wav,mp3,ogg,flac,aac,aiff,au,w64,mpeg,mpegvideo,mpegts,avi,mov,mp4,matroska,webm,asf,flv,flic,m4v";
+constexpr std::int64_t mostPixels = 4096LL * 4096;
+constexpr double usualPicture = 40;  // milliseconds, where the file does not say
+
+double plausible(double lasts) {
+    return lasts > 0 && lasts <= longestPicture ? lasts : usualPicture;
+}
+
+Owned<AVFormatContext> openFile(const std::filesystem::path& file) {
+    AVDictionary* options = nullptr;
+    av_dict_set(&options, "format_whitelist", formats, 0);
+    av_dict_set(&options, "protocol_whitelist", "file", 0);
+    AVFormatContext* format = nullptr;
+    // The prefix keeps a colon in the name from being taken for a protocol.
+    const int failed = avformat_open_input(&format, ("file:" + file.string()).c_str(), nullptr, &options);
+    av_dict_free(&options);
+    if (failed != 0) return nullptr;
+    Owned<AVFormatContext> opened(format);
+    if (avformat_find_stream_info(format, nullptr) < 0) return nullptr;
+    return opened;
+}
+
+}  // namespace
+
+std::unique_ptr<Input> Input::open(const std::filesystem::path& file, AVMediaType type) {
+    std::unique_ptr<Input> input(new Input);
+    input->format_ = openFile(file);
+    if (!input->format_) return nullptr;
+    const AVCodec* codec = nullptr;
+    input->stream_ = av_find_best_stream(input->format_.get(), type, -1, -1, &codec, 0);
+    if (input->stream_ < 0 || codec == nullptr || !input->openCodec(*codec)) return nullptr;
+    for (unsigned i = 0; i < input->format_->nb_streams; ++i)
+        if (static_cast<int>(i) != input->stream_) input->format_->streams[i]->discard = AVDISCARD_ALL;
+    return input;
+}
+
+bool Input::openCodec(const AVCodec& codec) {
+    codec_.reset(avcodec_alloc_context3(&codec));
+    packet_.reset(av_packet_alloc());
+    if (!codec_ || !packet_ || avcodec_parameters_to_context(codec_.get(), stream().codecpar) < 0) return false;
+    codec_->thread_count = 1;
+    codec_->max_pixels = mostPixels;
+    codec_->pkt_timebase = stream().time_base;
+    return avcodec_open2(codec_.get(), &codec, nullptr) == 0;
+}
+
+bool Input::next(AVFrame& frame) {
+    for (;;) {
+        const int result = avcodec_receive_frame(codec_.get(), &frame);
+        if (result == 0) return true;
+        if (result == AVERROR_EOF || !feed()) return false;
+    }
+}
+
+// Hands a packet to the decoder, and at the end of the file the wish for all that it has held back.
+bool Input::feed() {
+    while (av_read_frame(format_.get(), packet_.get()) >= 0) {
+        const bool ours = packet_->stream_index == stream_;
+        const bool taken = ours && avcodec_send_packet(codec_.get(), packet_.get()) >= 0;
+        av_packet_unref(packet_.get());
+        if (taken) return true;
+    }
+    if (drained_) return false;
+    drained_ = true;
+    return avcodec_send_packet(codec_.get(), nullptr) >= 0;
+}
+
+double Input::milliseconds(std::int64_t stamp) const {
+    const double start = format_->start_time == AV_NOPTS_VALUE
+                             ? 0.0
+                             : static_cast<double>(format_->start_time) * 1000 / AV_TIME_BASE;
+    return static_cast<double>(stamp) * av_q2d(stream().time_base) * 1000 - start;
+}
+
+double Input::duration(const AVFrame& frame) const {
+#if LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(57, 30, 100)
+    const auto ticks = frame.duration;
+#else
+    const auto ticks = frame.pkt_duration;
+#endif
+    return plausible(static_cast<double>(ticks) * av_q2d(stream().time_base) * 1000);
+}
+
+std::int64_t Input::headerLength() const {
+    if (format_->duration == AV_NOPTS_VALUE || format_->duration < 0) return 0;
+    return format_->duration / (AV_TIME_BASE / 1000);
+}
+
+std::int64_t Input::countedLength() {
+    double end = 0;
+    const bool sound = stream().codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
+    while (av_read_frame(format_.get(), packet_.get()) >= 0) {
+        if (packet_->stream_index == stream_) {
+            const double ticks = static_cast<double>(packet_->duration) * av_q2d(stream().time_base) * 1000;
+            const double lasts = sound ? ticks : plausible(ticks);
+            // Sound has no gaps, and its stamps may be guesses. Not every picture has a stamp.
+            const bool stamped = !sound && packet_->pts != AV_NOPTS_VALUE;
+            const double stamp = stamped ? milliseconds(packet_->pts) : end;
+            const double begins = stamp > end + longestPicture ? end : stamp;
+            end = std::max(end, begins + lasts);
+        }
+        av_packet_unref(packet_.get());
+    }
+    return std::llround(end);
+}
+
+}  // namespace zentrox::ffmpeg

@@ -1,0 +1,42 @@
+// The loadable part of the program: all that uses FFmpeg's libraries.
+#include <algorithm>
+
+#include "platform/codec/ffmpeg/input.h"
+#include "platform/codec/ffmpeg/readers.h"
+
+namespace zentrox::ffmpeg {
+
+namespace {
+
+// The length of a file that can be opened for playing; 0 else. Sound that lasts longer than the pictures counts.
+std::int64_t length(const std::filesystem::path& file, AVMediaType type) {
+    const auto input = Input::open(file, type);
+    return input ? input->countedLength() : 0;
+}
+
+class Decoder final : public MediaDecoder {
+public:
+    Decoder() { av_log_set_level(AV_LOG_QUIET); }
+
+    std::unique_ptr<AudioReader> openAudio(const std::filesystem::path& file) override {
+        return ffmpeg::openAudio(file);
+    }
+    std::unique_ptr<VideoReader> openVideo(const std::filesystem::path& file) override {
+        return ffmpeg::openVideo(file);
+    }
+    std::int64_t audioLength(const std::filesystem::path& file) override {
+        return openAudio(file) ? length(file, AVMEDIA_TYPE_AUDIO) : 0;
+    }
+    std::int64_t videoLength(const std::filesystem::path& file) override {
+        return openVideo(file) ? std::max(length(file, AVMEDIA_TYPE_VIDEO), length(file, AVMEDIA_TYPE_AUDIO)) : 0;
+    }
+};
+
+}  // namespace
+
+}  // namespace zentrox::ffmpeg
+
+extern "C" [[gnu::visibility("default")]] zentrox::MediaDecoder* zentroxMediaDecoder() {
+    static zentrox::ffmpeg::Decoder decoder;
+    return &decoder;
+}

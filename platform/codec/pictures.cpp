@@ -1,0 +1,163 @@
+#include <SDL_image.h>
+
+#include <cstdlib>
+
+#include "platform/codec/decode.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
+
+namespace zentrox {
+
+namespace {
+
+// A file may claim any size in a few bytes. These bound what is believed of it: no picture of a story is larger,
+// and none of the formats packs more pixels into a byte, but for drawings made to do so.
+constexpr std::uint32_t longestSide = 16384;
+constexpr std::uint64_t mostPixels = 50'000'000;
+constexpr std::uint64_t jpegPixelsPerByte = 1000;
+constexpr std::uint64_t pngPixelsPerByte = 10'000;
+constexpr std::uint64_t packedBitmapPixelsPerByte = 1000;
+
+bool plausible(std::uint32_t width, std::uint32_t height, std::uint64_t room) {
+    if (width == 0 || height == 0 || width > longestSide || height > longestSide) return false;
+    const std::uint64_t pixels = std::uint64_t{width} * height;
+    return pixels <= mostPixels && pixels <= room;
+}
+
+// --- bitmaps
+
+constexpr std::size_t bitmapHead = 14;
+constexpr std::uint32_t oldHeader = 12;  // with sides of 16 bits
+
+bool plausibleBitmap(const FileBytes& file) {
+    if (!file.has(bitmapHead, oldHeader)) return false;
+    const bool old = file.u32(bitmapHead) == oldHeader;
+    if (!old && !file.has(bitmapHead, 20)) return false;
+    const std::uint32_t width = old ? file.u16(bitmapHead + 4) : file.u32(bitmapHead + 4);
+    const auto signedHeight = static_cast<std::int32_t>(file.u32(bitmapHead + 8));
+    const std::uint32_t height =
+        old ? file.u16(bitmapHead + 6) : static_cast<std::uint32_t>(std::llabs(signedHeight));
+    const std::uint32_t bits = file.u16(bitmapHead + (old ? 10 : 14));
+    const std::uint32_t packing = old ? 0 : file.u32(bitmapHead + 16);
+    const bool packed = packing == 1 || packing == 2;
+    if (packed) return plausible(width, height, file.size() * packedBitmapPixelsPerByte);
+    return bits != 0 && plausible(width, height, file.size() * 8 / bits);
+}
+
+// --- PNG
+
+constexpr std::string_view pngMagic = "\x89PNG\r\n\x1A\n";
+
+constexpr std::size_t chunkHead = 8;  // length and name
+constexpr std::size_t chunkSum = 4;
+
+// Goes from chunk to chunk up to the one at the end: the decoder takes whatever lies in memory for what is cut off.
+bool completePng(const FileBytes& file) {
+    for (std::size_t at = pngMagic.size(); file.has(at, chunkHead);) {
+        const std::size_t length = file.bigU32(at);
+        if (!file.has(at + chunkHead, length + chunkSum)) return false;
+        if (file.from(at + 4).starts_with("IEND")) return true;
+        at += chunkHead + length + chunkSum;
+    }
+    return false;
+}
+
+bool plausiblePng(const FileBytes& file) {
+    return file.has(16, 8) && plausible(file.bigU32(16), file.bigU32(20), file.size() * pngPixelsPerByte);
+}
+
+// --- JPEG
+
+constexpr std::string_view jpegMagic = "\xFF\xD8\xFF";
+
+enum Marker : std::uint32_t { endOfImage = 0xD9, startOfScan = 0xDA };
+
+bool isRestart(std::uint32_t marker) {
+    return marker >= 0xD0 && marker <= 0xD7;
+}
+
+bool isFrame(std::uint32_t marker) {
+    return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+}
+
+// The place of the marker that ends the run of packed pixels at `at`, the file's end if there is none.
+std::size_t endOfScan(const FileBytes& file, std::size_t at) {
+    for (; file.has(at, 2); ++at)
+        if (file.u8(at) == 0xFF && file.u8(at + 1) != 0 && file.u8(at + 1) != 0xFF && !isRestart(file.u8(at + 1)))
+            return at;
+    return file.size();
+}
+
+// Goes from marker to marker up to the one at the end. The decoder would fill what is cut off with grey.
+bool completeJpeg(const FileBytes& file) {
+    bool sized = false;
+    for (std::size_t at = 2; file.has(at, 2);) {
+        const std::uint32_t marker = file.u8(at + 1);
+        if (file.u8(at) != 0xFF) return false;
+        if (marker == 0xFF) {  // a filling byte
+            ++at;
+            continue;
+        }
+        if (marker == endOfImage) return sized;
+        if (!file.has(at, 4)) return false;
+        const std::size_t length = file.bigU16(at + 2);
+        if (isFrame(marker)) {
+            if (!file.has(at, 9)) return false;
+            sized = plausible(file.bigU16(at + 7), file.bigU16(at + 5), file.size() * jpegPixelsPerByte);
+            if (!sized) return false;
+        }
+        at += 2 + length;
+        if (marker == startOfScan) at = endOfScan(file, at);
+    }
+    return false;
+}
+
+const char* usableFormat(const FileBytes& file) {
+    if (file.startsWith("BM")) return plausibleBitmap(file) ? "BMP" : nullptr;
+    if (file.startsWith(pngMagic)) return plausiblePng(file) && completePng(file) ? "PNG" : nullptr;
+    if (file.startsWith(jpegMagic)) return completeJpeg(file) ? "JPG" : nullptr;
+    return nullptr;
+}
+
+// A surface of SDL's whose pixels are those of a bitmap.
+SurfaceHandle wrapped(Bitmap& bitmap) {
+    return SurfaceHandle(SDL_CreateRGBSurfaceWithFormatFrom(bitmap.row(0), bitmap.width(), bitmap.height(), 32,
+                                                            bitmap.width() * 4, SDL_PIXELFORMAT_XRGB8888));
+}
+
+}  // namespace
+
+SurfaceHandle decodePicture(std::string_view bytes) {
+    const char* const format = usableFormat(FileBytes(bytes));
+    if (format == nullptr) return nullptr;
+    SDL_RWops* const in = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
+    return SurfaceHandle(IMG_LoadTyped_RW(in, 1, format));
+}
+
+void failDamaged(const Files& files, TextView path) {
+    throw DataError("Das Bild \"" + files.display(path) + Text("\" ist beschädigt."_t));
+}
+
+Bitmap loadPicture(const Files& files, TextView path) {
+    const std::string bytes = files.read(path);
+    const SurfaceHandle picture = decodePicture(bytes);
+    if (!picture) failDamaged(files, path);
+    Bitmap bitmap({picture->w, picture->h});
+    const SurfaceHandle target = wrapped(bitmap);
+    // A bitmap's fourth byte means nothing; what a PNG lets through is black.
+    if (bytes.starts_with("BM")) SDL_SetSurfaceBlendMode(picture.get(), SDL_BLENDMODE_NONE);
+    if (!target || SDL_BlitSurface(picture.get(), nullptr, target.get(), nullptr) != 0) failDamaged(files, path);
+    const std::size_t count = static_cast<std::size_t>(bitmap.width()) * static_cast<std::size_t>(bitmap.height());
+    std::uint32_t* const pixels = bitmap.row(0);
+    for (std::size_t i = 0; i < count; ++i) pixels[i] &= white.rgb;
+    return bitmap;
+}
+
+bool savePng(const Bitmap& bitmap, const std::string& path) {
+    if (bitmap.empty()) return false;
+    Bitmap copy = bitmap;
+    const SurfaceHandle surface = wrapped(copy);
+    return surface && IMG_SavePNG(surface.get(), path.c_str()) == 0;
+}
+
+}  // namespace zentrox

@@ -1,0 +1,159 @@
+#include "platform/machine/files.h"
+
+#include <algorithm>
+#include <fstream>
+
+#include "platform/values/error.h"
+
+namespace zentrox {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool isSeparator(char c) {
+    return c == '\\' || c == '/';
+}
+
+// A name on the disk as the game spells it. What can't stand in a name of the game becomes a question mark.
+Text gameName(const std::string& name) {
+    Text text = fromUtf8(name);
+    std::replace(text.begin(), text.end(), '\\', '?');
+    return text;
+}
+
+// No file of any system has a zero in its name; as it stands it would cut the name short.
+std::string systemName(TextView name) {
+    std::string utf8 = toUtf8(name);
+    std::replace(utf8.begin(), utf8.end(), '\0', '\x7F');
+    return utf8;
+}
+
+std::vector<TextView> componentsOf(TextView path) {
+    std::vector<TextView> components;
+    while (!path.empty()) {
+        const auto end =
+            static_cast<std::size_t>(std::find_if(path.begin(), path.end(), isSeparator) - path.begin());
+        if (end > 0) components.push_back(path.substr(0, end));
+        path.remove_prefix(std::min(end + 1, path.size()));
+    }
+    return components;
+}
+
+template <class Visit>
+void eachEntry(const fs::path& directory, Visit visit) {
+    std::error_code error;
+    for (fs::directory_iterator entry(directory, error), end; !error && entry != end; entry.increment(error))
+        visit(*entry);
+}
+
+bool isPlainFile(const fs::path& path) {
+    std::error_code error;
+    return fs::is_regular_file(path, error);
+}
+
+// The entry of a directory whose name is `name` but for case, the first in the order of bytes if there are several.
+std::string entryLike(const fs::path& directory, TextView name) {
+    std::string found;
+    eachEntry(directory, [&](const fs::directory_entry& entry) {
+        const std::string candidate = entry.path().filename().native();
+        if (equalIgnoringCase(gameName(candidate), name) && (found.empty() || candidate < found)) found = candidate;
+    });
+    return found;
+}
+
+fs::path found(fs::path at, TextView below) {
+    bool there = true;
+    for (const TextView name : componentsOf(below)) {
+        fs::path next = at / systemName(name);
+        std::error_code error;
+        if (there && !fs::exists(next, error)) {
+            const std::string other = entryLike(at, name);
+            there = !other.empty();
+            if (there) next = at / other;
+        }
+        at = std::move(next);
+    }
+    // A path that ends in a backslash names a directory, and no file answers to it.
+    if (!below.empty() && isSeparator(below.back()) && at.has_filename()) at /= "";
+    return at;
+}
+
+bool startsWithIgnoringCase(TextView text, TextView start) {
+    return text.size() >= start.size() && equalIgnoringCase(text.substr(0, start.size()), start);
+}
+
+}  // namespace
+
+Files::Files(const fs::path& programDirectory) : root_(fs::absolute(programDirectory).lexically_normal()) {
+    if (!root_.has_filename()) root_ = root_.parent_path();
+    programDirectory_ = gamePath(root_);
+    if (!programDirectory_.ends_with('\\')) programDirectory_ += '\\';
+}
+
+fs::path Files::systemPath(TextView path) const {
+    if (startsWithIgnoringCase(path, programDirectory_)) return found(root_, path.substr(programDirectory_.size()));
+    const bool whole = !path.empty() && isSeparator(path.front());
+    return found(whole ? fs::path("/") : root_, path);
+}
+
+Text Files::gamePath(const fs::path& path) {
+    Text text = path.is_absolute() ? "\\" : "";
+    for (const fs::path& part : path.relative_path()) {
+        if (!text.empty() && !text.ends_with('\\')) text += '\\';
+        text += gameName(part.native());
+    }
+    return text;
+}
+
+bool Files::exists(TextView path) const {
+    return isPlainFile(systemPath(path));
+}
+
+bool Files::holdsFile(TextView directory) const {
+    return !list(directory).empty();
+}
+
+std::vector<Text> Files::list(TextView directory) const {
+    std::vector<Text> names;
+    eachEntry(systemPath(directory), [&](const fs::directory_entry& entry) {
+        if (isPlainFile(entry.path())) names.push_back(gameName(entry.path().filename().native()));
+    });
+    std::sort(names.begin(), names.end(), [](const Text& a, const Text& b) {
+        const Text bigA = upper(a);
+        const Text bigB = upper(b);
+        return bigA != bigB ? bigA < bigB : a < b;
+    });
+    return names;
+}
+
+std::string Files::read(TextView path) const {
+    const fs::path file = systemPath(path);
+    std::error_code error;
+    if (!fs::exists(file, error)) throw DataError("Die Datei \"" + display(path) + "\" fehlt.");
+    std::ifstream in;
+    if (isPlainFile(file)) in.open(file, std::ios::binary);
+    const auto size = fs::file_size(file, error);
+    if (!in || !in.is_open() || error)
+        throw DataError("Die Datei \"" + display(path) + "\" kann nicht gelesen werden.");
+    std::string bytes(size, '\0');
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(in.gcount()));
+    return bytes;
+}
+
+void Files::makeDirectory(TextView path) const {
+    std::error_code error;
+    fs::create_directory(systemPath(path), error);
+}
+
+Text Files::display(TextView path) const {
+    const fs::path file = systemPath(path).lexically_normal();
+    const fs::path below = file.lexically_relative(root_);
+    const bool under = !below.empty() && *below.begin() != ".." && *below.begin() != ".";
+    Text text = gamePath(under ? below : file);
+    if (!path.empty() && isSeparator(path.back()) && !text.ends_with('\\')) text += '\\';
+    return text;
+}
+
+}  // namespace zentrox

@@ -1,0 +1,40 @@
+#include "platform/machine/system.h"
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <system_error>
+
+namespace zentrox {
+
+std::filesystem::path programFile() {
+    std::error_code error;
+    const auto file = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::filesystem::current_path() / "zentrox" : file;
+}
+
+std::filesystem::path programDirectory() {
+    return programFile().parent_path();
+}
+
+bool startProcess(const std::vector<std::string>& command) {
+    if (command.empty()) return false;
+    std::vector<char*> words;
+    words.reserve(command.size() + 1);
+    for (const std::string& word : command) words.push_back(const_cast<char*>(word.c_str()));
+    words.push_back(nullptr);
+
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    // A session of its own, so that it outlives this process and its terminal.
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    static_cast<void>(std::signal(SIGCHLD, SIG_IGN));  // nobody waits for it
+    pid_t child = 0;
+    const int failure = posix_spawnp(&child, words[0], nullptr, &attributes, words.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    return failure == 0;
+}
+
+}  // namespace zentrox

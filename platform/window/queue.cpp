@@ -1,0 +1,182 @@
+#include "platform/window/queue.h"
+
+#include <algorithm>
+
+#include "platform/values/error.h"
+
+namespace zentrox {
+
+namespace {
+
+constexpr Milliseconds toolTipRest = 500;  // how long the pointer rests before a tool tip shows
+
+}  // namespace
+
+Timer::Timer(Queue& queue, Milliseconds period, bool enabled, std::function<void()> onTick)
+    : queue_(queue),
+      period_(period),
+      enabled_(enabled),
+      onTick_(std::move(onTick)) {
+    queue_.timers_.push_back(this);
+    begin();
+}
+
+Timer::~Timer() {
+    std::erase(queue_.timers_, this);
+}
+
+void Timer::setEnabled(bool on) {
+    if (on == enabled_) return;
+    enabled_ = on;
+    begin();
+}
+
+void Timer::setPeriod(Milliseconds period) {
+    period_ = period;
+    begin();
+}
+
+void Timer::begin() {
+    if (ticking()) due_ = queue_.clock() + step();
+}
+
+Queue::Reason::Reason(Queue& queue, TextView why) : queue_(queue) {
+    queue_.reasons_.emplace_back(why);
+}
+Queue::Reason::~Reason() {
+    queue_.reasons_.pop_back();
+}
+
+Text Queue::reasons() const {
+    Text all;
+    for (const Text& why : reasons_) all += (all.empty() ? "" : " > ") + why;
+    return all;
+}
+
+void Queue::endProgram(int status) {
+    throw ProgramEnd{status};
+}
+
+void Queue::yield(TextView why) {
+    const Reason reason(*this, why);
+    turn();
+    present();
+}
+
+void Queue::waitUntil(TextView why, const std::function<bool()>& condition) {
+    const Reason reason(*this, why);
+    for (;;) {
+        // Looked at after each input, so that a key tapped quickly is seen held.
+        while (serveInput())
+            if (condition()) return;
+        serveTimers();
+        if (condition()) return;
+        sleepUntil(std::nullopt);
+    }
+}
+
+void Queue::waitUntil(TextView why, const std::function<bool()>& condition, Milliseconds deadline) {
+    const Reason reason(*this, why);
+    for (;;) {
+        while (serveInput())
+            if (condition()) return;
+        serveTimers();
+        if (condition() || clock() >= deadline) return;
+        sleepUntil(deadline);
+    }
+}
+
+void Queue::nextFrame(TextView why) {
+    const Reason reason(*this, why);
+    turn();
+    const Milliseconds frame = backend_.nextFrame();
+    while (clock() < frame) {
+        sleepUntil(frame);
+        turn();
+    }
+}
+
+void Queue::turn() {
+    while (serveInput()) {
+    }
+    serveTimers();
+}
+
+bool Queue::serveInput() {
+    const auto input = backend_.nextInput();
+    if (!input) return false;
+    deliver(*input);
+    return true;
+}
+
+void Queue::deliver(const Input& input) {
+    Window* const window = active();
+    if (window == nullptr) return;
+    using Kind = Input::Kind;
+    if (input.kind != Kind::resize) {
+        window->showToolTip(false);
+        forgetToolTip();
+    }
+    switch (input.kind) {
+        case Kind::move: {
+            window->deliverMove(input.at, input.button);
+            if (active() == window) toolTipDue_ = clock() + toolTipRest;
+            return;
+        }
+        case Kind::press: return window->deliverDown(input.at, input.button, input.clicks);
+        case Kind::release: return window->deliverUp(input.at, input.button);
+        case Kind::wheel: return window->deliverWheel(input.at, input.code);
+        case Kind::keyDown: return window->deliverKeyDown(input.code, input.shift, input.control, input.repeat);
+        case Kind::keyUp: return window->deliverKeyUp(input.code);
+        case Kind::keyPress: return window->deliverKeyPress(input.character);
+        case Kind::resize:
+            if (window->frame() == Frame::sizable) window->resizeClient(input.size);
+            return;
+        case Kind::close: return window->requestClose();
+    }
+}
+
+// Each timer that is due when this begins fires once, the earliest deadline first; a handler may make and end
+// timers.
+void Queue::serveTimers() {
+    serveToolTip();
+    const Milliseconds now = clock();
+    std::vector<std::pair<Milliseconds, Timer*>> due;
+    for (Timer* const timer : timers_)
+        if (timer->ticking() && timer->due_ <= now) due.emplace_back(timer->due_, timer);
+    std::stable_sort(due.begin(), due.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (const auto& [deadline, timer] : due) {
+        const bool alive = std::find(timers_.begin(), timers_.end(), timer) != timers_.end();
+        if (!alive || !timer->ticking() || timer->due_ != deadline) continue;
+        const Milliseconds step = timer->step();
+        timer->due_ += ((now - timer->due_) / step + 1) * step;
+        const auto tick = timer->onTick_;
+        tick();
+    }
+}
+
+void Queue::serveToolTip() {
+    if (!toolTipDue_ || clock() < *toolTipDue_) return;
+    forgetToolTip();
+    if (Window* const window = active()) window->showToolTip(true);
+}
+
+std::optional<Milliseconds> Queue::nextTimer() const {
+    std::optional<Milliseconds> next = toolTipDue_;
+    for (const Timer* const timer : timers_)
+        if (timer->ticking() && (!next || timer->due_ < *next)) next = timer->due_;
+    return next;
+}
+
+void Queue::present() {
+    backend_.present(windows_);
+}
+
+void Queue::sleepUntil(std::optional<Milliseconds> deadline) {
+    present();
+    for (const auto& other : {nextTimer(), backend_.presentDue()})
+        if (other && (!deadline || *other < *deadline)) deadline = other;
+    backend_.sleep(deadline);
+}
+
+}  // namespace zentrox
