@@ -1,0 +1,66 @@
+#include "main/options.h"
+
+#include <CLI/CLI.hpp>
+
+namespace zentrox {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int wrongCall = 2;
+
+fs::path whole(const fs::path& path) {
+    std::error_code error;
+    return fs::absolute(path, error).lexically_normal();
+}
+
+// Words that name no option are the game's, with blanks between them as they were typed.
+std::string joined(const std::vector<std::string>& words) {
+    std::string line;
+    for (const std::string& word : words) line += (line.empty() ? "" : " ") + word;
+    return line;
+}
+
+}  // namespace
+
+Call readOptions(int count, const char* const* words, const fs::path& programDirectory) {
+    CLI::App app("Plays the story in the program's directory, or in DIR.", "zentrox");
+    std::string directory = programDirectory.string();
+    std::vector<std::string> roots;
+    std::vector<std::string> room;
+    const CLI::Validator there = CLI::Validator(CLI::ExistingDirectory).description("");
+    app.set_help_flag("--help", "Shows this and ends");
+    app.set_version_flag("--version", "zentrox " ZENTROX_VERSION, "Shows the version and ends");
+    app.add_option("--dir", directory, "Where the data directories and the saved games lie")
+        ->type_name("DIR")
+        ->take_last()
+        ->check(there);
+    app.add_option("--root", roots, "A directory to take for the CD, before those that are mounted; may be repeated")
+        ->type_name("DIR")
+        ->expected(1)
+        ->allow_extra_args(false)
+        ->take_all()
+        ->check(there);
+    app.add_option("ROOM", room, "The file name of a room; the game then begins there, without its menu")
+        ->type_name("");
+    app.footer(
+        "F11 or Alt+Enter switches to full screen and back.\n"
+        "ZENTROX_SOUND=none in the environment plays without sound.");
+    try {
+        app.parse(count, words);
+    } catch (const CLI::ParseError& error) {
+        return {std::nullopt, app.exit(error) == 0 ? 0 : wrongCall};
+    }
+    Options options{whole(directory), {}, joined(room)};
+    for (const std::string& root : roots) options.roots.push_back(whole(root));
+    return {options, 0};
+}
+
+std::vector<std::string> restartCommand(const fs::path& program, const Options& options) {
+    std::vector<std::string> command{program.string(), "--dir", options.directory.string()};
+    for (const fs::path& root : options.roots) command.insert(command.end(), {"--root", root.string()});
+    return command;
+}
+
+}  // namespace zentrox

@@ -1,0 +1,28 @@
+// The words behind the program's name.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zentrox {
+
+struct Options {
+    std::filesystem::path directory;           // where the data directories lie; absolute
+    std::vector<std::filesystem::path> roots;  // what is taken for the CD, in the order given; absolute
+    std::string commandLine;                   // the game's own, UTF-8: the file name of a room, or empty
+};
+
+// What the words ask for, or the exit status of a call that ends here: 0 after help and version, 2 after a wrong one.
+// Help goes to the standard output, complaints to the standard error output.
+struct Call {
+    std::optional<Options> options;
+    int status = 0;
+};
+Call readOptions(int count, const char* const* words, const std::filesystem::path& programDirectory);
+
+// Starts the game anew in its menu: the same directories, no room.
+std::vector<std::string> restartCommand(const std::filesystem::path& program, const Options& options);
+
+}  // namespace zentrox
