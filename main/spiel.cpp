@@ -19,7 +19,7 @@ namespace {
 
 constexpr int datenfehler = 1;
 
-// The games of the story by their names. A game that is not there yet counts as lost.
+// The games of the story by their names.
 Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
     const auto zeigt = [&](void (*spiel)(Platform&, Zustand&, Medien&)) {
         return [&, spiel] { spiel(platform, zustand, medien); };

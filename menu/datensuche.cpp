@@ -1,29 +1,12 @@
 #include "menu/datensuche.h"
 
-#include <array>
+#include "engine/language/directories.h"
 
 namespace zentrox {
 
 namespace {
 
 constexpr TextView Marke = "Zentrox";  // a plain file in the CD's root
-
-struct Datenverzeichnis {
-    Text Zustand::*pfad;
-    TextView installiert;
-    TextView aufCD;
-};
-
-constexpr std::array Verzeichnisse{
-    Datenverzeichnis{&Zustand::PfadSounds, "sounds\\", "sounds\\"},
-    Datenverzeichnis{&Zustand::PfadGraphics, "graphics\\", "Graphics\\"},
-    Datenverzeichnis{&Zustand::PfadMovies, "movies\\", "Movies\\"},
-    Datenverzeichnis{&Zustand::PfadCursors, "cursors\\", "Cursors\\"},
-    Datenverzeichnis{&Zustand::PfadItems, "items\\", "Items\\"},
-    Datenverzeichnis{&Zustand::PfadMusics, "musics\\", "Musics\\"},
-    Datenverzeichnis{&Zustand::PfadGames, "games\\", "Games\\"},
-    Datenverzeichnis{&Zustand::PfadRooms, "rooms\\", "Rooms\\"},
-};
 
 Text cdLaufwerk(const Files& files, const std::vector<std::filesystem::path>& wurzeln) {
     Text gefunden;
@@ -40,12 +23,12 @@ Text cdLaufwerk(const Files& files, const std::vector<std::filesystem::path>& wu
 Text DatenSuchen(const Files& files, const std::vector<std::filesystem::path>& wurzeln, Zustand& z) {
     Text laufwerk = cdLaufwerk(files, wurzeln);
     const Text& programm = files.programDirectory();
-    for (const Datenverzeichnis& verzeichnis : Verzeichnisse) {
+    PfadeSetzen(z, programm);
+    for (const Datenverzeichnis& verzeichnis : Datenverzeichnisse) {
         Text& pfad = z.*verzeichnis.pfad;
-        pfad = programm + Text(verzeichnis.installiert);
-        if (!files.holdsFile(pfad)) pfad = laufwerk + "Spiel\\" + Text(verzeichnis.aufCD);
+        if (!files.holdsFile(pfad)) pfad = laufwerk + "Spiel\\" + Text(verzeichnis.aufCD) + "\\";
     }
-    files.makeDirectory(programm + "saves\\");
+    files.makeDirectory(programm + Text(Spielstände));
     return laufwerk;
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "engine/files/raumdatei.h"
+#include "engine/language/directories.h"
 #include "engine/state/felder.h"
 #include "platform/values/keys.h"
 
@@ -61,7 +62,8 @@ void Form1::Zeigen() {
 void Form1::Form_Load() {
     platform_.random.reseed(platform_.backend.seed());
     z_.PI = 4.0F * std::atan(1.0F);
-    if (z_.PfadSounds.empty()) pfadeSetzen();
+    // Started without the menu: everything lies in the program's directory.
+    if (z_.PfadSounds.empty()) PfadeSetzen(z_, platform_.files.programDirectory());
     z_.GezogenerGegenstand = -1;
     z_.InventarLetzter = -1;
     VersteckeLeiste();
@@ -69,19 +71,6 @@ void Form1::Form_Load() {
     tonStarten();
     open();
     Lade(z_.PfadRooms + ersterRaum());
-}
-
-// Started without the menu: everything lies in the program's directory.
-void Form1::pfadeSetzen() {
-    const Text& hier = platform_.files.programDirectory();
-    z_.PfadSounds = hier + "sounds\\";
-    z_.PfadGraphics = hier + "graphics\\";
-    z_.PfadMovies = hier + "movies\\";
-    z_.PfadCursors = hier + "cursors\\";
-    z_.PfadItems = hier + "items\\";
-    z_.PfadMusics = hier + "musics\\";
-    z_.PfadGames = hier + "games\\";
-    z_.PfadRooms = hier + "rooms\\";
 }
 
 void Form1::tonStarten() {

@@ -74,7 +74,6 @@ private:
     void Picture1_MouseUp(Button Taste, float X, float Y);
 
     // --- start
-    void pfadeSetzen();
     void tonStarten();
     void ThrowError(TextView Message);
     Text ersterRaum() const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/language/directories.h"
 #include "platform/platform.h"
 #include "platform/values/keys.h"
 
@@ -33,7 +34,7 @@ Text titel(const Zustand& z) {
 }  // namespace
 
 Text Speicherverzeichnis(const Files& files) {
-    return files.programDirectory() + "saves\\";
+    return files.programDirectory() + Text(Spielstände);
 }
 
 Dialog::Dialog(Platform& platform, Zustand& zustand)

@@ -47,15 +47,15 @@ constexpr int blocks = 1000;
 // One false condition over a long nest of blocks.
 void scanOverBlocks(benchmark::State& state) {
     Skript s;
-    add(s, opcode::WennParameter, "anderes");
+    add(s, "WennParameter"_op, "anderes");
     for (int i = 0; i < blocks; ++i) {
-        add(s, opcode::WennParameter, "x");
+        add(s, "WennParameter"_op, "x");
         add(s, 2, "Text");
-        add(s, opcode::Sonst);
+        add(s, "Sonst"_op);
         add(s, 3, "M");
-        add(s, opcode::EndeWenn);
+        add(s, "EndeWenn"_op);
     }
-    add(s, opcode::EndeWenn);
+    add(s, "EndeWenn"_op);
     Engine engine;
     engine.measure(state, s, s.Letzter + 1);
 }
@@ -66,12 +66,12 @@ BENCHMARK(scanOverBlocks);
 void branchesOfADrop(benchmark::State& state) {
     Skript s;
     for (int i = 0; i < blocks; ++i) {
-        add(s, opcode::WennParameter, i % 8 == 0 ? "Schluessel" : "Seil");
-        add(s, opcode::Marke, "a");
-        add(s, opcode::Marke, "b");
-        add(s, opcode::Sonst);
-        add(s, opcode::Marke, "c");
-        add(s, opcode::EndeWenn);
+        add(s, "WennParameter"_op, i % 8 == 0 ? "Schluessel" : "Seil");
+        add(s, "Marke"_op, "a");
+        add(s, "Marke"_op, "b");
+        add(s, "Sonst"_op);
+        add(s, "Marke"_op, "c");
+        add(s, "EndeWenn"_op);
     }
     Engine engine;
     engine.measure(state, s, s.Letzter + 1);
@@ -81,14 +81,14 @@ BENCHMARK(branchesOfADrop);
 // The cases of a long choice, walked over from the first one's end.
 void scanOverCases(benchmark::State& state) {
     Skript s;
-    add(s, opcode::Fall, "1");
+    add(s, "Fall"_op, "1");
     for (int i = 0; i < blocks; ++i) {
-        add(s, opcode::Fall, std::to_string(i));
-        add(s, opcode::Auswahl, "1|a|b");
-        add(s, opcode::Fall, "1");
-        add(s, opcode::EndeAuswahl);
+        add(s, "Fall"_op, std::to_string(i));
+        add(s, "Auswahl"_op, "1|a|b");
+        add(s, "Fall"_op, "1");
+        add(s, "EndeAuswahl"_op);
     }
-    add(s, opcode::EndeAuswahl);
+    add(s, "EndeAuswahl"_op);
     Engine engine;
     engine.measure(state, s, s.Letzter + 1);
 }

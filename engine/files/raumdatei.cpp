@@ -1,6 +1,8 @@
 #include "engine/files/raumdatei.h"
 
 #include "engine/files/fieldreader.h"
+#include "engine/language/limits.h"
+#include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
 
 namespace zentrox {
@@ -9,7 +11,6 @@ namespace {
 
 constexpr std::size_t FelderJeBefehl = 2;
 constexpr std::size_t FelderJeObjekt = 9 + Maskenspalten * Maskenzeilen;  // with three empty scripts
-constexpr std::int32_t Fehlerton = 16;
 
 // The lists grow as they are read: the number in front of them is only a claim.
 Skript readSkript(FieldReader& in, SkriptOrte* orte) {
@@ -68,7 +69,7 @@ Skript LadeSkript(const Files& files, TextView path) {
     if (files.exists(path)) return parseSkript(files.read(path), files.display(path));
     Skript skript;
     if (!path.ends_with("2.skp")) return skript;
-    skript.Befehl = {Fehlerton};
+    skript.Befehl = {"Fehlerton"_op};
     skript.Letzter = 0;
     return skript;
 }

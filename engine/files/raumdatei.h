@@ -9,9 +9,6 @@
 
 namespace zentrox {
 
-// The longest name of a room's picture; what is longer is cut.
-constexpr std::size_t LängstesBild = 100;
-
 // Where the parts of a file begin, in bytes from its start, for tools that point at them.
 struct SkriptOrte {
     std::size_t anfang = 0;            // its last index

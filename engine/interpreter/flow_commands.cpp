@@ -8,13 +8,6 @@ namespace zentrox {
 
 namespace {
 
-bool istBedingung(std::int32_t befehl) {
-    return befehl == opcode::WennMerker || befehl == opcode::WennParameter;
-}
-bool schließtZweig(std::int32_t befehl) {
-    return befehl == opcode::Sonst || befehl == opcode::EndeWenn;
-}
-
 // An argument as a name, trimmed and in upper case, against one that is taken as it is.
 bool istName(TextView argument, TextView name) {
     const TextView eigener = Getrimmt(argument);
@@ -26,11 +19,11 @@ bool istName(TextView argument, TextView name) {
 // its end. A `Sonst` on the way closes one branch and opens the next.
 void überspringe(Lauf& lauf, int tiefe) {
     do {
-        if (lauf.befehl() == opcode::Sonst) ++tiefe;
+        if (divides(Block::condition, lauf.befehl())) ++tiefe;
         ++lauf.zeiger;
         if (lauf.amEnde()) return;
-        if (schließtZweig(lauf.befehl())) --tiefe;
-        if (istBedingung(lauf.befehl())) ++tiefe;
+        if (divides(Block::condition, lauf.befehl()) || closes(Block::condition, lauf.befehl())) --tiefe;
+        if (opens(Block::condition, lauf.befehl())) ++tiefe;
     } while (tiefe != 0);
 }
 
@@ -41,9 +34,9 @@ void geheZumFall(Lauf& lauf, const Passt& passt) {
     while (tiefe != -1) {
         ++lauf.zeiger;
         if (lauf.amEnde()) return;
-        if (lauf.befehl() == opcode::EndeAuswahl) --tiefe;
-        if (lauf.befehl() == opcode::Auswahl) ++tiefe;
-        if (lauf.befehl() == opcode::Fall && tiefe == 0 && passt(lauf.argument())) return;
+        if (closes(Block::choice, lauf.befehl())) --tiefe;
+        if (opens(Block::choice, lauf.befehl())) ++tiefe;
+        if (divides(Block::choice, lauf.befehl()) && tiefe == 0 && passt(lauf.argument())) return;
     }
 }
 
@@ -75,7 +68,7 @@ void Interpreter::Fall(Lauf& lauf) {
 void Interpreter::Springe(Lauf& lauf) {
     const TextView ziel = Getrimmt(lauf.argument());
     for (std::int32_t i = 0; i <= lauf.letzter(); ++i) {
-        if (lauf.befehl(i) != opcode::Marke || !equalIgnoringCase(Getrimmt(lauf.argument(i)), ziel)) continue;
+        if (lauf.befehl(i) != "Marke"_op || !equalIgnoringCase(Getrimmt(lauf.argument(i)), ziel)) continue;
         lauf.zeiger = i;
         return;
     }

@@ -1,5 +1,6 @@
 // The doors out of a room: the mini-games, saved games, the credits and the end.
 #include "engine/interpreter/interpreter.h"
+#include "engine/language/words.h"
 #include "engine/state/felder.h"
 #include "engine/state/merker.h"
 
@@ -52,9 +53,9 @@ void Interpreter::Spielen(Lauf& lauf) {
 // The words count exactly, blanks and case included.
 void Interpreter::System(Lauf& lauf) {
     const TextView wort = lauf.argument();
-    if (wort == "Save") return raum_.SpielSpeichern();
-    if (wort == "Abspann") return raum_.Abspann();
-    if (wort != "Open") raum_.Entladen();
+    if (wort == systemwort::Save) return raum_.SpielSpeichern();
+    if (wort == systemwort::Abspann) return raum_.Abspann();
+    if (wort != systemwort::Open) raum_.Entladen();
     // The run of the loaded room has done the closing steps.
     lauf.schluss = raum_.SpielLaden();
     lauf.schlussSchritte = !lauf.schluss;

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "engine/language/limits.h"
 #include "engine/state/felder.h"
 #include "platform/values/error.h"
 
@@ -24,6 +25,52 @@ private:
 };
 
 }  // namespace
+
+// Each opcode of the table has just one handler, or this does not compile.
+constexpr std::array<Interpreter::Handler, OpcodeAnzahl> Interpreter::handlers = [] {
+    std::array<Handler, OpcodeAnzahl> all{};
+    const auto set = [&](std::int32_t number, Handler handler) {
+        Handler& place = all[static_cast<std::size_t>(number)];
+        if (place != nullptr) throw "this opcode has a handler already";
+        place = handler;
+    };
+    set("WennMerker"_op, &Interpreter::WennMerker);
+    set("Ton"_op, &Interpreter::Ton);
+    set("Text"_op, &Interpreter::TextZeigen);
+    set("SetzeMerker"_op, &Interpreter::SetzeMerker);
+    set("Raumwechsel"_op, &Interpreter::Raumwechsel);
+    set("ZeigBild"_op, &Interpreter::ZeigBild);
+    set("NimmGegenstand"_op, &Interpreter::NimmGegenstand);
+    set("GibGegenstand"_op, &Interpreter::GibGegenstand);
+    set("WennParameter"_op, &Interpreter::WennParameter);
+    set("Sonst"_op, &Interpreter::Sonst);
+    set("EndeWenn"_op, &Interpreter::Nichts);
+    set("Film"_op, &Interpreter::Film);
+    set("LöscheMerker"_op, &Interpreter::LöscheMerker);
+    set("SetzeZeiger"_op, &Interpreter::SetzeZeiger);
+    set("ZoomIN"_op, &Interpreter::ZoomIN);
+    set("ZoomOUT"_op, &Interpreter::ZoomOUT);
+    set("Fehlerton"_op, &Interpreter::Fehlerton);
+    set("ObjektAn"_op, &Interpreter::ObjektAn);
+    set("ObjektAus"_op, &Interpreter::ObjektAus);
+    set("Musik"_op, &Interpreter::Musik);
+    set("RahmenAuf"_op, &Interpreter::RahmenAuf);
+    set("RahmenZu"_op, &Interpreter::RahmenZu);
+    set("BöseÄndern"_op, &Interpreter::BöseÄndern);
+    set("Portrait"_op, &Interpreter::Portrait);
+    set("Auswahl"_op, &Interpreter::Auswahl);
+    set("Fall"_op, &Interpreter::Fall);
+    set("EndeAuswahl"_op, &Interpreter::Nichts);
+    set("Spiel"_op, &Interpreter::Spielen);
+    set("Springe"_op, &Interpreter::Springe);
+    set("Marke"_op, &Interpreter::Nichts);
+    set("System"_op, &Interpreter::System);
+    set("CountDownSetzen"_op, &Interpreter::CountDownSetzen);
+    set("Blende"_op, &Interpreter::Blende);
+    for (const Handler handler : all)
+        if (handler == nullptr) throw "an opcode has no handler";
+    return all;
+}();
 
 Interpreter::Interpreter(Platform& platform, Zustand& zustand, Medien& medien, Raumfenster& raum,
                          const Spieltabelle& spiele, Beobachter* beobachter)
@@ -67,7 +114,7 @@ void Interpreter::durchlaufen(Lauf& lauf) {
         verfolgen(lauf);
 #endif
         if (beobachter_ != nullptr) beobachter_->Anweisung(lauf.nummer, lauf.zeiger);
-        if (const Opcode* const opcode = findOpcode(lauf.befehl())) (this->*opcode->run)(lauf);
+        if (findOpcode(lauf.befehl()) != nullptr) (this->*handlers[static_cast<std::size_t>(lauf.befehl())])(lauf);
     }
 }
 

@@ -4,21 +4,14 @@
 
 #include "engine/interpreter/beobachter.h"
 #include "engine/interpreter/lauf.h"
-#include "engine/interpreter/opcodes.h"
 #include "engine/interpreter/raumfenster.h"
 #include "engine/interpreter/spieltabelle.h"
+#include "engine/language/opcodes.h"
 #include "platform/platform.h"
 
 namespace zentrox {
 
 class Medien;
-
-// So many runs may stand inside each other before the story is stopped. Rooms that lead on by their start scripts
-// nest as deep as their chain is long. A level takes 2 to 3 KB of stack with sanitizers, its room window not
-// counted, so there is room to spare.
-constexpr int TiefsterLauf = 500;
-// More options than this in one choice are damaged data.
-constexpr int MeisteOptionen = 1000;
 
 class Interpreter {
 public:
@@ -35,7 +28,9 @@ public:
     void SkriptAusführen(const Skript& skript, int objektIndex, Text parameter);
 
 private:
-    friend const Opcodetabelle& opcodes();
+    // What an opcode does, in the order of the table.
+    using Handler = void (Interpreter::*)(Lauf&);
+    static const std::array<Handler, OpcodeAnzahl> handlers;
 
     void eröffnen();
     void durchlaufen(Lauf& lauf);

@@ -12,7 +12,7 @@ namespace zentrox {
 // leaves its outcome there: a truth, or for "MEMORY" one of the texts "W", "L" and "U".
 using Spiel = std::function<void()>;
 
-// By names in upper case: "PI", "JUMP", "ESEL", "HDW", "PRÜGEL", "BRUHKS", "PONG", "MEMORY".
+// By the names of `Spiele()`.
 using Spieltabelle = std::map<Text, Spiel, std::less<>>;
 
 }  // namespace zentrox

@@ -1,5 +1,6 @@
 // What a script says and plays: texts, choices, voice, music, video.
 #include "engine/interpreter/interpreter.h"
+#include "engine/language/limits.h"
 #include "engine/state/felder.h"
 #include "media/medien.h"
 #include "platform/values/error.h"

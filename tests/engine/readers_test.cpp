@@ -4,7 +4,7 @@
 
 #include "engine/files/fieldreader.h"
 #include "engine/files/raumdatei.h"
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "platform/values/error.h"
 #include "tests/support/temp_directory.h"
 
@@ -206,7 +206,7 @@ TEST(ScriptFile, AMissingFileIsAnEmptyScriptOrARefusal) {
     EXPECT_EQ(LadeSkript(files, items + "ball2.SKP").Letzter, -1) << "the case of the name counts";
     const Skript absage = LadeSkript(files, items + "ball2.skp");
     ASSERT_EQ(absage.Letzter, 0);
-    EXPECT_EQ(absage.Befehl.at(0), opcode::Fehlerton);
+    EXPECT_EQ(absage.Befehl.at(0), "Fehlerton"_op);
 
     directory.write("items/ball2.skp", "-1");
     EXPECT_EQ(LadeSkript(files, items + "ball2.skp").Letzter, -1);

@@ -1,5 +1,6 @@
 // How a run begins and ends, and what may happen inside it.
 #include "engine/files/raumdatei.h"
+#include "engine/language/limits.h"
 #include "engine/state/merker.h"
 #include "platform/values/error.h"
 #include "tests/engine/engine_fixture.h"

@@ -2,7 +2,7 @@
 #include <fstream>
 #include <set>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "story_support.h"
 #include "tools/story/inputs.h"
 #include "tools/story/reference.h"

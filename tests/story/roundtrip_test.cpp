@@ -2,7 +2,7 @@
 #include <random>
 
 #include "engine/files/raumdatei.h"
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "story_support.h"
 #include "tools/story/data.h"
 #include "tools/story/inputs.h"
@@ -115,28 +115,28 @@ private:
     }
 
     void condition(Skript& script, int depth) {
-        put(script, opcode::WennMerker, "M");
+        put(script, "WennMerker"_op, "M");
         block(script, depth);
         if (below(2) == 0) {
-            put(script, opcode::Sonst, "");
+            put(script, "Sonst"_op, "");
             block(script, depth);
         }
-        put(script, opcode::EndeWenn, below(4) == 0 ? "M" : "");
+        put(script, "EndeWenn"_op, below(4) == 0 ? "M" : "");
     }
 
     void choice(Skript& script, int depth) {
         const int options = 1 + below(4);
         Text argument = std::to_string(options) + "|Frage";
         for (int i = 0; i < options; ++i) argument += "|Antwort" + std::to_string(i);
-        put(script, opcode::Auswahl, argument);
+        put(script, "Auswahl"_op, argument);
         std::vector<int> order;
         for (int i = 1; i <= options; ++i)
             if (below(4) > 0) order.insert(order.begin() + below(static_cast<int>(order.size()) + 1), i);
         for (const int i : order) {
-            put(script, opcode::Fall, std::to_string(i));
+            put(script, "Fall"_op, std::to_string(i));
             block(script, depth);
         }
-        put(script, opcode::EndeAuswahl, "");
+        put(script, "EndeAuswahl"_op, "");
     }
 
     std::mt19937 random_;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
 
 namespace zentrox::story {
@@ -10,10 +10,6 @@ namespace zentrox::story {
 namespace {
 
 constexpr char optionMark = '|';
-
-bool isCondition(std::int32_t command) {
-    return command == opcode::WennMerker || command == opcode::WennParameter;
-}
 
 // Walks over a script once and keeps the blocks that are open.
 class BlockFinder {
@@ -31,20 +27,26 @@ public:
     }
 
 private:
-    bool isChoice(const Block& block) const { return script_.Befehl[block.begin] == opcode::Auswahl; }
+    bool isChoice(const Block& block) const { return opens(zentrox::Block::choice, script_.Befehl[block.begin]); }
 
     void step(std::size_t i) {
         const std::int32_t command = script_.Befehl[i];
-        if (isCondition(command) || command == opcode::Auswahl) {
-            Block block;
-            block.begin = i;
-            open_.push_back(std::move(block));
-            ++openOf(isChoice(open_.back()));
+        const Opcode* const row = findOpcode(command);
+        if (!row) return;
+        const bool choice = row->block == zentrox::Block::choice;
+        switch (row->role) {
+            case Role::plain: return;
+            case Role::opens: return open(i, choice);
+            case Role::divides: return choice ? aCase(i) : otherwise(i);
+            case Role::closes: return close(i, choice);
         }
-        if (command == opcode::Sonst) otherwise(i);
-        if (command == opcode::Fall) aCase(i);
-        if (command == opcode::EndeWenn) close(i, false);
-        if (command == opcode::EndeAuswahl) close(i, true);
+    }
+
+    void open(std::size_t i, bool choice) {
+        Block block;
+        block.begin = i;
+        open_.push_back(std::move(block));
+        ++openOf(choice);
     }
 
     void problem(std::size_t i, const std::string& message) { result_.problems.push_back({i, message}); }

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <optional>
 
+#include "engine/language/directories.h"
 #include "platform/machine/files.h"
 #include "tools/story/writer.h"
 
@@ -52,13 +53,13 @@ bool writeIfChanged(const fs::path& path, const std::string& bytes) {
 std::vector<fs::path> writeStory(const Story& story, const fs::path& into) {
     const Files files(into);
     std::vector<fs::path> changed;
-    const auto write = [&](const Text& path, const std::string& bytes) {
-        const fs::path target = files.systemPath(path);
+    const auto write = [&](Ordner directory, const Text& file, const std::string& bytes) {
+        const fs::path target = files.systemPath(Text(verzeichnis(directory)) + "\\" + file);
         if (writeIfChanged(target, bytes))
             changed.push_back(into / target.lexically_relative(fs::absolute(into).lexically_normal()));
     };
-    for (const StoryRoom& room : story.rooms) write("rooms\\" + room.file, writeRoom(room.room));
-    for (const StoryScript& script : story.scripts) write("items\\" + script.file, writeScript(script.script));
+    for (const StoryRoom& room : story.rooms) write(Ordner::rooms, room.file, writeRoom(room.room));
+    for (const StoryScript& script : story.scripts) write(Ordner::items, script.file, writeScript(script.script));
     return changed;
 }
 

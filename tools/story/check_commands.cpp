@@ -3,7 +3,9 @@
 #include <map>
 #include <set>
 
-#include "engine/interpreter/interpreter.h"
+#include "engine/language/games.h"
+#include "engine/language/limits.h"
+#include "engine/language/words.h"
 #include "engine/state/felder.h"
 #include "tools/story/blocks.h"
 #include "tools/story/check.h"
@@ -34,7 +36,7 @@ public:
           findings_(findings),
           blocks_(findBlocks(view.script)) {
         for (std::size_t i = 0; i < view.script.Befehl.size(); ++i)
-            if (view.script.Befehl[i] == opcode::Marke) labels_.insert(upper(Getrimmt(argumentOf(view.script, i))));
+            if (view.script.Befehl[i] == "Marke"_op) labels_.insert(upper(Getrimmt(argumentOf(view.script, i))));
         labelNames_.assign(labels_.begin(), labels_.end());
     }
 
@@ -85,7 +87,7 @@ private:
             case Arg::room: return !Getrimmt(Dateiname(arg)).empty();
             case Arg::number: return isNumber(arg);
             case Arg::seconds: return Getrimmt(arg).empty() || (isNumber(arg) && Val(arg) >= 0);
-            case Arg::fade: return isFade(arg);
+            case Arg::fade: return blendrichtung(arg) != Blendrichtung::keine;
             default: return true;
         }
     }
@@ -108,7 +110,7 @@ private:
 
     void label(std::size_t i, const Opcode& row) {
         const TextView name = argument(i);
-        if (row.number != opcode::Springe || labels_.contains(upper(Getrimmt(name)))) return;
+        if (row.next != Next::label || labels_.contains(upper(Getrimmt(name)))) return;
         const std::string hint = perhaps(name, labelNames_);
         findings_.error(view_.places.argument(i), "marke",
                         "\"Springe\" nennt " + shown(name) + "; eine solche Marke hat dieses Skript nicht" +
@@ -132,7 +134,7 @@ private:
 
     void game(std::size_t i, const Opcode& row) {
         const Text name = upper(Trim(Feld(argument(i), ",", 1)));
-        if (!isGame(name))
+        if (!findSpiel(name))
             wrong(i, row, shown(name) + ", und dieses Spiel gibt es nicht" + perhaps(name, gameNames()));
         if (Trim(Feld(argument(i), ",", 2)).empty())
             findings_.warning(

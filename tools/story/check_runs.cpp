@@ -2,7 +2,7 @@
 // count-down runs.
 #include <algorithm>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
 #include "tools/story/check.h"
 #include "tools/story/flow.h"
@@ -13,12 +13,6 @@ namespace {
 
 constexpr double millisecondsPerSecond = 1000;
 
-// Opcodes that only divide a script are no loss where no run reaches them.
-bool isMark(std::int32_t command) {
-    return command == opcode::Sonst || command == opcode::EndeWenn || command == opcode::Fall ||
-           command == opcode::EndeAuswahl || command == opcode::Marke;
-}
-
 void checkReach(const ScriptView& view, const Flow& flow, Findings& findings) {
     const auto& commands = view.script.Befehl;
     bool told = false;  // one finding for a row of them
@@ -27,16 +21,16 @@ void checkReach(const ScriptView& view, const Flow& flow, Findings& findings) {
         if (flow.reached[i] || isMark(commands[i]) || told) continue;
         told = true;
         const Place place = view.places.commands[i].command;
-        const std::int32_t before = i > 0 ? commands[i - 1] : opcode::Marke;
-        if (before == opcode::Raumwechsel)
+        const std::int32_t before = i > 0 ? commands[i - 1] : "Marke"_op;
+        if (before == "Raumwechsel"_op)
             findings.warning(
                 place, "nach-raumwechsel",
                 "hinter einem Raumwechsel läuft kein Befehl mehr; was noch geschehen soll, gehört davor");
-        else if (before == opcode::WennParameter)
+        else if (before == "WennParameter"_op)
             findings.warning(
                 place, "unerreichbar",
                 "dieser Befehl läuft nie: hier wird nichts abgelegt, WennParameter gehört unter Ablegen");
-        else if (before == opcode::Auswahl)
+        else if (before == "Auswahl"_op)
             findings.warning(
                 place, "unerreichbar",
                 "zwischen einer Auswahl und ihrem ersten Fall läuft nichts; dieser Befehl gehört davor "
@@ -60,7 +54,7 @@ struct CountDownRun {
 };
 
 CountDown behind(const Skript& script, std::size_t i, CountDown before) {
-    if (script.Befehl[i] != opcode::CountDownSetzen) return before;
+    if (script.Befehl[i] != "CountDownSetzen"_op) return before;
     return Runden(Val(argumentOf(script, i)) * millisecondsPerSecond) == 0 ? off : on;
 }
 
@@ -79,7 +73,7 @@ CountDownRun followCountDown(const Skript& script, const Flow& flow) {
         const std::size_t i = todo.back();
         todo.pop_back();
         // A room change ends the count-down of this room; what it leaves behind is no end of this script.
-        if (script.Befehl[i] == opcode::Raumwechsel) continue;
+        if (script.Befehl[i] == "Raumwechsel"_op) continue;
         for (const std::size_t next : flow.next[i]) arrive(next, behind(script, i, run.at[i]));
     }
     return run;
@@ -87,13 +81,13 @@ CountDownRun followCountDown(const Skript& script, const Flow& flow) {
 
 bool switchesOff(const Skript& script) {
     for (std::size_t i = 0; i < script.Befehl.size(); ++i)
-        if (script.Befehl[i] == opcode::CountDownSetzen && behind(script, i, asBefore) == off) return true;
+        if (script.Befehl[i] == "CountDownSetzen"_op && behind(script, i, asBefore) == off) return true;
     return false;
 }
 
 bool hasSave(const Skript& script) {
     for (std::size_t i = 0; i < script.Befehl.size(); ++i)
-        if (script.Befehl[i] == opcode::System && argumentOf(script, i) == "Save") return true;
+        if (script.Befehl[i] == "System"_op && argumentOf(script, i) == "Save") return true;
     return false;
 }
 
@@ -123,7 +117,7 @@ void checkSaves(const ScriptView& view, CountDown before, Findings& findings) {
     if (!blocks.problems.empty()) return;
     const CountDownRun run = followCountDown(view.script, findFlow(view, blocks));
     for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) {
-        if (view.script.Befehl[i] != opcode::System || argumentOf(view.script, i) != "Save") continue;
+        if (view.script.Befehl[i] != "System"_op || argumentOf(view.script, i) != "Save") continue;
         const CountDown state = (run.at[i] & asBefore) != 0 ? (run.at[i] & ~asBefore) | before : run.at[i];
         if (state == on)
             findings.warning(view.places.commands[i].command, "speichern",

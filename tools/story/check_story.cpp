@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
 #include "tools/story/check.h"
 #include "tools/story/flow.h"
@@ -32,12 +32,12 @@ void noteFlags(const Story& story, bool checked, FlagUses& uses) {
         for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) {
             const TextView argument = argumentOf(view.script, i);
             const std::int32_t command = view.script.Befehl[i];
-            if (command == opcode::BöseÄndern) uses[Text("BÖSE"_t)].set = true;
-            if (command == opcode::Spiel) uses[nameOf(Feld(argument, ",", 2))].set = true;
-            if (command != opcode::SetzeMerker && command != opcode::WennMerker) continue;
+            if (command == "BöseÄndern"_op) uses[Text("BÖSE"_t)].set = true;
+            if (command == "Spiel"_op) uses[nameOf(Feld(argument, ",", 2))].set = true;
+            if (command != "SetzeMerker"_op && command != "WennMerker"_op) continue;
             FlagUse& use = uses[nameOf(argument)];
-            (command == opcode::SetzeMerker ? use.set : use.tested) = true;
-            auto& first = command == opcode::SetzeMerker ? use.firstSet : use.firstTest;
+            (command == "SetzeMerker"_op ? use.set : use.tested) = true;
+            auto& first = command == "SetzeMerker"_op ? use.firstSet : use.firstTest;
             if (checked && !first) first = view.places.argument(i);
         }
     }
@@ -49,15 +49,15 @@ void noteFlags(const Story& story, bool checked, FlagUses& uses) {
 // error, whatever the player carried before.
 void checkItemsOfRun(const ScriptView& view, Findings& findings) {
     const auto& commands = view.script.Befehl;
-    if (std::count(commands.begin(), commands.end(), opcode::NimmGegenstand) <= InventarPlätze) return;
+    if (std::count(commands.begin(), commands.end(), "NimmGegenstand"_op) <= InventarPlätze) return;
     const Blocks blocks = findBlocks(view.script);
     if (!blocks.problems.empty()) return;
     const Flow flow = findFlow(view, blocks);
     std::vector<int> carried(commands.size() + 1, 0);
     for (std::size_t i = 0; i < commands.size(); ++i) {
         int count = carried[i];
-        if (commands[i] == opcode::NimmGegenstand) ++count;
-        if (commands[i] == opcode::GibGegenstand) count = std::max(0, count - 1);
+        if (commands[i] == "NimmGegenstand"_op) ++count;
+        if (commands[i] == "GibGegenstand"_op) count = std::max(0, count - 1);
         if (count > InventarPlätze && flow.reached[i]) {
             findings.error(view.places.commands[i].command, "gegenstaende",
                            "dieses Skript gibt mehr als " + std::to_string(InventarPlätze) +
@@ -79,10 +79,10 @@ void noteItems(const Story& story, bool checked, std::map<Text, ItemUse>& uses) 
     for (const ScriptView& view : scriptsOf(story)) {
         for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) {
             const std::int32_t command = view.script.Befehl[i];
-            if (command != opcode::NimmGegenstand && command != opcode::GibGegenstand) continue;
+            if (command != "NimmGegenstand"_op && command != "GibGegenstand"_op) continue;
             ItemUse& use = uses[upper(Dateiname(argumentOf(view.script, i)))];
-            (command == opcode::NimmGegenstand ? use.taken : use.given) = true;
-            if (command == opcode::NimmGegenstand && checked && !use.firstTaken)
+            (command == "NimmGegenstand"_op ? use.taken : use.given) = true;
+            if (command == "NimmGegenstand"_op && checked && !use.firstTaken)
                 use.firstTaken = view.places.argument(i);
         }
     }
@@ -91,7 +91,7 @@ void noteItems(const Story& story, bool checked, std::map<Text, ItemUse>& uses) 
 void noteTaken(const Story& story, std::set<Text>& taken) {
     for (const ScriptView& view : scriptsOf(story))
         for (std::size_t i = 0; i < view.script.Befehl.size(); ++i)
-            if (view.script.Befehl[i] == opcode::NimmGegenstand)
+            if (view.script.Befehl[i] == "NimmGegenstand"_op)
                 taken.insert(upper(itemName(argumentOf(view.script, i))));
 }
 
@@ -105,7 +105,7 @@ void checkDropped(const Story& story, const Story* rest, Findings& findings) {
     for (const ScriptView& view : scriptsOf(story)) {
         if (!view.knowsItem()) continue;  // there the condition is never true for whatever item
         for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) {
-            if (view.script.Befehl[i] != opcode::WennParameter) continue;
+            if (view.script.Befehl[i] != "WennParameter"_op) continue;
             const Text name = nameOf(argumentOf(view.script, i));
             if (name.empty() || taken.contains(name)) continue;
             const std::string hint = perhaps(name, names);

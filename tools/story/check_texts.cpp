@@ -1,5 +1,5 @@
 // Texts and choices that do not fit the picture, measured in the font that the game shows them in.
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
 #include "tools/story/blocks.h"
 #include "tools/story/check.h"

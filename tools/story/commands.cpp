@@ -120,7 +120,7 @@ int source(const Options& options, const Streams& to) {
     Findings findings;
     std::vector<Text> pictures;
     const auto notePictures = [&](const fs::path& root) {
-        if (pictures.empty() && !root.empty()) pictures = Files(root).list("items\\");
+        if (pictures.empty() && !root.empty()) pictures = Files(root).list(verzeichnis(Ordner::items));
     };
     for (const fs::path& directory : data.directories) {
         readDataDirectory(directory, story, findings);

@@ -6,19 +6,13 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 
 namespace zentrox::story {
 
 namespace {
 
 using Json = nlohmann::json;
-
-bool holdsBlockTogether(std::int32_t command) {
-    static constexpr std::array words{opcode::Sonst, opcode::EndeWenn, opcode::Fall, opcode::EndeAuswahl,
-                                      opcode::Marke};
-    return std::find(words.begin(), words.end(), command) != words.end();
-}
 
 std::size_t lengthOf(const Skript& script) {
     return static_cast<std::size_t>(script.Letzter + 1);
@@ -67,7 +61,7 @@ Coverage::Coverage(const Story& story) : story_(story) {
         for (std::size_t i = 0; i < lengthOf(script.view.script); ++i) {
             const Place& place = script.view.places.commands[i].command;
             commands_[script.view.script.Befehl[i]] = false;
-            if (!holdsBlockTogether(script.view.script.Befehl[i])) lines_[{place.file, place.line}] = false;
+            if (!isMark(script.view.script.Befehl[i])) lines_[{place.file, place.line}] = false;
         }
 }
 

@@ -4,6 +4,7 @@
 
 #include "engine/files/fieldreader.h"
 #include "engine/files/raumdatei.h"
+#include "engine/language/directories.h"
 #include "platform/machine/files.h"
 #include "tools/story/sourcefiles.h"
 
@@ -89,7 +90,7 @@ void readFile(const fs::path& path, const Text& file, const fs::path& shownAs, S
     (hasExtension(path, roomExtension) ? readRoomData : readScriptData)(*bytes, file, name, story, findings);
 }
 
-// The system's path of "rooms" or "items", in whatever case.
+// The system's path of a directory of data, in whatever case.
 fs::path below(const fs::path& directory, TextView name) {
     return Files(directory).systemPath(name);
 }
@@ -138,8 +139,8 @@ void readScriptData(std::string_view bytes, const Text& file, const std::string&
 }
 
 bool isDataDirectory(const fs::path& directory) {
-    return !filesIn(below(directory, "rooms"), roomExtension, true).empty() ||
-           !filesIn(below(directory, "items"), scriptExtension, false).empty();
+    return !filesIn(below(directory, verzeichnis(Ordner::rooms)), roomExtension, true).empty() ||
+           !filesIn(below(directory, verzeichnis(Ordner::items)), scriptExtension, false).empty();
 }
 
 void readDataDirectory(const fs::path& directory, Story& story, Findings& findings) {
@@ -148,8 +149,8 @@ void readDataDirectory(const fs::path& directory, Story& story, Findings& findin
         readFile(path, Files::gamePath(path.lexically_relative(base)), directory / path.lexically_relative(whole),
                  story, findings);
     };
-    const fs::path rooms = below(whole, "rooms");
-    const fs::path items = below(whole, "items");
+    const fs::path rooms = below(whole, verzeichnis(Ordner::rooms));
+    const fs::path items = below(whole, verzeichnis(Ordner::items));
     for (const fs::path& path : filesIn(rooms, roomExtension, true)) read(path, rooms);
     for (const fs::path& path : filesIn(items, scriptExtension, false)) read(path, items);
 }
@@ -158,12 +159,14 @@ void readDataFile(const fs::path& path, Story& story, Findings& findings) {
     const fs::path root = dataDirectoryOf(path);
     const fs::path whole = fs::absolute(path).lexically_normal();
     const bool isRoom = hasExtension(path, roomExtension) && !root.empty();
-    const fs::path file = isRoom ? whole.lexically_relative(below(root, "rooms")) : path.filename();
+    const fs::path file =
+        isRoom ? whole.lexically_relative(below(root, verzeichnis(Ordner::rooms))) : path.filename();
     readFile(path, Files::gamePath(file), path, story, findings);
 }
 
 fs::path dataDirectoryOf(const fs::path& file) {
-    const TextView wanted = hasExtension(file, roomExtension) ? "rooms" : "items";
+    const TextView wanted =
+        hasExtension(file, roomExtension) ? verzeichnis(Ordner::rooms) : verzeichnis(Ordner::items);
     const fs::path whole = fs::absolute(file).lexically_normal();
     for (fs::path at = whole.parent_path(); at.has_relative_path(); at = at.parent_path())
         if (isNamed(at, wanted)) return at.parent_path();

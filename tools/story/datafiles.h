@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "engine/language/directories.h"
 #include "platform/machine/files.h"
 
 namespace zentrox::story {
@@ -15,23 +16,23 @@ public:
     explicit DataFiles(const std::filesystem::path& root);
 
     // A file directly in a data directory; `path` may have directories, which count for nothing.
-    bool has(TextView directory, TextView path) const;
+    bool has(Ordner directory, TextView path) const;
     // A spoken line, which may be there as mp3 or wav instead.
     bool hasSound(TextView path) const;
     // A room, whose directories do count.
     bool hasRoom(TextView path) const;
     // The files directly in a data directory, as they are spelled there.
-    const std::vector<Text>& names(TextView directory) const { return listing(directory).names; }
+    const std::vector<Text>& names(Ordner directory) const { return listing(directory).names; }
 
 private:
     struct Listing {
         std::vector<Text> names;
         std::set<Text> upper;  // the same in upper case
     };
-    const Listing& listing(TextView directory) const;
+    const Listing& listing(Ordner directory) const;
 
     Files files_;
-    mutable std::map<Text, Listing, std::less<>> listings_;
+    mutable std::map<Ordner, Listing> listings_;
 };
 
 // The nearest of a source's own directory and the one above it that holds data directories; empty where none does.

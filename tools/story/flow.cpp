@@ -4,7 +4,8 @@
 #include <map>
 #include <set>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
+#include "engine/language/words.h"
 #include "engine/state/felder.h"
 #include "tools/story/words.h"
 
@@ -26,7 +27,7 @@ public:
           blocks_(blocks),
           knowsItem_(view.knowsItem()) {
         for (std::size_t i = 0; i < script_.Befehl.size(); ++i)
-            if (script_.Befehl[i] == opcode::Marke) labels_.emplace(nameOf(argumentOf(script_, i)), i);
+            if (script_.Befehl[i] == "Marke"_op) labels_.emplace(nameOf(argumentOf(script_, i)), i);
     }
 
     Flow find() {
@@ -45,26 +46,26 @@ public:
     }
 
 private:
-    std::vector<std::size_t> behind(std::size_t i) const {
+    using Targets = std::vector<std::size_t>;
+
+    Targets behind(std::size_t i) const {
         const std::size_t end = script_.Befehl.size();
         const Block* const block = blocks_.at(i);
         const TextView argument = argumentOf(script_, i);
-        switch (script_.Befehl[i]) {
-            case opcode::WennMerker: return {i + 1, behindCondition(*block)};
-            case opcode::WennParameter:
-                if (!knowsItem_ && !nameOf(argument).empty()) return {behindCondition(*block)};
-                return {i + 1, behindCondition(*block)};
-            case opcode::Sonst:
-            case opcode::Fall: return {block->end + 1};
-            case opcode::Auswahl: return behindChoice(*block);
-            case opcode::Springe: {
-                const auto label = labels_.find(nameOf(argument));
-                return {label == labels_.end() ? i + 1 : label->second};
-            }
-            case opcode::Raumwechsel: return {end};
-            case opcode::System: return {isSystemWord(argument) || resemblesSystemWord(argument) ? i + 1 : end};
-            default: return {i + 1};
+        const Opcode* const row = findOpcode(script_.Befehl[i]);
+        if (!row) return {i + 1};
+        if (row->role == Role::opens && row->block == zentrox::Block::choice) return behindChoice(*block);
+        if (row->role == Role::opens) {
+            const bool never = row->arg == Arg::itemName && !knowsItem_ && !nameOf(argument).empty();
+            return never ? Targets{behindCondition(*block)} : Targets{i + 1, behindCondition(*block)};
         }
+        if (row->role == Role::divides) return {block->end + 1};
+        if (row->next == Next::label) {
+            const auto label = labels_.find(nameOf(argument));
+            return {label == labels_.end() ? i + 1 : label->second};
+        }
+        const bool leaves = row->next == Next::word && !istSystemwort(argument) && !resemblesSystemWord(argument);
+        return {row->next == Next::ends || leaves ? end : i + 1};
     }
 
     // Where it goes on if the condition is false.
@@ -99,7 +100,7 @@ public:
         std::size_t first = nowhere;
         std::size_t last = 0;
         for (std::size_t i = 0; i < script.Befehl.size(); ++i) {
-            if (script.Befehl[i] != opcode::Springe || !flow.reached[i] || flow.next[i][0] > i) continue;
+            if (script.Befehl[i] != "Springe"_op || !flow.reached[i] || flow.next[i][0] > i) continue;
             first = std::min(first, flow.next[i][0]);
             last = i;
         }
@@ -126,12 +127,10 @@ private:
         std::vector<State> next;
     };
 
-    bool isCondition(std::size_t i) const {
-        return script_.Befehl[i] == opcode::WennMerker || script_.Befehl[i] == opcode::WennParameter;
-    }
+    bool isCondition(std::size_t i) const { return opens(zentrox::Block::condition, script_.Befehl[i]); }
     // Flags and the dropped item are told apart.
     std::pair<bool, Text> factOf(std::size_t i) const {
-        return {script_.Befehl[i] == opcode::WennParameter, nameOf(argumentOf(script_, i))};
+        return {script_.Befehl[i] == "WennParameter"_op, nameOf(argumentOf(script_, i))};
     }
 
     void walk(const State& root) {
@@ -178,15 +177,15 @@ private:
             if (known[fact->second] != Known::unknown && known[fact->second] != value) return;
             learn(known, i, value);
         }
-        if (command == opcode::SetzeMerker) set(known, argumentOf(script_, i), Known::yes);
-        if (command == opcode::LöscheMerker) set(known, argumentOf(script_, i), Known::no);
-        if (command == opcode::BöseÄndern) set(known, "BÖSE"_t, Known::unknown);
+        if (command == "SetzeMerker"_op) set(known, argumentOf(script_, i), Known::yes);
+        if (command == "LöscheMerker"_op) set(known, argumentOf(script_, i), Known::no);
+        if (command == "BöseÄndern"_op) set(known, "BÖSE"_t, Known::unknown);
         step.next.push_back({target, std::move(known)});
     }
 
     void learn(std::vector<Known>& known, std::size_t i, Known value) const {
         known[facts_.at(factOf(i))] = value;
-        if (value != Known::yes || script_.Befehl[i] != opcode::WennParameter) return;
+        if (value != Known::yes || script_.Befehl[i] != "WennParameter"_op) return;
         for (const auto& [fact, index] : facts_)  // only one item can have been dropped
             if (fact.first && fact != factOf(i)) known[index] = Known::no;
     }
@@ -200,7 +199,7 @@ private:
         std::size_t jump = nowhere;
         for (auto step = path.rbegin(); step != path.rend(); ++step) {
             const std::size_t i = step->state.first;
-            if (script_.Befehl[i] == opcode::Springe && (jump == nowhere || i > jump)) jump = i;
+            if (script_.Befehl[i] == "Springe"_op && (jump == nowhere || i > jump)) jump = i;
             if (step->state == back) break;
         }
         if (jump != nowhere) loops_.insert(jump);
@@ -222,23 +221,12 @@ Flow findFlow(const ScriptView& view, const Blocks& blocks) {
 
 bool waits(const Skript& script, std::size_t index) {
     const Opcode* const row = findOpcode(script.Befehl[index]);
-    const TextView argument = argumentOf(script, index);
-    if (!row) return false;
-    switch (row->arg) {
-        case Arg::text:
-        case Arg::video:
-        case Arg::choice:
-        case Arg::rectangle:
-        case Arg::word: return true;
-        case Arg::game: return isGame(nameOf(Feld(argument, ",", 1)));
-        case Arg::fade: return isFade(argument);
-        default: return row->number == opcode::RahmenAuf;
-    }
+    return row && zentrox::waits(*row, argumentOf(script, index));
 }
 
 std::vector<std::size_t> busyLoops(const Skript& script, const Flow& flow) {
     for (std::size_t i = 0; i < script.Befehl.size(); ++i)
-        if (script.Befehl[i] == opcode::Springe && flow.reached[i] && flow.next[i][0] <= i)
+        if (script.Befehl[i] == "Springe"_op && flow.reached[i] && flow.next[i][0] <= i)
             return LoopFinder(script, flow).find();
     return {};
 }

@@ -73,8 +73,7 @@ Text fieldOf(Arg arg, const Token& word) {
 
 // A command that ends or divides a block may keep a text that nobody reads, as some files have it.
 bool mayKeepText(const Opcode& opcode) {
-    return opcode.number == opcode::Sonst || opcode.number == opcode::EndeWenn ||
-           opcode.number == opcode::EndeAuswahl;
+    return opcode.role == Role::divides || opcode.role == Role::closes;
 }
 
 bool rightCount(const Opcode& opcode, Place command, std::span<const Token> words, Findings& findings) {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <span>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "tools/story/scanner.h"
 
 namespace zentrox::story {

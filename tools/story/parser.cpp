@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "engine/files/raumdatei.h"
+#include "engine/language/limits.h"
 #include "engine/state/felder.h"
 #include "tools/story/scriptbuilder.h"
 #include "tools/story/shapes.h"
@@ -255,7 +255,8 @@ private:
         room_.room.Bild = s[1].value;
         if (s[1].value.size() > LängstesBild || Trim(s[1].value) != s[1].value)
             findings_.broken(s[1].place, "argument",
-                             "der Name eines Bildes hat höchstens 100 Zeichen und keine Leerzeichen am Rand");
+                             "der Name eines Bildes hat höchstens " + std::to_string(LängstesBild) +
+                                 " Zeichen und keine Leerzeichen am Rand");
     }
 
     void start(const Statement& s) { roomScript(s, room_.room.Startskript, room_.start); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "engine/language/limits.h"
 #include "tools/story/writer.h"
 
 namespace zentrox::story {
@@ -10,7 +11,6 @@ namespace zentrox::story {
 namespace {
 
 constexpr char optionMark = '|';
-constexpr std::int32_t mostOptions = 1000;
 
 std::optional<std::int32_t> wholeNumber(TextView text) {
     std::int32_t value = 0;
@@ -37,17 +37,16 @@ void ScriptBuilder::add(std::int32_t number, Text argument, Place command, std::
 void ScriptBuilder::command(const Opcode& opcode, const Statement& statement) {
     const Place place = statement.front().place;
     const auto words = std::span(statement).subspan(1);
-    if (opcode.number == opcode::Auswahl) return openChoice(statement);
-    if (opcode.number == opcode::Fall) {
+    if (opcode.arg == Arg::choice) return openChoice(statement);
+    if (opcode.arg == Arg::option) {
         if (const auto number = addOption(statement)) add(opcode.number, std::to_string(*number), place, {});
         return;
     }
     const auto argument = compileArgument(opcode, place, words, findings_);
     add(opcode.number, argument.value_or(""), place, opcode.arg == Arg::text ? linePlaces(words) : placesOf(words));
     places_.commands.back().broken = !argument;
-    if (opcode.number == opcode::WennMerker || opcode.number == opcode::WennParameter) blocks_.emplace_back();
-    if (opcode.number == opcode::EndeWenn) closeBlock(false);
-    if (opcode.number == opcode::EndeAuswahl) closeBlock(true);
+    if (opcode.role == Role::opens) blocks_.emplace_back();
+    if (opcode.role == Role::closes) closeBlock(opcode.block == zentrox::Block::choice);
 }
 
 void ScriptBuilder::openChoice(const Statement& statement) {
@@ -59,7 +58,7 @@ void ScriptBuilder::openChoice(const Statement& statement) {
     choice.questionPlaces = linePlaces(words);
     if (choice.question.find(optionMark) != Text::npos)
         findings_.broken(place, "zeichen", "eine Frage kann kein | enthalten, das trennt die Möglichkeiten");
-    add(opcode::Auswahl, {}, place, {});
+    add("Auswahl"_op, {}, place, {});
     blocks_.push_back({std::move(choice)});
     ++openChoices_;
 }
@@ -80,11 +79,11 @@ std::optional<std::int32_t> ScriptBuilder::addOption(const Statement& statement)
     while (choice.options.contains(number)) ++number;
     if (!words.empty() && !words[0].quoted) {
         const auto given = wholeNumber(words[0].value);
-        if (given && (*given < 1 || *given > mostOptions))
+        if (given && (*given < 1 || *given > MeisteOptionen))
             findings_.broken(words[0].place, "fall",
-                             "die Nummer einer Möglichkeit liegt zwischen 1 und " + std::to_string(mostOptions));
+                             "die Nummer einer Möglichkeit liegt zwischen 1 und " + std::to_string(MeisteOptionen));
         if (given) {
-            number = std::clamp(*given, 1, mostOptions);
+            number = std::clamp(*given, 1, MeisteOptionen);
             words = words.subspan(1);
         }
     }

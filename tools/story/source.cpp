@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
 #include "tools/story/area.h"
 #include "tools/story/blocks.h"
@@ -74,17 +74,10 @@ public:
 
 private:
     static bool belongsToBlock(std::int32_t command) {
-        switch (command) {
-            case opcode::WennMerker:
-            case opcode::WennParameter:
-            case opcode::Sonst:
-            case opcode::EndeWenn:
-            case opcode::Auswahl:
-            case opcode::Fall:
-            case opcode::EndeAuswahl: return true;
-            default: return false;
-        }
+        const Opcode* const row = findOpcode(command);
+        return row && row->role != Role::plain;
     }
+    static bool beginsChoice(std::int32_t command) { return opens(zentrox::Block::choice, command); }
 
     // What the options of a choice make of it is seen later.
     void noteWritten(std::size_t i) {
@@ -108,7 +101,7 @@ private:
     // Whether a block can't be written as one: the compiler has to find its parts as they are, and the numbers of a
     // choice where it would put them itself.
     bool isPlain(const Block& block) {
-        const bool choice = script_.Befehl[block.begin] == opcode::Auswahl;
+        const bool choice = beginsChoice(script_.Befehl[block.begin]);
         return raw_[block.begin] || raw_[block.end] || (block.otherwise != nowhere && raw_[block.otherwise]) ||
                (choice && !noteChoice(block));
     }
@@ -141,8 +134,8 @@ private:
         const Block* const block = blocks_.at(i);
         const bool begins = block && block->begin == i;
         const bool ends = block && block->end == i;
-        if (ends) depth_ -= script_.Befehl[block->begin] == opcode::Auswahl && !block->cases.empty() ? 2 : 1;
-        if (ends && !raw_[i] && script_.Befehl[i] == opcode::EndeAuswahl) endChoice(*block);
+        if (ends) depth_ -= beginsChoice(script_.Befehl[block->begin]) && !block->cases.empty() ? 2 : 1;
+        if (ends && !raw_[i] && closes(zentrox::Block::choice, script_.Befehl[i])) endChoice(*block);
         const bool divides = block && !begins && !ends;
         const bool firstCase = divides && !block->cases.empty() && block->cases.front() == i;
         if (divides && !firstCase) --depth_;
@@ -156,7 +149,7 @@ private:
         const auto choice = choices_.find(i);
         if (choice != choices_.end())
             return lines_.add(depth_, "Auswahl", linesInQuotes(choice->second.text.question));
-        if (row && !raw_[i] && row->number == opcode::Fall) return aCase(i);
+        if (row && !raw_[i] && row->arg == Arg::option) return aCase(i);
         if (row && !raw_[i]) return lines_.add(depth_, toUtf8(row->name), *written_[i]);
         lines_.add(depth_, "Roh " + (row ? toUtf8(row->name) : std::to_string(script_.Befehl[i])),
                    argument.empty() ? std::vector<std::string>() : std::vector{inQuotes(argument)});

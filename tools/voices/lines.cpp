@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/interpreter/opcodes.h"
+#include "engine/language/opcodes.h"
 #include "tools/voices/spoken.h"
 
 namespace zentrox::voices {
@@ -32,8 +32,8 @@ public:
 
     void search(const story::ScriptView& view) {
         for (int i = 0; i <= view.script.Letzter; ++i) {
-            if (is(view, i, ton_)) lookAtTon(view, i);
-            if (is(view, i, text_)) lookAtText(view, i);
+            if (is(view, i, "Ton"_op)) lookAtTon(view, i);
+            if (is(view, i, "Text"_op)) lookAtText(view, i);
         }
     }
 
@@ -63,7 +63,7 @@ private:
         };
         do ++index;
         while (takesNoTime(index));
-        return is(view, index, ton_);
+        return is(view, index, "Ton"_op);
     }
 
     void lookAtTon(const story::ScriptView& view, int index) {
@@ -76,7 +76,7 @@ private:
         if (voice == table_.voices.end())
             return findings_.error(placeOf(view, index), "stimme-unbekannt",
                                    "„" + person + "“ hat keine Stimme in der Tabelle der Stimmen.");
-        if (!is(view, index + 1, text_))
+        if (!is(view, index + 1, "Text"_op))
             return findings_.error(placeOf(view, index), "ton-ohne-text",
                                    "Auf diesen Ton folgt kein „Text“, der gesprochen wird.");
         const Text& text = argument(view, index + 1);
@@ -95,8 +95,8 @@ private:
     }
 
     void lookAtText(const story::ScriptView& view, int index) {
-        if (is(view, index - 1, ton_)) return;
-        if (colourOf(argument(view, index)) != '-' || is(view, index - 1, portrait_))
+        if (is(view, index - 1, "Ton"_op)) return;
+        if (colourOf(argument(view, index)) != '-' || is(view, index - 1, "Portrait"_op))
             findings_.error(placeOf(view, index), "text-ohne-ton",
                             "Hier spricht jemand, aber kein „Ton“ geht voraus.");
     }
@@ -104,12 +104,9 @@ private:
     const Table& table_;
     story::Findings& findings_;
     std::map<std::string, SpokenLine> known_;
-    const std::int32_t ton_ = findOpcode("Ton")->number;
-    const std::int32_t text_ = findOpcode("Text")->number;
-    const std::int32_t portrait_ = findOpcode("Portrait")->number;
-    const std::array<std::int32_t, 7> quick_{opcode::SetzeMerker,   opcode::LöscheMerker, opcode::NimmGegenstand,
-                                             opcode::GibGegenstand, opcode::BöseÄndern,   opcode::CountDownSetzen,
-                                             opcode::Marke};
+    static constexpr std::array<std::int32_t, 7> quick_{"SetzeMerker"_op,   "LöscheMerker"_op, "NimmGegenstand"_op,
+                                                        "GibGegenstand"_op, "BöseÄndern"_op,   "CountDownSetzen"_op,
+                                                        "Marke"_op};
 };
 
 }  // namespace
