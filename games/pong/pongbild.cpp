@@ -131,10 +131,9 @@ void Pongbild::treffer(Seite seite, const Pongstand& s) {
 // The paddle on the side from which the ball flies punches forward and draws back slowly.
 void Pongbild::schlag(Seite seite, const Pongstand& s) {
     if (!schlagLaeuft) return;
-    // Before the paddle is painted: the sparks are so near to it that their boxes would cut notches into it.
-    funkenLöschen();
     schlagAus(seite, s);
     schlagWeg += schlagZeit < schlagVor ? 2.0F : -0.5F;
+    funkenLöschen();
     funkenBewegen();
     funkenMalen(seite);
     if (schlagZeit == schlagEnde) schlagEndet(s);
@@ -174,7 +173,7 @@ void Pongbild::funkenLöschen() {
 void Pongbild::funkenMalen(Seite seite) {
     const Bitmap& bild = bilder_.Image7[seite == Seite::links ? 0 : 1];
     const Size größe{Runden(funkenBreite), Runden(funkenHoehe)};
-    for (const float y : funkenY) Picture1.stretch(bild, bild.bounds(), {gerundet(funkenX, y), größe}, Op::bitOr);
+    for (const float y : funkenY) Picture1.stretch(bild, bild.bounds(), {gerundet(funkenX, y), größe});
 }
 
 void Pongbild::schlagEndet(const Pongstand& s) {

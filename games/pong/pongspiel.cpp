@@ -215,9 +215,9 @@ void Pongspiel::wandGewinn() {
     s.ballDX = einfach(vorzeichen(s.ballDX) * std::max<double>(grenze - bonus, kleinsterSprung));
 }
 
-// As long as no miss has been counted a very fast ball may be past a paddle line for one step without being lost.
+// Looked at in every step: a ball fast enough to fly past a paddle's line and out of the field in one leaves
+// uncounted.
 void Pongspiel::austritt() {
-    if (s.takte.Timer1) return;
     if (s.ballX < 0) ausgang(Seite::rechts);
     if (s.ballX > feldBreite) ausgang(Seite::links);
 }
@@ -232,6 +232,7 @@ void Pongspiel::ausgang(Seite aufschlag) {
     s.ballY = anstoßHöhe;
     if (vonRechts) s.drall = 0;
     s.takte.Timer2 = false;
+    if (vonRechts) s.takte.Timer1 = false;
     // A fast ball can leave in the very step that ended the match.
     s.takte.Timer3 = !s.spielEnde;
     bild_.aufschlagVon(aufschlag, s);

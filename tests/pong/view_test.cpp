@@ -94,7 +94,11 @@ TEST(PongView, ShowsNothingButBallAndTrailWhenAHitIsOver) {
 TEST(PongView, PunchesAndSpraysSparksAtAHit) {
     Field f;
     f.table.serve();
-    for (int i = 0; i < 4; ++i) f.table.tick();
+    f.table.tick();
+    EXPECT_EQ(f.surface.pixel({26, 214}), 0)
+        << "sparks are taken off after the paddle was painted, and cut into it";
+    EXPECT_EQ(f.surface.pixel({24, 214}), std::int32_t(left.rgb));
+    for (int i = 0; i < 3; ++i) f.table.tick();
     EXPECT_EQ(f.surface.pixel({17 + 7, 215}), std::int32_t(left.rgb)) << "eight pixels forward after four steps";
     EXPECT_EQ(f.surface.pixel({17 + 5, 215}), 0);
     int sparks = 0;
