@@ -63,6 +63,8 @@ public:
 
     // Why the program waits, from the outermost to the innermost: "Lade Keller.lsd > Text > Dialog".
     Text reasons() const;
+    // The innermost of them, empty if it does not wait.
+    TextView reason() const { return reasons_.empty() ? TextView() : TextView(reasons_.back()); }
 
     // Ends the process from inside any wait.
     [[noreturn]] static void endProgram(int status = 0);

@@ -72,6 +72,8 @@ public:
 
     TextView kind() const override { return "surface"; }
     bool shows(TextView part) const override;
+    // The texts that were printed on it since it was last cleared, each once, the oldest forgotten.
+    const std::vector<Text>& printed() const { return printed_; }
     void paint(Bitmap& onto, Point at) override;
 
 private:

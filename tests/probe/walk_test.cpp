@@ -58,6 +58,10 @@ TEST(WalkLanguage, RefusesWhatIsNoneOfIt) {
                                    "use \"a\"b",
                                    "until 500",
                                    "choose first",
+                                   "read unquoted",
+                                   "expect window Fenster",
+                                   "until window Fenster 500",
+                                   "go",
                                    "down \"\""}) {
         const std::string message = refusal(line);
         EXPECT_EQ(message.rfind("w:2: expected ", 0), 0U) << line << ": " << message;

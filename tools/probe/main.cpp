@@ -27,6 +27,7 @@ struct Options {
     std::uint64_t seed = 1;
     std::string pictures = ".";
     std::string ran;
+    unsigned timeout = 600;
     bool quiet = false;
     std::string walk = "-";
 };
@@ -74,7 +75,7 @@ int play(const Options& options) {
     // The game's paths are relative to the program's directory; the walk's pictures are not.
     const fs::path pictures = fs::absolute(options.pictures);
     probe::ProbeBackend backend(options.seed, options.quiet ? nullptr : &std::cout);
-    probe::Player player(std::move(walk), backend, pictures, std::cout);
+    probe::Player player(std::move(walk), backend, pictures, std::cout, std::chrono::seconds(options.timeout));
     backend.setPerson(&player);
     probe::Ran ran;
     int result = 0;
@@ -104,6 +105,8 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_option("--seed", options.seed, "Seed of the random numbers");
     app.add_option("--out", options.pictures, "Where shot writes");
     app.add_option("--ran", options.ran, "Writes which instructions have run, for zentrox-story coverage");
+    app.add_option("--timeout", options.timeout, "Seconds of real time after which the walk fails")
+        ->capture_default_str();
     app.add_flag("--quiet", options.quiet, "No trace, only what say prints and what fails");
     app.add_option("WALK", options.walk, "A file, or - for standard input");
     app.set_version_flag("--version", "zentrox-probe " ZENTROX_VERSION);

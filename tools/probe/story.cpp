@@ -4,6 +4,7 @@
 
 #include "engine/state/felder.h"
 #include "engine/state/merker.h"
+#include "platform/window/surface.h"
 
 namespace zentrox::probe {
 
@@ -20,7 +21,42 @@ Text baseName(TextView path) {
     return name;
 }
 
+std::string inQuotes(TextView text) {
+    return '"' + toUtf8(text) + '"';
+}
+
+// How many letters have to be put in, left out or changed to make one name of the other, case aside.
+std::size_t distance(TextView a, TextView b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t i = 0; i < row.size(); ++i) row[i] = i;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t corner = row[0]++;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t change = corner + (upper(a[i - 1]) == upper(b[j - 1]) ? 0 : 1);
+            corner = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, change});
+        }
+    }
+    return row.back();
+}
+
+// "; there is A, B and 3 more", the names most like `wanted` first.
+std::string nearest(TextView wanted, std::vector<Text> names) {
+    constexpr std::size_t shown = 5;
+    if (names.empty()) return "; there is none at all";
+    std::stable_sort(names.begin(), names.end(),
+                     [wanted](const Text& a, const Text& b) { return distance(a, wanted) < distance(b, wanted); });
+    std::string all = "; there is ";
+    for (std::size_t i = 0; i < std::min(shown, names.size()); ++i) all += (i > 0 ? ", " : "") + inQuotes(names[i]);
+    if (names.size() > shown) all += " and " + std::to_string(names.size() - shown) + " more";
+    return all;
+}
+
 }  // namespace
+
+Raumfenster* Story::room() const {
+    return dynamic_cast<Raumfenster*>(platform_.queue.active());
+}
 
 std::optional<Rect> Story::picture() const {
     Window* const window = platform_.queue.active();
@@ -124,6 +160,81 @@ std::optional<Point> Story::aboveBar() {
     const auto area = picture();
     if (!area || freeHeight() <= margin) return std::nullopt;
     return inPicture({area->w / 2, freeHeight() - margin});
+}
+
+std::optional<std::vector<Text>> Story::standingText() {
+    Window* const window = platform_.queue.active();
+    if (room() == nullptr || platform_.queue.reason() != "Text") return std::nullopt;
+    const auto* const band = dynamic_cast<const Surface*>(window->find("Picture1"));
+    return band != nullptr ? band->printed() : std::vector<Text>();
+}
+
+std::vector<Text> Story::options() {
+    if (!choiceOpen() || z_.AuswahlTexte.empty()) return {};
+    return {z_.AuswahlTexte.begin() + 1, z_.AuswahlTexte.end()};
+}
+
+std::string Story::whyNoObject(TextView name) {
+    if (room() == nullptr) return "no room on top";
+    std::vector<Text> names;
+    bool there = false;
+    bool active = false;
+    for (const RaumObjekt& object : z_.AktuellerRaum.Objekte) {
+        const bool meant = equalIgnoringCase(Getrimmt(object.Name), Getrimmt(name));
+        there = there || meant;
+        active = active || (meant && object.Aktiv);
+        if (object.Aktiv) names.push_back(object.Name);
+    }
+    if (!there) return "no object of that name in " + toUtf8(z_.RaumDatei) + nearest(name, names);
+    return active ? "that others or the bar cover all of it" : "that others cover all of it, and that it is off";
+}
+
+std::string Story::whyNoItem(TextView name) {
+    std::vector<Text> names;
+    for (int i = 0; i <= z_.InventarLetzter; ++i)
+        names.push_back(baseName(z_.Inventar[static_cast<std::size_t>(i)]));
+    return "that it is not carried" + nearest(name, names);
+}
+
+std::vector<Text> Story::itemFiles() const {
+    auto files = platform_.files.list(z_.PfadItems);
+    std::erase_if(files, [](TextView file) {
+        constexpr TextView script = ".skp";
+        return file.size() > script.size() && equalIgnoringCase(file.substr(file.size() - script.size()), script);
+    });
+    return files;
+}
+
+std::string Story::whyNoSuchItem(TextView name) {
+    if (room() == nullptr) return "no room on top";
+    if (z_.InventarLetzter + 1 >= InventarPlätze) return "that no more can be carried";
+    std::vector<Text> names;
+    for (const Text& file : itemFiles()) names.push_back(baseName(file));
+    return "no picture of that name" + nearest(name, names);
+}
+
+bool Story::setFlag(TextView name) {
+    MerkerSetzen(z_, name);
+    return room() != nullptr;
+}
+
+// By its base name, as walks know items; the file may have any extension.
+bool Story::takeItem(TextView item) {
+    if (room() == nullptr || z_.InventarLetzter + 1 >= InventarPlätze) return false;
+    for (const Text& file : itemFiles()) {
+        if (!equalIgnoringCase(baseName(file), item)) continue;
+        z_.Inventar[static_cast<std::size_t>(++z_.InventarLetzter)] = z_.PfadItems + file;
+        room()->GegenständeLaden();
+        return true;
+    }
+    return false;
+}
+
+bool Story::goTo(TextView file) {
+    const Text path = z_.PfadRooms + Text(file);
+    if (room() == nullptr || !platform_.files.exists(path)) return false;
+    room()->Lade(path);
+    return true;
 }
 
 std::vector<Text> Story::state() {

@@ -1,6 +1,7 @@
 // What a walk knows of the story: flags, items, the places where things of a room take a click.
 #pragma once
 
+#include "engine/interpreter/raumfenster.h"
 #include "engine/state/zustand.h"
 #include "platform/probe/recorder.h"
 #include "tools/probe/player.h"
@@ -15,18 +16,27 @@ public:
           recorder_(recorder) {}
 
     bool idle() override;
+    bool scriptRuns() override { return z_.SkriptLäuft; }
     bool flag(TextView name) override;
     bool carries(TextView item) override;
     bool inRoom(TextView file) override;
     int evil() override { return z_.BösePunkte; }
     bool choiceOpen() override { return z_.SkriptLäuft && z_.AuswahlErgebnis == -1; }
+    std::optional<std::vector<Text>> standingText() override;
+    std::vector<Text> options() override;
     bool barOpen() override { return z_.LeisteOffen; }
     bool barSlides() override { return z_.LeisteBewegt; }
     std::optional<Point> object(TextView name) override;
     std::optional<Point> item(TextView name) override;
     std::optional<Point> option(int number) override;
+    std::string whyNoObject(TextView name) override;
+    std::string whyNoItem(TextView name) override;
+    std::string whyNoSuchItem(TextView name) override;
     std::optional<Point> aboveBar() override;
     std::vector<Text> state() override;
+    bool setFlag(TextView name) override;
+    bool takeItem(TextView item) override;
+    bool goTo(TextView room) override;
 
 private:
     // The room picture's place in the active window; nothing if that is not the room window.
@@ -35,6 +45,10 @@ private:
     // The row of the picture above which nothing is covered by the bar.
     int freeHeight() const;
     int lowestAt(int column, int row) const;
+    // The item pictures that the story has.
+    std::vector<Text> itemFiles() const;
+    // The room window if it is on top, else null.
+    Raumfenster* room() const;
 
     Platform& platform_;
     Zustand& z_;

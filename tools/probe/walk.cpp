@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "platform/values/keys.h"
+#include "tools/probe/verbs.h"
 
 namespace zentrox::probe {
 
@@ -42,55 +43,13 @@ std::vector<Word> split(const std::string& line, const std::string& place) {
     }
 }
 
-// The letters say what each word of a form is.
-//   n number   w any word   b button   k key   c condition to the end of the line
-struct Form {
-    const char* verb;
-    const char* words;
-    const char* shown;
-};
-
-constexpr std::array forms{
-    Form{"wait", "n", "wait MS"},
-    Form{"until", "c", "until CONDITION [MS]"},
-    Form{"expect", "c", "expect CONDITION"},
-    Form{"move", "nn", "move X Y"},
-    Form{"press", "", "press [BUTTON] [X Y]"},
-    Form{"press", "nn", "press [BUTTON] [X Y]"},
-    Form{"press", "b", "press [BUTTON] [X Y]"},
-    Form{"press", "bnn", "press [BUTTON] [X Y]"},
-    Form{"release", "", "release [BUTTON] [X Y]"},
-    Form{"release", "nn", "release [BUTTON] [X Y]"},
-    Form{"release", "b", "release [BUTTON] [X Y]"},
-    Form{"release", "bnn", "release [BUTTON] [X Y]"},
-    Form{"click", "nn", "click [BUTTON] X Y"},
-    Form{"click", "bnn", "click [BUTTON] X Y"},
-    Form{"doubleclick", "nn", "doubleclick X Y"},
-    Form{"down", "k", "down KEY"},
-    Form{"up", "k", "up KEY"},
-    Form{"key", "k", "key KEY"},
-    Form{"type", "w", "type \"TEXT\""},
-    Form{"use", "w", "use OBJECT"},
-    Form{"use", "iw", "use item ITEM"},
-    Form{"look", "w", "look OBJECT"},
-    Form{"look", "iw", "look item ITEM"},
-    Form{"give", "ww", "give ITEM OBJECT"},
-    Form{"combine", "ww", "combine ITEM ITEM"},
-    Form{"choose", "n", "choose N"},
-    Form{"resize", "nn", "resize W H"},
-    Form{"close", "", "close"},
-    Form{"shot", "w", "shot FILE"},
-    Form{"say", "c", "say CONDITION, say state, say controls or say pointer"},
-    Form{"end", "", "end"},
-};
-
 struct ConditionForm {
     const char* kind;
     const char* words;
 };
 
 constexpr std::array conditionForms{
-    ConditionForm{"idle", ""},  ConditionForm{"window", "w"},  ConditionForm{"title", "w"},
+    ConditionForm{"idle", ""},  ConditionForm{"window", "f"},  ConditionForm{"title", "w"},
     ConditionForm{"text", "w"}, ConditionForm{"flag", "w"},    ConditionForm{"item", "w"},
     ConditionForm{"room", "w"}, ConditionForm{"evil", "n"},    ConditionForm{"choice", ""},
     ConditionForm{"ended", ""}, ConditionForm{"pixel", "nnx"},
@@ -101,8 +60,17 @@ bool isColour(const std::string& word) {
            std::all_of(word.begin(), word.end(), [](unsigned char c) { return std::isxdigit(c) != 0; });
 }
 
+// The names of all windows that there are.
+bool isWindow(const std::string& word) {
+    static constexpr std::array windows{"Menu", "Form1",  "Dialog", "Jump",  "Prügel",  "Bruhks",
+                                        "Pong", "Memory", "HDW",    "Form2", "PISpiel", "MsgBox"};
+    return std::find(windows.begin(), windows.end(), word) != windows.end();
+}
+
 bool fits(char letter, const Word& word) {
     switch (letter) {
+        case 'f': return isWindow(word.text);
+        case 'q': return word.quoted;
         case 'n': return !word.quoted && isNumber(word.text);
         case 'b': return word.text == "left" || word.text == "right" || word.text == "middle";
         case 'k': return keyCode(word.text) != 0;
@@ -113,6 +81,8 @@ bool fits(char letter, const Word& word) {
 }
 
 bool fit(const std::string& letters, const std::vector<Word>& words) {
+    if (letters == "*")
+        return std::all_of(words.begin(), words.end(), [](const Word& word) { return word.quoted; });
     if (letters.size() != words.size()) return false;
     for (std::size_t i = 0; i < words.size(); ++i)
         if (!fits(letters[i], words[i])) return false;
@@ -143,17 +113,19 @@ Condition parseCondition(std::vector<Word> words, const std::string& place) {
         for (Word& word : words) condition.words.push_back(std::move(word.text));
         return condition;
     }
+    if (condition.kind == "window" && !words.empty()) fail(place, "the name of a window", words[0].text);
     fail(place, "a condition", condition.spelled);
 }
 
 // `until` may close with a number of milliseconds that does not belong to the condition.
 void takeCondition(Command& command, std::vector<Word> words, const std::string& place) {
-    if (command.verb == "say" && words.size() == 1 &&
+    if (command.verb->name == std::string("say") && words.size() == 1 &&
         (words[0].text == "state" || words[0].text == "controls" || words[0].text == "pointer")) {
         command.words.push_back(words[0].text);
         return;
     }
-    if (command.verb == "until" && words.size() > 1 && !words.back().quoted && isNumber(words.back().text)) {
+    if (command.verb->name == std::string("until") && words.size() > 1 && !words.back().quoted &&
+        isNumber(words.back().text)) {
         std::vector<Word> shorter(words.begin(), words.end() - 1);
         try {
             command.condition = parseCondition(shorter, place);
@@ -169,22 +141,21 @@ void takeCondition(Command& command, std::vector<Word> words, const std::string&
 Command parseLine(std::vector<Word> words, int line, const std::string& place) {
     Command command;
     command.line = line;
-    command.verb = words.front().text;
+    const std::string name = words.front().text;
     const std::string spelled = spell(words);
     words.erase(words.begin());
-    const char* shown = nullptr;
-    for (const Form& form : forms) {
-        if (command.verb != form.verb) continue;
-        shown = form.shown;
-        if (std::string(form.words) == "c") {
+    for (const Verb& verb : verbs()) {
+        if (name != verb.name) continue;
+        command.verb = &verb;
+        if (std::string(verb.words) == "c") {
             takeCondition(command, std::move(words), place);
             return command;
         }
-        if (!fit(form.words, words)) continue;
+        if (!fit(verb.words, words)) continue;
         for (Word& word : words) command.words.push_back(std::move(word.text));
         return command;
     }
-    fail(place, shown != nullptr ? shown : "a command", spelled);
+    fail(place, command.verb != nullptr ? command.verb->shown : "a command", spelled);
 }
 
 }  // namespace
@@ -229,7 +200,8 @@ char keyCharacter(const std::string& name) {
 Walk parseWalk(const std::string& name, const std::string& text) {
     Walk walk;
     walk.name = name;
-    std::istringstream lines(text);
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    std::istringstream lines(text.rfind(mark, 0) == 0 ? text.substr(mark.size()) : text);
     std::string line;
     for (int number = 1; std::getline(lines, line); ++number) {
         const std::string place = name + ":" + std::to_string(number);

@@ -7,6 +7,8 @@
 
 namespace zentrox::probe {
 
+struct Verb;
+
 // What a walk may ask: "not window Dialog".
 struct Condition {
     bool negated = false;
@@ -17,7 +19,7 @@ struct Condition {
 
 struct Command {
     int line = 0;
-    std::string verb;
+    const Verb* verb = nullptr;      // the row of the language that it fits
     std::vector<std::string> words;  // UTF-8, without the condition
     Condition condition;             // of `expect`, `until` and of `say` with a condition
 };
@@ -32,7 +34,8 @@ struct Walk {
     std::vector<Command> commands;
 };
 
-// Throws `WalkError` at the first line that is none of the language.
+// Takes UTF-8, with or without a byte order mark. Throws `WalkError` at the first line that is none of the
+// language.
 Walk parseWalk(const std::string& name, const std::string& text);
 
 // The virtual code of a key by its name, 0 if there is none.
