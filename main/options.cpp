@@ -36,7 +36,8 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         ->type_name("DIR")
         ->take_last()
         ->check(there);
-    app.add_option("--root", roots, "A directory to take for the CD, before those that are mounted; may be repeated")
+    app.add_option("--root", roots,
+                   "A directory to take for the CD, before those that are mounted; may be repeated")
         ->type_name("DIR")
         ->expected(1)
         ->allow_extra_args(false)

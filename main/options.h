@@ -14,8 +14,8 @@ struct Options {
     std::string commandLine;                   // the game's own, UTF-8: the file name of a room, or empty
 };
 
-// What the words ask for, or the exit status of a call that ends here: 0 after help and version, 2 after a wrong one.
-// Help goes to the standard output, complaints to the standard error output.
+// What the words ask for, or the exit status of a call that ends here: 0 after help and version, 2 after a wrong
+// one. Help goes to the standard output, complaints to the standard error output.
 struct Call {
     std::optional<Options> options;
     int status = 0;

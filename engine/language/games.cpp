@@ -23,12 +23,13 @@ constexpr std::array<TextView, 48> prügel{
     "KampfSS7.jpg",   "KampfSS8.jpg",   "KampfSS9.jpg",   "KampfSS10.jpg",  "Kampfs0.jpg",    "Kampfs1.jpg"};
 // Background and tiles, the player, four kinds of enemies in two steps and both directions, each with its mask.
 constexpr std::array<TextView, 52> jump{
-    "j0.bmp",  "j1.bmp",   "j2.bmp",   "j3.bmp",    "j4.bmp",  "j5.bmp",   "j6.bmp",   "j7.bmp",    "j8.bmp",
-    "j9.bmp",  "j10.bmp",  "j11.bmp",  "h1.bmp",    "h1m.bmp", "h2.bmp",   "h2m.bmp",  "h3.bmp",    "h3m.bmp",
-    "h4.bmp",  "h4m.bmp",  "g11.bmp",  "g11m.bmp",  "g11d.bmp", "g11md.bmp", "g12.bmp",  "g12m.bmp",  "g12d.bmp",
-    "g12md.bmp", "g21.bmp",  "g21m.bmp", "g21d.bmp",  "g21md.bmp", "g22.bmp", "g22m.bmp", "g22d.bmp", "g22md.bmp",
-    "g31.bmp", "g31m.bmp", "g31d.bmp", "g31md.bmp", "g32.bmp", "g32m.bmp", "g32d.bmp", "g32md.bmp", "g41.bmp",
-    "g41m.bmp", "g41d.bmp", "g41md.bmp", "g42.bmp", "g42m.bmp", "g42d.bmp", "g42md.bmp"};
+    "j0.bmp",  "j1.bmp",   "j2.bmp",   "j3.bmp",    "j4.bmp",  "j5.bmp",   "j6.bmp",   "j7.bmp",
+    "j8.bmp",  "j9.bmp",   "j10.bmp",  "j11.bmp",   "h1.bmp",  "h1m.bmp",  "h2.bmp",   "h2m.bmp",
+    "h3.bmp",  "h3m.bmp",  "h4.bmp",   "h4m.bmp",   "g11.bmp", "g11m.bmp", "g11d.bmp", "g11md.bmp",
+    "g12.bmp", "g12m.bmp", "g12d.bmp", "g12md.bmp", "g21.bmp", "g21m.bmp", "g21d.bmp", "g21md.bmp",
+    "g22.bmp", "g22m.bmp", "g22d.bmp", "g22md.bmp", "g31.bmp", "g31m.bmp", "g31d.bmp", "g31md.bmp",
+    "g32.bmp", "g32m.bmp", "g32d.bmp", "g32md.bmp", "g41.bmp", "g41m.bmp", "g41d.bmp", "g41md.bmp",
+    "g42.bmp", "g42m.bmp", "g42d.bmp", "g42md.bmp"};
 
 constexpr std::array spiele{
     SpielArt{"PI", "PISpiel", "PI-Spiel", pi},

@@ -9,7 +9,7 @@ namespace zentrox::probe {
 
 namespace {
 
-constexpr Milliseconds slideLimit = 10000;  // for the bar to open or close
+constexpr Milliseconds slideLimit = 10000;   // for the bar to open or close
 constexpr Milliseconds scriptLimit = 60000;  // for a script to say or ask something, or to end
 
 Button buttonNamed(const std::string& word) {
@@ -133,18 +133,20 @@ void Player::readOn(const std::shared_ptr<Reading>& reading) {
     const auto over = [this] { return game_->idle() || game_->choiceOpen() || !inRoomWindow(); };
     if (const auto lines = game_->standingText()) {
         reading->last = *lines;
-        while (reading->next < reading->wanted.size() &&
-               active("a text").shows(reading->wanted[reading->next]))
+        while (reading->next < reading->wanted.size() && active("a text").shows(reading->wanted[reading->next]))
             ++reading->next;
         pushKey(key::space, ' ', true, true);
-        push(Await{[this] { return !game_->standingText(); }, backend_.clock() + slideLimit, "the text to close", {}});
+        push(Await{
+            [this] { return !game_->standingText(); }, backend_.clock() + slideLimit, "the text to close", {}});
     } else if (over()) {
         if (reading->next < reading->wanted.size())
             fail("a text with \"" + toUtf8(reading->wanted[reading->next]) + '"', "that it never came; " + seen());
         return;
     } else {
-        push(Await{[this, over] { return game_->standingText() || over(); }, backend_.clock() + scriptLimit,
-                   "the next text, or the end of the script", {}});
+        push(Await{[this, over] { return game_->standingText() || over(); },
+                   backend_.clock() + scriptLimit,
+                   "the next text, or the end of the script",
+                   {}});
     }
     push(Unfold([this, reading] { readOn(reading); }));
 }
@@ -181,9 +183,8 @@ Point Player::itemAt(const Text& item) {
 }
 
 void Player::clickObject(const Command& command, Button button) {
-    whenFree("object " + command.words[0], [this, object = fromUtf8(command.words[0]), button] {
-        pushClick(objectAt(object), button);
-    });
+    whenFree("object " + command.words[0],
+             [this, object = fromUtf8(command.words[0]), button] { pushClick(objectAt(object), button); });
 }
 
 void Player::clickItem(const Command& command, Button button) {

@@ -153,7 +153,8 @@ std::string Player::seen() {
         }
         const auto options = game_->options();
         for (std::size_t i = 0; i < options.size(); ++i)
-            all += (i == 0 ? ", where a choice waits: " : ", ") + std::to_string(i + 1) + ' ' + inQuotes(options[i]);
+            all +=
+                (i == 0 ? ", where a choice waits: " : ", ") + std::to_string(i + 1) + ' ' + inQuotes(options[i]);
     }
     const Text reasons = platform_->queue.reasons();
     if (!reasons.empty()) all += ", waiting in " + toUtf8(reasons);

@@ -8,7 +8,8 @@
 namespace zentrox::probe {
 
 // The letters of `words` say what each word is:
-//   n number   w any word   q quoted word   b button   k key   i the word "item"   c condition to the end of the line
+//   n number   w any word   q quoted word   b button   k key   i the word "item"   c condition to the end of the
+//   line
 //   * any number of quoted words
 struct Verb {
     const char* name;

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <sstream>
 
+#include "engine/language/games.h"
 #include "platform/values/keys.h"
 #include "tools/probe/verbs.h"
 
@@ -60,11 +61,12 @@ bool isColour(const std::string& word) {
            std::all_of(word.begin(), word.end(), [](unsigned char c) { return std::isxdigit(c) != 0; });
 }
 
-// The names of all windows that there are.
 bool isWindow(const std::string& word) {
-    static constexpr std::array windows{"Menu", "Form1",  "Dialog", "Jump",  "Prügel",  "Bruhks",
-                                        "Pong", "Memory", "HDW",    "Form2", "PISpiel", "MsgBox"};
-    return std::find(windows.begin(), windows.end(), word) != windows.end();
+    static constexpr std::array others{"Menu", "Form1", "Dialog", "MsgBox"};
+    const auto games = Spiele();
+    return std::find(others.begin(), others.end(), word) != others.end() ||
+           std::any_of(games.begin(), games.end(),
+                       [name = fromUtf8(word)](const SpielArt& game) { return game.fenster == name; });
 }
 
 bool fits(char letter, const Word& word) {
