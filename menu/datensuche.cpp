@@ -28,7 +28,7 @@ Text DatenSuchen(const Files& files, const std::vector<std::filesystem::path>& w
         Text& pfad = z.*verzeichnis.pfad;
         if (!files.holdsFile(pfad)) pfad = laufwerk + "Spiel\\" + Text(verzeichnis.aufCD) + "\\";
     }
-    files.makeDirectory(programm + Text(Spielstände));
+    files.makeDirectory(files.savesDirectory());
     return laufwerk;
 }
 

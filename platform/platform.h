@@ -13,12 +13,11 @@ namespace zentrox {
 class Platform {
 public:
     // The backend, the fonts and the sound device must outlive it.
-    Platform(Backend& machine, Fonts& fontSource, SoundDevice& soundDevice,
-             const std::filesystem::path& programDirectory)
+    Platform(Backend& machine, Fonts& fontSource, SoundDevice& soundDevice, Files story)
         : backend(machine),
           fonts(fontSource),
           sound(soundDevice),
-          files(programDirectory),
+          files(std::move(story)),
           queue(machine),
           random(machine.seed()) {}
 

@@ -34,7 +34,7 @@ Text titel(const Zustand& z) {
 }  // namespace
 
 Text Speicherverzeichnis(const Files& files) {
-    return files.programDirectory() + Text(Spielstände);
+    return files.savesDirectory();
 }
 
 Dialog::Dialog(Platform& platform, Zustand& zustand)

@@ -33,9 +33,6 @@ constexpr TextView verzeichnis(Ordner ordner) {
     return Datenverzeichnisse[static_cast<std::size_t>(ordner)].name;
 }
 
-// Where the saved games lie, below the program's directory.
-constexpr TextView Spielstände = "saves\\";
-
 // A file that an argument names: its directory, and the field that holds it, 0 for the whole argument.
 struct Datei {
     Ordner ordner = Ordner::keiner;

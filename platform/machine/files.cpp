@@ -85,16 +85,39 @@ bool startsWithIgnoringCase(TextView text, TextView start) {
 
 }  // namespace
 
-Files::Files(const fs::path& programDirectory) : root_(fs::absolute(programDirectory).lexically_normal()) {
+Files::Files(const fs::path& programDirectory, std::unique_ptr<Archive> packed)
+    : root_(fs::absolute(programDirectory).lexically_normal()) {
     if (!root_.has_filename()) root_ = root_.parent_path();
     programDirectory_ = gamePath(root_);
     if (!programDirectory_.ends_with('\\')) programDirectory_ += '\\';
+    if (packed) packed_ = std::make_shared<Packed>(std::move(packed));
+    savesDirectory_ = programDirectory_ + "saves\\";
+}
+
+void Files::keepSavesIn(const fs::path& directory) {
+    saves_ = fs::absolute(directory).lexically_normal();
+    if (!saves_.has_filename()) saves_ = saves_.parent_path();
+    savesDirectory_ = gamePath(saves_) + "\\";
+}
+
+std::optional<TextView> Files::below(TextView path) const {
+    if (startsWithIgnoringCase(path, programDirectory_)) return path.substr(programDirectory_.size());
+    const bool whole = !path.empty() && isSeparator(path.front());
+    return whole ? std::nullopt : std::optional(path);
+}
+
+std::optional<std::size_t> Files::packedFile(TextView path) const {
+    const auto inside = packedPath(path);
+    return inside ? packed_->find(*inside) : std::nullopt;
 }
 
 fs::path Files::systemPath(TextView path) const {
-    if (startsWithIgnoringCase(path, programDirectory_)) return found(root_, path.substr(programDirectory_.size()));
-    const bool whole = !path.empty() && isSeparator(path.front());
-    return found(whole ? fs::path("/") : root_, path);
+    // What has no letter in the game's code page would be lost on the way back.
+    if (!saves_.empty() && startsWithIgnoringCase(path, savesDirectory_))
+        return found(saves_, path.substr(savesDirectory_.size()));
+    if (const auto entry = packedFile(path)) return packed_->open(*entry);
+    if (const auto inside = below(path)) return found(root_, *inside);
+    return found("/", path);
 }
 
 Text Files::gamePath(const fs::path& path) {
@@ -107,6 +130,7 @@ Text Files::gamePath(const fs::path& path) {
 }
 
 bool Files::exists(TextView path) const {
+    if (packedPath(path)) return packedFile(path).has_value();
     return isPlainFile(systemPath(path));
 }
 
@@ -116,9 +140,12 @@ bool Files::holdsFile(TextView directory) const {
 
 std::vector<Text> Files::list(TextView directory) const {
     std::vector<Text> names;
-    eachEntry(systemPath(directory), [&](const fs::directory_entry& entry) {
-        if (isPlainFile(entry.path())) names.push_back(gameName(entry.path().filename().native()));
-    });
+    if (const auto inside = packedPath(directory))
+        names = packed_->list(*inside);
+    else
+        eachEntry(systemPath(directory), [&](const fs::directory_entry& entry) {
+            if (isPlainFile(entry.path())) names.push_back(gameName(entry.path().filename().native()));
+        });
     std::sort(names.begin(), names.end(), [](const Text& a, const Text& b) {
         const Text bigA = upper(a);
         const Text bigB = upper(b);
@@ -127,15 +154,23 @@ std::vector<Text> Files::list(TextView directory) const {
     return names;
 }
 
+void Files::failUnreadable(TextView path) const {
+    throw DataError("Die Datei \"" + display(path) + "\" kann nicht gelesen werden.");
+}
+
 std::string Files::read(TextView path) const {
+    if (const auto entry = packedFile(path)) {
+        auto bytes = packed_->read(*entry);
+        if (!bytes) failUnreadable(path);
+        return *std::move(bytes);
+    }
     const fs::path file = systemPath(path);
     std::error_code error;
     if (!fs::exists(file, error)) throw DataError("Die Datei \"" + display(path) + "\" fehlt.");
     std::ifstream in;
     if (isPlainFile(file)) in.open(file, std::ios::binary);
     const auto size = fs::file_size(file, error);
-    if (!in || !in.is_open() || error)
-        throw DataError("Die Datei \"" + display(path) + "\" kann nicht gelesen werden.");
+    if (!in || !in.is_open() || error) failUnreadable(path);
     std::string bytes(size, '\0');
     in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(in.gcount()));
@@ -143,11 +178,16 @@ std::string Files::read(TextView path) const {
 }
 
 void Files::makeDirectory(TextView path) const {
+    const fs::path directory = systemPath(path);
     std::error_code error;
-    fs::create_directory(systemPath(path), error);
+    if (!saves_.empty() && equalIgnoringCase(path, savesDirectory_))
+        fs::create_directories(directory, error);
+    else
+        fs::create_directory(directory, error);
 }
 
 Text Files::display(TextView path) const {
+    if (const auto entry = packedFile(path)) return packed_->spelled(*entry);
     const fs::path file = systemPath(path).lexically_normal();
     const fs::path below = file.lexically_relative(root_);
     const bool under = !below.empty() && *below.begin() != ".." && *below.begin() != ".";

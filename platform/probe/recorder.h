@@ -18,8 +18,8 @@ public:
     // `trace` gets each line of what happens and the time of it.
     using Trace = std::function<void(Milliseconds at, const Text& line)>;
 
-    Recorder(const std::filesystem::path& programDirectory, std::function<Milliseconds()> clock, Trace trace)
-        : files_(programDirectory),
+    Recorder(Files files, std::function<Milliseconds()> clock, Trace trace)
+        : files_(std::move(files)),
           clock_(std::move(clock)),
           trace_(std::move(trace)) {}
 

@@ -63,9 +63,7 @@ std::unique_ptr<AudioReader> openAny(const std::filesystem::path& file) {
 
 class DesktopSound final : public SoundDevice {
 public:
-    DesktopSound(const std::filesystem::path& programDirectory, bool muted)
-        : files_(programDirectory),
-          muted_(muted) {}
+    DesktopSound(Files files, bool muted) : files_(std::move(files)), muted_(muted) {}
     ~DesktopSound() override { free(); }
     DesktopSound(const DesktopSound&) = delete;
     DesktopSound& operator=(const DesktopSound&) = delete;
@@ -266,10 +264,9 @@ std::int64_t DesktopSound::videoPosition() {
     return video_ ? video_->position(!videoHasSound_ || streams_.ended(Track::video)) : 0;
 }
 
-std::unique_ptr<SoundDevice> desktopSound(const std::filesystem::path& programDirectory) {
+std::unique_ptr<SoundDevice> desktopSound(const Files& files) {
     const char* choice = std::getenv("ZENTROX_SOUND");
-    return std::make_unique<DesktopSound>(programDirectory,
-                                          choice != nullptr && std::string_view(choice) == "none");
+    return std::make_unique<DesktopSound>(files, choice != nullptr && std::string_view(choice) == "none");
 }
 
 }  // namespace zentrox

@@ -1,10 +1,13 @@
 // zentrox-probe: the whole game with no screen and no sound, played by a walk.
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 
 #include "main/spiel.h"
+#include "platform/codec/zip.h"
 #include "platform/machine/system.h"
 #include "platform/probe/recorder.h"
 #include "platform/values/error.h"
@@ -22,6 +25,7 @@ constexpr int unreadable = 2;
 
 struct Options {
     std::string directory;
+    std::string saves;
     std::vector<std::string> roots;
     std::string arguments;
     std::uint64_t seed = 1;
@@ -41,15 +45,15 @@ std::string readWalk(const std::string& name) {
 }
 
 // One life of the program, from its first window to its end; gives its exit status.
-int live(const Options& options, probe::ProbeBackend& backend, probe::Player& player, probe::Ran& ran,
-         const Text& arguments) {
+int live(const Options& options, const Files& files, probe::ProbeBackend& backend, probe::Player& player,
+         probe::Ran& ran, const Text& arguments) {
     backend.beginAnew();
     const auto fonts = makeFonts();
     Recorder recorder(
-        options.directory, [&] { return backend.clock(); },
+        files, [&] { return backend.clock(); },
         [&](Milliseconds at, const Text& line) { backend.trace(at, toUtf8(line)); });
     backend.setClockMoved([&] { recorder.settle(); });
-    Platform platform(backend, *fonts, recorder, options.directory);
+    Platform platform(backend, *fonts, recorder, files);
     platform.roots.assign(options.roots.begin(), options.roots.end());
     Zustand zustand;
     probe::Story story(platform, zustand, recorder);
@@ -59,6 +63,31 @@ int live(const Options& options, probe::ProbeBackend& backend, probe::Player& pl
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);
     return status;
+}
+
+// A directory that goes with the process, for the saved games of a packed story.
+class Scratch {
+public:
+    Scratch() : path_(fs::temp_directory_path() / ("zentrox-probe-" + std::to_string(getpid()))) {}
+    ~Scratch() {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+    Scratch(const Scratch&) = delete;
+    Scratch& operator=(const Scratch&) = delete;
+    const fs::path& path() const { return path_; }
+
+private:
+    fs::path path_;
+};
+
+Files filesOf(const Options& options, const Scratch& scratch) {
+    Files files = openStory(options.directory);
+    if (!options.saves.empty())
+        files.keepSavesIn(options.saves);
+    else if (!fs::is_directory(options.directory))
+        files.keepSavesIn(scratch.path());
+    return files;
 }
 
 // What has run is told of a walk that failed, too.
@@ -78,10 +107,12 @@ int play(const Options& options) {
     probe::Player player(std::move(walk), backend, pictures, std::cout, std::chrono::seconds(options.timeout));
     backend.setPerson(&player);
     probe::Ran ran;
+    const Scratch scratch;
+    const Files files = filesOf(options, scratch);
     int result = 0;
     try {
-        int status = live(options, backend, player, ran, fromUtf8(options.arguments));
-        while (backend.restartWanted() && !player.over()) status = live(options, backend, player, ran, {});
+        int status = live(options, files, backend, player, ran, fromUtf8(options.arguments));
+        while (backend.restartWanted() && !player.over()) status = live(options, files, backend, player, ran, {});
         backend.trace("end");
         if (status != 0 && backend.lastBox() != nullptr && !backend.boxExpected)
             throw probe::WalkFailure{player.place() + ": expected the story to go on, found the failure \"" +
@@ -97,7 +128,9 @@ int play(const Options& options) {
 }
 
 int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
-    app.add_option("--dir", options.directory, "The program's directory: where the data directories and saves lie");
+    app.add_option("--dir", options.directory,
+                   "The program's directory: where the data directories and saves lie; or a packed story");
+    app.add_option("--saves", options.saves, "Where saved games lie, if not there");
     app.add_option("--root", options.roots, "A root to search for the CD's marker file; may be repeated")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
@@ -129,7 +162,7 @@ int main(int argc, char** argv) {
     Options options;
     options.directory = zentrox::programDirectory().string();
     if (const int result = readOptions(app, options, argc, argv)) return result < 0 ? 0 : result;
-    if (!fs::is_directory(options.directory)) {
+    if (!fs::exists(options.directory)) {
         std::cerr << options.directory << ": expected a directory, found none\n";
         return unreadable;
     }
@@ -137,6 +170,9 @@ int main(int argc, char** argv) {
         return play(options);
     } catch (const probe::WalkError& error) {
         std::cerr << error.what() << '\n';
+        return unreadable;
+    } catch (const DataError& error) {
+        std::cerr << toUtf8(error.message()) << '\n';
         return unreadable;
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
