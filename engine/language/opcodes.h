@@ -157,13 +157,15 @@ constexpr bool isMark(std::int32_t number) {
            (row->role == Role::divides || row->role == Role::closes || row->next == Next::isLabel);
 }
 
-// "WennMerker"_op is the number of that opcode; a name that no row has does not compile.
+// "WennMerker"_op is the number of that opcode; a name that no row has does not compile. A pointer into the table
+// is no constant for every compiler once its sanitizers look at it, so that the number is taken by walking the
+// rows.
 template <detail::Utf8Literal L>
 consteval std::int32_t operator""_op() {
     constexpr auto& name = detail::Literal1252<L>::value;
-    const Opcode* const row = findOpcode(TextView(name.bytes.data(), name.length));
-    if (row == nullptr) throw "no opcode has this name";
-    return row->number;
+    for (const Opcode& row : Opcodes)
+        if (row.name == TextView(name.bytes.data(), name.length)) return row.number;
+    throw "no opcode has this name";
 }
 
 // Whether an instruction serves the event queue before the next one runs.
