@@ -1,16 +1,23 @@
-# Turns the bytes of a file into a C++ array: cmake -DINPUT=... -DOUTPUT=... -DNAME=... -P embed.cmake defines NAMEPixel
-# and NAMEBytes in the namespace zentrox.
+# Turns the pixels of a picture into C++: cmake -DINPUT=... -DOUTPUT=... -DNAME=... -DWIDTH=... -DHEIGHT=... -P embed.cmake
+# defines the EmbeddedPicture NAME in the namespace zentrox. The input has three bytes a pixel, red first.
 file(READ ${INPUT} hex HEX)
-string(LENGTH "${hex}" digits)
-math(EXPR bytes "${digits} / 2")
 string(REGEX REPLACE "(................................)" "\\1\n" hex "${hex}")
 string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," hex "${hex}")
-file(WRITE ${OUTPUT} "namespace zentrox {
-extern const unsigned char ${NAME}Pixel[];
-extern const unsigned int ${NAME}Bytes;
-const unsigned char ${NAME}Pixel[] = {
+file(WRITE ${OUTPUT} "#include \"platform/picture/embedded.h\"
+
+namespace zentrox {
+
+namespace {
+
+constexpr unsigned char pixels[] = {
 ${hex}
 };
-const unsigned int ${NAME}Bytes = ${bytes};
+static_assert(sizeof(pixels) == 3 * ${WIDTH} * ${HEIGHT});
+
+}  // namespace
+
+extern const EmbeddedPicture ${NAME};
+const EmbeddedPicture ${NAME}{{${WIDTH}, ${HEIGHT}}, pixels};
+
 }  // namespace zentrox
 ")

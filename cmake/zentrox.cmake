@@ -27,3 +27,22 @@ function(zentrox_bench name)
   add_custom_target(run_${name} COMMAND ${name} USES_TERMINAL)
   add_dependencies(bench run_${name})
 endfunction()
+
+# A drawing that becomes a part of a library: zentrox_embed(LIBRARY DRAWING NAME WIDTH HEIGHT) defines the
+# EmbeddedPicture NAME, see platform/picture/embedded.h. What the drawing leaves out is black.
+function(zentrox_embed library drawing name width height)
+  find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+  find_program(IMAGEMAGICK_CONVERT NAMES convert magick REQUIRED)
+  set(drawing ${CMAKE_CURRENT_SOURCE_DIR}/${drawing})
+  set(made ${CMAKE_CURRENT_BINARY_DIR}/${name})
+  add_custom_command(
+    OUTPUT ${made}.cpp
+    COMMAND ${RSVG_CONVERT} --width ${width} --height ${height} --output ${made}.png ${drawing}
+    COMMAND ${IMAGEMAGICK_CONVERT} ${made}.png -background black -flatten -depth 8 rgb:${made}.rgb
+    COMMAND ${CMAKE_COMMAND} -DINPUT=${made}.rgb -DOUTPUT=${made}.cpp -DNAME=${name} -DWIDTH=${width}
+      -DHEIGHT=${height} -P ${zentrox_SOURCE_DIR}/cmake/embed.cmake
+    DEPENDS ${drawing} ${zentrox_SOURCE_DIR}/cmake/embed.cmake
+    COMMENT "Drawing ${name}"
+    VERBATIM)
+  target_sources(${library} PRIVATE ${made}.cpp)
+endfunction()

@@ -48,7 +48,7 @@ Menu::Menu(Platform& platform, Zustand& zustand, const std::vector<std::filesyst
              Label(&Picture1, {0, 0, 0, 0}, Hauptseite[2]), Label(&Picture1, {0, 0, 0, 0}, Hauptseite[3])},
       Picture2(platform.fonts, &Picture1, {184, 0, 257, 273}),
       Timer1(platform.queue, 10, false, [this] { Timer1_Timer(); }) {
-    Image1.setPicture(Titelbild());
+    Image1.setPicture(unpacked(Titelbild));
     Label3.setColour(Grün);
     Label2.setColour(Dunkelgrün);
     Picture2.font = {"Fixedsys", 9, true};

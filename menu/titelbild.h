@@ -1,11 +1,11 @@
 // The title picture, which is part of the program.
 #pragma once
 
-#include "platform/picture/bitmap.h"
+#include "platform/picture/embedded.h"
 
 namespace zentrox {
 
 // 501 by 121 pixels.
-Bitmap Titelbild();
+extern const EmbeddedPicture Titelbild;
 
 }  // namespace zentrox

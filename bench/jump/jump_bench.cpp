@@ -3,7 +3,6 @@
 #include <benchmark/benchmark.h>
 
 #include "games/bruhks/bruhksbild.h"
-#include "games/bruhks/bruhksbilder.h"
 #include "games/jump/jumpbild.h"
 #include "tests/jump/pictures.h"
 #include "tests/support/fake_backend.h"
@@ -41,20 +40,19 @@ void keepFlying(Funken& sparks, Random& chance, int count, Size size) {
 // The twelve enemies stand side by side in the view, 200 sparks over them, and the view moves by three pixels.
 void jumpTick(benchmark::State& state) {
     Scene scene(Jumpfeld);
-    Jumpbild view(scene.field);
-    view.Grafikladen(scene.stage.platform.files, scene.pictures());
+    Jumpbild view(scene.field, Grafikladen(scene.stage.platform.files, scene.pictures()));
     Random chance(1);
-    Jumpspiel game(chance);
+    Jumpspiel game;
     view.Hintergrundaufbau(game);
     keepFlying(game.Funken, chance, 200, Jumpfeld);
-    const Jumpspiel::Tasten keys{};
+    const Tasten keys{};
     int way = 3;
     for (auto _ : state) {
         view.Entfernen(game);
-        const Jumptick& tick = game.Tick(keys);
+        Jumptick tick = game.Tick(keys, chance);
         if (game.Sicht.ScrollX > 7000) way = -3;
         if (game.Sicht.ScrollX < 100) way = 3;
-        game.Sicht.Scroll(way);
+        game.Sicht.Scroll(way, tick.Schritte);
         float x = game.Sicht.ScrollX;
         for (Gegner& g : game.Gegner) {
             g.X = x += 45;
@@ -75,8 +73,7 @@ BENCHMARK(jumpTick)->DenseRange(0, 1)->Unit(benchmark::kMicrosecond);
 
 void jumpLoading(benchmark::State& state) {
     Scene scene(Jumpfeld);
-    Jumpbild view(scene.field);
-    for (auto _ : state) view.Grafikladen(scene.stage.platform.files, scene.pictures());
+    for (auto _ : state) benchmark::DoNotOptimize(Grafikladen(scene.stage.platform.files, scene.pictures()).row(0));
 }
 BENCHMARK(jumpLoading)->Unit(benchmark::kMillisecond);
 
@@ -85,12 +82,12 @@ void jumpGamesWithoutSurface(benchmark::State& state) {
     std::int64_t ticks = 0;
     for (auto _ : state) {
         Random chance(static_cast<std::uint64_t>(state.iterations()));
-        Jumpspiel game(chance);
-        Jumpspiel::Tasten keys{};
+        Jumpspiel game;
+        Tasten keys{};
         for (int i = 0; i < 3000 && game.Ende == 0; ++i, ++ticks) {
             keys[39] = chance.below(8) == 0 ? 0 : 128;
             keys[32] = i % 4 == 0 ? 0 : 128;
-            game.Tick(keys);
+            game.Tick(keys, chance);
         }
     }
     state.SetItemsProcessed(ticks);
@@ -103,8 +100,6 @@ struct Hunt {
     Bruhksbild view{scene.field};
     Random chance{1};
     Bruhksspiel game{chance, 3.14159274F, size, view.Frame()};
-
-    Hunt() { scene.field.setPicture(BruhksHintergrund()); }
 };
 
 // 21 creatures and 500 sparks.
@@ -113,7 +108,7 @@ void bruhksTick(benchmark::State& state) {
     for (auto _ : state) {
         keepFlying(hunt.game.Funken, hunt.chance, 500, Hunt::size);
         hunt.view.Entfernen(hunt.game);
-        hunt.game.JagdTick();
+        hunt.game.Tick(hunt.chance);
         hunt.view.Zeichnen(hunt.game);
         if (state.range(0) != 0) benchmark::DoNotOptimize(hunt.scene.window.compose().row(0));
     }
@@ -127,11 +122,9 @@ void bruhksCelebration(benchmark::State& state) {
     hunt.game.SiegBeginn(hunt.view.Textmitte());
     for (auto _ : state) {
         keepFlying(hunt.game.Funken, hunt.chance, 250, Hunt::size);
-        hunt.view.FunkenEntfernen(hunt.game);
-        hunt.game.SiegTickText();
-        hunt.view.Siegtext(hunt.game);
-        hunt.game.SiegTickFunken();
-        hunt.view.FunkenZeichnen(hunt.game);
+        hunt.view.Entfernen(hunt.game);
+        hunt.game.Tick(hunt.chance);
+        hunt.view.Zeichnen(hunt.game);
     }
 }
 BENCHMARK(bruhksCelebration)->Unit(benchmark::kMicrosecond);

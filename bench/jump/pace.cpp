@@ -64,20 +64,19 @@ int run() {
     Zustand z;
     Window window(platform, "Jump", "", Jumpfeld, Frame::thin);
     Surface field(fonts, &window.root(), {{0, 0}, Jumpfeld});
-    Jumpbild view(field);
-    view.Grafikladen(platform.files, platform.files.programDirectory() + "games\\");
+    Jumpbild view(field, Grafikladen(platform.files, platform.files.programDirectory() + "games\\"));
     Random chance(1);
-    Jumpspiel game(chance);
+    Jumpspiel game;
     view.Hintergrundaufbau(game);
     window.open();
-    Jumpspiel::Tasten keys{};
+    Tasten keys{};
 
     const auto tick = [&] {
         TastaturLesen(z, platform);
         view.Entfernen(game);
         keys[39] = game.ErsterTick || chance.below(10) != 0 ? 128 : 0;
         keys[32] = chance.below(3) != 0 ? 128 : 0;
-        const Jumptick& t = game.Tick(keys);
+        const Jumptick t = game.Tick(keys, chance);
         game.TotZaehler = 0;
         view.Zeichnen(game, t);
     };

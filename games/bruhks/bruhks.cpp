@@ -1,11 +1,7 @@
 #include "games/bruhks/bruhks.h"
 
-#include <optional>
-
 #include "engine/state/warten.h"
 #include "games/bruhks/bruhksbild.h"
-#include "games/bruhks/bruhksbilder.h"
-#include "platform/values/error.h"
 #include "platform/window/controls/label.h"
 #include "platform/window/controls/look.h"
 
@@ -38,7 +34,6 @@ public:
           bild_(Feld) {
         Feld.name = "Feld";
         Feld.font = {"MS Sans Serif", 13.5F, true};
-        Feld.setPicture(BruhksHintergrund());
         Feld.onDown = [this](const PointerEvent& e) {
             spiel_.Klick(static_cast<std::int16_t>(e.button), e.x, e.y);
         };
@@ -55,7 +50,7 @@ private:
     void Timer1_Timer() {
         Timer1.setEnabled(false);
         spiel_.Sekunden = 0;
-        while (spiel_.Jagd()) jagdTick();
+        while (spiel_.Jagd()) tick();
         if (spiel_.Uebrig == 0) feiern();
         close();
     }
@@ -66,9 +61,9 @@ private:
         if (spiel_.Ende != 0) z_.Übergabe = false;
     }
 
-    void jagdTick() {
+    void tick() {
         bild_.Entfernen(spiel_);
-        spiel_.JagdTick();
+        spiel_.Tick(platform().random);
         bild_.Zeichnen(spiel_);
         WarteFrame(z_, platform(), takt);
     }
@@ -77,14 +72,7 @@ private:
         Timer2.setEnabled(false);
         z_.Übergabe = true;
         spiel_.SiegBeginn(bild_.Textmitte());
-        while (spiel_.Ende == 0) {
-            bild_.FunkenEntfernen(spiel_);
-            spiel_.SiegTickText();
-            bild_.Siegtext(spiel_);
-            spiel_.SiegTickFunken();
-            bild_.FunkenZeichnen(spiel_);
-            WarteFrame(z_, platform(), takt);
-        }
+        while (spiel_.Ende == 0) tick();
     }
 
     Zustand& z_;

@@ -2,7 +2,6 @@
 
 #include "engine/state/felder.h"
 #include "games/bruhks/bruhksbilder.h"
-#include "games/sparks/funkenbild.h"
 
 namespace zentrox {
 
@@ -19,18 +18,28 @@ Point ort(const Kreatur& k) {
 
 Bruhksbild::Bruhksbild(Surface& feld)
     : Feld(feld),
-      Picture1{BruhkBild(0), BruhkBild(1)},
-      Picture2({KreaturAnzahl * Picture1.front().width(), Picture1.front().height()}) {}
+      Picture1{unpacked(BruhkOben), unpacked(BruhkUnten)},
+      Picture2({KreaturAnzahl * Frame().w, Frame().h}),
+      funken_(feld) {
+    Feld.setPicture(unpacked(BruhksGrund));
+}
 
 void Bruhksbild::Entfernen(const Bruhksspiel& spiel) {
-    FunkenWeg(Feld, spiel.Funken);
+    funken_.Entfernen();
     if (spiel.ErsterTick) return;
     for (std::size_t i = KreaturAnzahl; i-- > 0;)
         if (spiel.Kreaturen[i].Lebt) Feld.copy(Picture2, zelle(i), ort(spiel.Kreaturen[i]));
 }
 
+void Bruhksbild::Zeichnen(const Bruhksspiel& spiel) {
+    kreaturenZeichnen(spiel);
+    if (spiel.Sieg) siegtextDrucken(spiel);
+    funken_.Zeichnen(spiel.Funken);
+    Feld.refresh();
+}
+
 // There is no mask: a creature shines through, and its black surroundings leave the ground as it is.
-void Bruhksbild::Zeichnen(Bruhksspiel& spiel) {
+void Bruhksbild::kreaturenZeichnen(const Bruhksspiel& spiel) {
     for (std::size_t i = 0; i < KreaturAnzahl; ++i) {
         const Kreatur& k = spiel.Kreaturen[i];
         if (!k.Lebt) continue;
@@ -38,7 +47,6 @@ void Bruhksbild::Zeichnen(Bruhksspiel& spiel) {
         const Bitmap& bild = Picture1[static_cast<std::size_t>(k.Frame)];
         Feld.copy(bild, bild.bounds(), ort(k), Op::bitOr);
     }
-    FunkenZeichnen(spiel);
 }
 
 Point Bruhksbild::Textmitte() const {
@@ -46,19 +54,10 @@ Point Bruhksbild::Textmitte() const {
     return {(Feld.width() - text.w) / 2, (Feld.height() - text.h) / 2};
 }
 
-void Bruhksbild::FunkenEntfernen(const Bruhksspiel& spiel) {
-    FunkenWeg(Feld, spiel.Funken);
-}
-
 // The oldest copy is black and rubs out the path of the text.
-void Bruhksbild::Siegtext(const Bruhksspiel& spiel) {
+void Bruhksbild::siegtextDrucken(const Bruhksspiel& spiel) {
     for (int i = 0; i < TextspurLänge; ++i)
         Feld.printAt(spiel.Textspur[static_cast<std::size_t>(i)], siegtext, Colour(rotSchritt * i, 0, 0));
-}
-
-void Bruhksbild::FunkenZeichnen(Bruhksspiel& spiel) {
-    FunkenHin(Feld, spiel.Funken);
-    Feld.refresh();
 }
 
 }  // namespace zentrox

@@ -5,33 +5,33 @@
 #include <array>
 
 #include "games/bruhks/bruhksspiel.h"
+#include "games/sparks/funkenbild.h"
 #include "platform/window/surface.h"
 
 namespace zentrox {
 
 class Bruhksbild {
 public:
-    // `feld` is the surface of the game, its ground on it, and must outlive it.
+    // `feld` is the surface of the game and must outlive it. The ground is laid on it.
     explicit Bruhksbild(Surface& feld);
 
     Size Frame() const { return Picture1.front().size(); }
     // Where the text of the celebration stands in the middle.
     Point Textmitte() const;
 
-    // A tick of the hunt: off, then the game's own step, then on.
+    // Around a tick of the game: all that moves goes off the surface, and on again.
     void Entfernen(const Bruhksspiel& spiel);
-    void Zeichnen(Bruhksspiel& spiel);
-    // Of the celebration: sparks off, text, and sparks on.
-    void FunkenEntfernen(const Bruhksspiel& spiel);
-    void Siegtext(const Bruhksspiel& spiel);
-    void FunkenZeichnen(Bruhksspiel& spiel);
+    void Zeichnen(const Bruhksspiel& spiel);
 
 private:
     Rect zelle(std::size_t i) const { return {{Frame().w * static_cast<int>(i), 0}, Frame()}; }
+    void kreaturenZeichnen(const Bruhksspiel& spiel);
+    void siegtextDrucken(const Bruhksspiel& spiel);
 
     Surface& Feld;
     std::array<Bitmap, 2> Picture1;  // the creature's frames
     Bitmap Picture2;                 // what lies under the creatures
+    Funkenbild funken_;
 };
 
 }  // namespace zentrox

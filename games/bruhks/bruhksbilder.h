@@ -1,13 +1,13 @@
 // The pictures of Bruhks, which are part of the program.
 #pragma once
 
-#include "platform/picture/bitmap.h"
+#include "platform/picture/embedded.h"
 
 namespace zentrox {
 
-// 640 by 440 pixels.
-Bitmap BruhksHintergrund();
-// The two phases of a wing beat, 0 and 1, 64 by 48 pixels, black around the figure.
-Bitmap BruhkBild(int phase);
+extern const EmbeddedPicture BruhksGrund;  // 640 by 440 pixels
+// The two phases of a wing beat, 64 by 48 pixels, black around the figure.
+extern const EmbeddedPicture BruhkOben;
+extern const EmbeddedPicture BruhkUnten;
 
 }  // namespace zentrox

@@ -1,5 +1,5 @@
-// The rules of Bruhks: 21 creatures glide in soft curves, a click bursts one. Nothing here draws, and nothing
-// depends on the clock. Positions are pixels of the surface, durations ticks.
+// The rules of Bruhks, a plain value: 21 creatures glide in soft curves, a click bursts one. Positions are pixels
+// of the surface, durations ticks.
 #pragma once
 
 #include <array>
@@ -34,8 +34,7 @@ constexpr int linkeTaste = 1;
 
 class Bruhksspiel {
 public:
-    // All creatures take their places. `feld` and `frame` are the sizes of the surface and of a creature; `zufall`
-    // must outlive it.
+    // All creatures take their places. `feld` and `frame` are the sizes of the surface and of a creature.
     Bruhksspiel(Random& zufall, float PI, Size feld, Size frame);
 
     // A mouse button went down; the next tick reads it.
@@ -44,13 +43,10 @@ public:
     void Sekunde();
 
     bool Jagd() const { return Ende == 0 && Uebrig > 0; }
-    // One tick of the hunt. The creatures and sparks have to be off the surface.
-    void JagdTick();
     // The hunt is won: the celebration begins with its text at `mitte`.
     void SiegBeginn(Point mitte);
-    // One tick of the celebration, in two halves: the text is printed at the places of `Textspur` between them.
-    void SiegTickText();
-    void SiegTickFunken();
+    // One tick of the hunt or of the celebration. It is silent, and all that it does can be seen in the fields.
+    void Tick(Random& zufall);
 
     std::array<Kreatur, KreaturAnzahl> Kreaturen;
     zentrox::Funken Funken;
@@ -65,16 +61,17 @@ public:
     std::array<Point, TextspurLänge> Textspur{};  // the newest last
 
 private:
-    void treffer(Kreatur& k);
+    void jagdTick(Random& zufall);
+    void siegTick(Random& zufall);
+    void text();
+    void treffer(Kreatur& k, Random& zufall);
     bool getroffen(const Kreatur& k) const;
-    void gleiten(Kreatur& k);
+    void gleiten(Kreatur& k, Random& zufall) const;
     struct Achse;
-    void reisen(const Achse& achse, int spielraum);
+    void reisen(const Achse& achse, int spielraum, Random& zufall) const;
     int spielraumX() const { return feld_.w - frame_.w; }
     int spielraumY() const { return feld_.h - frame_.h; }
-    float ort(int spielraum);
 
-    Random& zufall_;
     float PI_;
     Size feld_;
     Size frame_;

@@ -1,8 +1,9 @@
 #include "games/jump/jump.h"
 
 #include "engine/state/warten.h"
+#include "games/base/geladen.h"
+#include "games/base/tasten.h"
 #include "games/jump/jumpbild.h"
-#include "platform/values/error.h"
 
 namespace zentrox {
 
@@ -12,16 +13,6 @@ constexpr Size fenstergröße{624, 433};
 constexpr int takt = 20;       // milliseconds a tick
 constexpr int songTakt = 500;  // milliseconds between two looks at the song
 
-constexpr TextView klangDatei(Jumpklang klang) {
-    switch (klang) {
-        case Jumpklang::tropfen: return "drip.wav";
-        case Jumpklang::lachen: return "e_laugh.wav";
-        case Jumpklang::plopp: return "pop.wav";
-        case Jumpklang::sprung: break;
-    }
-    return "boing.wav";
-}
-
 class Jump : public Window {
 public:
     Jump(Platform& platform, Zustand& zustand, Medien& medien)
@@ -30,11 +21,11 @@ public:
           medien_(medien),
           Feld(platform.fonts, &root(), {{0, 0}, Jumpfeld}),
           Timer1(platform.queue, 1, true, [this] { Timer1_Timer(); }),
-          RM(platform.queue, songTakt, false, [this] { medien_.SongPrüfen(); }),
-          spiel_(platform.random),
-          bild_(Feld) {
+          RM(platform.queue, songTakt, false, [this] { medien_.SongPrüfen(); }) {
         Feld.name = "Feld";
         Feld.font = {"MS Sans Serif", 13.5F, true};
+        // It stands from the first moment, however long loading takes, until the view is drawn over it.
+        Feld.print("Bitte Warten - Laden");
         setPointer({Pointer::Mode::invisible, {}});
     }
 
@@ -44,33 +35,43 @@ private:
         return true;
     }
 
+    void onKeyDown(int code) override { tasten_.Nieder(code); }
+
     // Fires once and holds the whole game.
     void Timer1_Timer() {
         Timer1.setEnabled(false);
         medien_.SpieleWav(z_.PfadGames + "wodds.wav");
-        laden();
-        bild_.Hintergrundaufbau(spiel_);
+        if (laden())
+            spielen();
+        else
+            z_.Übergabe = false;
+        close();
+    }
+
+    bool laden() {
+        auto atlas = Geladen(platform(), "JUMP", [&] { return Grafikladen(platform().files, z_.PfadGames); });
+        if (!atlas) return false;
+        bild_.emplace(Feld, std::move(*atlas));
+        bild_->Hintergrundaufbau(spiel_);
+        return true;
+    }
+
+    void spielen() {
         medien_.SongStart(z_.PfadGames + "jump.mid");
         RM.setEnabled(true);
         while (spiel_.Ende == 0) tick();
         RM.setEnabled(false);
         medien_.SongStop();
-        close();
-    }
-
-    void laden() {
-        Feld.print("Bitte Warten - Laden");
-        platform().queue.present();
-        bild_.Grafikladen(platform().files, z_.PfadGames);
     }
 
     void tick() {
         TastaturLesen(z_, platform());
-        bild_.Entfernen(spiel_);
-        const Jumptick& t = spiel_.Tick(z_.Tastatur);
-        for (const Jumpklang klang : t.Klänge) medien_.SpieleWav(z_.PfadGames + Text(klangDatei(klang)));
+        tasten_.Ergänzen(z_.Tastatur);
+        bild_->Entfernen(spiel_);
+        const Jumptick t = spiel_.Tick(z_.Tastatur, platform().random);
+        bild_->Zeichnen(spiel_, t);
+        for (const TextView klang : t.Klänge) medien_.SpieleWav(z_.PfadGames + Text(klang));
         if (spiel_.Ergebnis) z_.Übergabe = *spiel_.Ergebnis;
-        bild_.Zeichnen(spiel_, t);
         WarteFrame(z_, platform(), takt);
     }
 
@@ -79,19 +80,17 @@ private:
     Surface Feld;
     Timer Timer1;
     Timer RM;
+    Tastenwacht tasten_;
     Jumpspiel spiel_;
-    Jumpbild bild_;
+    std::optional<Jumpbild> bild_;  // once its pictures are loaded
 };
 
 }  // namespace
 
 void JumpZeigen(Platform& platform, Zustand& zustand, Medien& medien) {
-    try {
-        Jump(platform, zustand, medien).showModal();
-    } catch (const DataError& error) {
-        zustand.Übergabe = false;
-        showMessageBox(platform, {"Jump", error.message(), MessageBox::Icon::critical});
-    }
+    Jump(platform, zustand, medien).showModal();
+    // Whoever closes the window has not won, whatever the story has put there.
+    if (!std::holds_alternative<bool>(zustand.Übergabe)) zustand.Übergabe = false;
 }
 
 }  // namespace zentrox

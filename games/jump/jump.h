@@ -7,8 +7,8 @@
 
 namespace zentrox {
 
-// Shows the game modally. `Übergabe` is true if it was won, false if it was lost or if a picture can't be used,
-// which a box tells; closed before its end, the game leaves it as it was.
+// Shows the game modally. `Übergabe` is true afterwards if it was won, else false. A picture that can't be used is
+// told in a box, and the game counts as lost.
 void JumpZeigen(Platform& platform, Zustand& zustand, Medien& medien);
 
 }  // namespace zentrox

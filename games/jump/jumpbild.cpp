@@ -1,7 +1,6 @@
 #include "games/jump/jumpbild.h"
 
 #include "engine/state/felder.h"
-#include "games/sparks/funkenbild.h"
 #include "platform/codec/pictures.h"
 
 namespace zentrox {
@@ -40,45 +39,53 @@ Rect zelle(const Gegner& g) {
     return {g.RetteX, g.RetteY, g.Art().Breite, g.Art().Hoehe};
 }
 
+class Atlas {
+public:
+    Atlas(const Files& dateien, TextView pfad) : dateien_(dateien), pfad_(pfad) {}
+
+    void Laden(const Text& name, Point ort) { bild.copy(loadPicture(dateien_, pfad_ + name + ".bmp"), ort); }
+    void GegnerLaden(int typ);
+
+    Bitmap bild{atlasGröße};
+
+private:
+    const Files& dateien_;
+    Text pfad_;
+};
+
+void Atlas::GegnerLaden(int typ) {
+    const GegnerTyp& art = GegnerTypen[static_cast<std::size_t>(typ)];
+    for (int phase = 0; phase <= art.LetztesBild; ++phase) {
+        const Text stamm = "g" + std::to_string(typ + 1) + std::to_string(phase + 1);
+        const int x = phase * art.Breite;
+        const int maskenY = art.AtlasY + art.Hoehe;
+        Laden(stamm, {x, art.AtlasY});
+        Laden(stamm + "m", {x, maskenY});
+        Laden(stamm + "d", {x + art.Spiegelung(), art.AtlasY});
+        Laden(stamm + "md", {x + art.Spiegelung(), maskenY});
+    }
+}
+
 }  // namespace
 
-// --- the atlas
-
-void Jumpbild::laden(const Files& dateien, TextView pfad, const Text& name, Point ort) {
-    Picture1.copy(loadPicture(dateien, Text(pfad) + name + ".bmp"), ort);
-}
-
-void Jumpbild::gegnerLaden(const Files& dateien, TextView pfad, int typ) {
-    const GegnerTyp& art = GegnerTypen[static_cast<std::size_t>(typ)];
-    for (int bild = 0; bild <= art.LetztesBild; ++bild) {
-        const Text stamm = "g" + std::to_string(typ + 1) + std::to_string(bild + 1);
-        const int x = bild * art.Breite;
-        const int maskenY = art.AtlasY + art.Hoehe;
-        laden(dateien, pfad, stamm, {x, art.AtlasY});
-        laden(dateien, pfad, stamm + "m", {x, maskenY});
-        laden(dateien, pfad, stamm + "d", {x + art.Spiegelung(), art.AtlasY});
-        laden(dateien, pfad, stamm + "md", {x + art.Spiegelung(), maskenY});
-    }
-}
-
-void Jumpbild::Grafikladen(const Files& dateien, TextView pfad) {
-    Picture1 = Bitmap(atlasGröße);
-    laden(dateien, pfad, "j0", {0, 0});
-    for (int i = 1; i <= kachelBilder; ++i) laden(dateien, pfad, "j" + std::to_string(i), kachelbild(i).at());
+Bitmap Grafikladen(const Files& dateien, TextView pfad) {
+    Atlas atlas(dateien, pfad);
+    atlas.Laden("j0", {0, 0});
+    for (int i = 1; i <= kachelBilder; ++i) atlas.Laden("j" + std::to_string(i), kachelbild(i).at());
     for (int i = 1; i <= spielerBilder; ++i) {
         const Text stamm = "h" + std::to_string(i);
-        laden(dateien, pfad, stamm, spielerbild(i - 1).at());
-        laden(dateien, pfad, stamm + "m", {spielerbild(i - 1).x, spielerMaskeY});
+        atlas.Laden(stamm, spielerbild(i - 1).at());
+        atlas.Laden(stamm + "m", {spielerbild(i - 1).x, spielerMaskeY});
     }
-    for (int typ = 0; typ < static_cast<int>(GegnerTypen.size()); ++typ) gegnerLaden(dateien, pfad, typ);
+    for (int typ = 0; typ < static_cast<int>(GegnerTypen.size()); ++typ) atlas.GegnerLaden(typ);
+    return std::move(atlas.bild);
 }
 
 // --- the view
 
-void Jumpbild::Hintergrundaufbau(Jumpspiel& spiel) {
+void Jumpbild::Hintergrundaufbau(const Jumpspiel& spiel) {
     Feld.copy(Picture1, {{0, 0}, Jumpfeld}, {0, 0});
     const int spalte = Runden(spiel.Sicht.ScrollX) / Kachel;
-    spiel.Sicht.ScrollX = static_cast<float>(spalte * Kachel);
     for (int i = 0; i * Kachel < Jumpfeld.w; ++i)
         streifen(spiel.Karte, spalte + i, 0, {i * Kachel, 0, Kachel, Jumpfeld.h});
     Feld.refresh();
@@ -118,7 +125,7 @@ void Jumpbild::Scrollen(const Karte& karte, const Scrollschritt& schritt) {
 // --- sprites
 
 void Jumpbild::Entfernen(const Jumpspiel& spiel) {
-    FunkenWeg(Feld, spiel.Funken);
+    funken_.Entfernen();
     if (spiel.ErsterTick) return;
     for (auto g = spiel.Gegner.rbegin(); g != spiel.Gegner.rend(); ++g)
         if (g->Lebt && g->Sichtbar) Feld.copy(Picture2, zelle(*g), ortGegner(*g, spiel));
@@ -149,13 +156,13 @@ void Jumpbild::gegnerZeichnen(const Gegner& g, const Jumpspiel& spiel) {
     ausschneiden({art.Breite * g.Bild + g.Blick, art.AtlasY, art.Breite, hoehe}, art.AtlasY + art.Hoehe, ort);
 }
 
-void Jumpbild::Zeichnen(Jumpspiel& spiel, const Jumptick& tick) {
-    for (const Scrollschritt& schritt : spiel.Sicht.Schritte) Scrollen(spiel.Karte, schritt);
+void Jumpbild::Zeichnen(const Jumpspiel& spiel, const Jumptick& tick) {
+    for (const Scrollschritt& schritt : tick.Schritte) Scrollen(spiel.Karte, schritt);
     if (tick.Zielbild) Feld.copy(Picture1, kachelbild(zielkachel), *tick.Zielbild);
     spielerZeichnen(spiel);
     for (const Gegner& g : spiel.Gegner)
         if (g.Sichtbar) gegnerZeichnen(g, spiel);
-    FunkenHin(Feld, spiel.Funken);
+    funken_.Zeichnen(spiel.Funken);
     Feld.refresh();
 }
 

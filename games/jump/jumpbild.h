@@ -3,26 +3,27 @@
 #pragma once
 
 #include "games/jump/jumpspiel.h"
+#include "games/sparks/funkenbild.h"
 #include "platform/machine/files.h"
 #include "platform/window/surface.h"
 
 namespace zentrox {
 
+// The atlas: 52 pictures of a directory in one. Throws `DataError` at the first one that is missing or damaged. One
+// of another size than expected covers its neighbours or leaves a hole.
+Bitmap Grafikladen(const Files& dateien, TextView pfad);
+
 class Jumpbild {
 public:
     // `feld` is the surface of the game and must outlive it.
-    explicit Jumpbild(Surface& feld) : Feld(feld) {}
+    Jumpbild(Surface& feld, Bitmap atlas) : Feld(feld), Picture1(std::move(atlas)), funken_(feld) {}
 
-    // Loads the 52 pictures of the atlas from a directory. Throws `DataError` at the first one that is missing or
-    // damaged. One of another size than expected covers its neighbours or leaves a hole.
-    void Grafikladen(const Files& dateien, TextView pfad);
+    // Builds the whole view, which stands at the border of a column.
+    void Hintergrundaufbau(const Jumpspiel& spiel);
 
-    // Builds the whole view, which snaps to a column.
-    void Hintergrundaufbau(Jumpspiel& spiel);
-
-    // A tick: off, then the game's own step, then the view and all that stands in it.
+    // Around a tick of the game: all that moves goes off the surface; then the view moves, and all goes on again.
     void Entfernen(const Jumpspiel& spiel);
-    void Zeichnen(Jumpspiel& spiel, const Jumptick& tick);
+    void Zeichnen(const Jumpspiel& spiel, const Jumptick& tick);
 
     // One step of the view, with no sprite on the surface.
     void Scrollen(const Karte& karte, const Scrollschritt& schritt);
@@ -30,8 +31,6 @@ public:
     const Bitmap& Atlas() const { return Picture1; }
 
 private:
-    void laden(const Files& dateien, TextView pfad, const Text& name, Point ort);
-    void gegnerLaden(const Files& dateien, TextView pfad, int typ);
     void nachLinks(const Karte& karte, int a, int x);
     void nachRechts(const Karte& karte, int d, int x);
     void streifen(const Karte& karte, int spalte, int x, const Rect& ziel);
@@ -43,6 +42,7 @@ private:
     Surface& Feld;
     Bitmap Picture1;                  // the atlas
     Bitmap Picture2{Size{292, 164}};  // what lies under the sprites
+    Funkenbild funken_;
 };
 
 }  // namespace zentrox

@@ -1,6 +1,7 @@
 #include "games/jump/jumpspiel.h"
 
 #include <cmath>
+#include <utility>
 
 #include "engine/state/felder.h"
 #include "platform/values/keys.h"
@@ -51,12 +52,8 @@ bool Jumpspiel::CheckLinksundRechts(float X, float Y, float Tempo, std::int32_t 
            (Y > obenOben && fest(Y));
 }
 
-const Jumptick& Jumpspiel::Tick(const Tasten& tasten) {
-    tasten_ = &tasten;
-    Sicht.Schritte.clear();
-    tick_.Klänge.clear();
-    tick_.Zielbild.reset();
-
+Jumptick Jumpspiel::Tick(const Tasten& tasten, Random& zufall) {
+    Lauf lauf{.tasten = tasten, .zufall = zufall, .tick = {}};
     Funken.Altern();
     ErsterTick = false;
     for (auto& g : Gegner)
@@ -65,19 +62,19 @@ const Jumptick& Jumpspiel::Tick(const Tasten& tasten) {
     SpielerY += SpielerVY;
     if (TotZaehler == 0) {
         grube();
-        berührungen();
+        berührungen(lauf);
     }
     if (TotZaehler > 0)
-        sterben();
+        sterben(lauf);
     else
-        leben();
+        leben(lauf);
     if (SiegZaehler > 0)
-        feiern();
+        feiern(lauf);
     else
-        ziel();
+        ziel(lauf);
     sichtbarkeit();
     Funken.Bewegen();
-    return tick_;
+    return std::move(lauf.tick);
 }
 
 // --- enemies
@@ -132,12 +129,12 @@ void Jumpspiel::grube() {
     TotZaehler = 1;
 }
 
-void Jumpspiel::berührungen() {
+void Jumpspiel::berührungen(Lauf& lauf) {
     for (auto& g : Gegner)
-        if (g.Lebt) berührung(g);
+        if (g.Lebt) berührung(g, lauf);
 }
 
-void Jumpspiel::berührung(zentrox::Gegner& g) {
+void Jumpspiel::berührung(zentrox::Gegner& g, Lauf& lauf) {
     const float breite = static_cast<float>(g.Art().Breite);
     const float unten = g.Y + static_cast<float>(g.Art().Hoehe);
     const float tritt = g.Y + static_cast<float>(g.Art().TrittHoehe);
@@ -147,15 +144,15 @@ void Jumpspiel::berührung(zentrox::Gegner& g) {
         SpielerVY = trefferVY;
         TotZaehler = 1;
     } else if (füße >= g.Y && füße <= tritt) {
-        zertreten(g);
+        zertreten(g, lauf);
     }
 }
 
-void Jumpspiel::zertreten(zentrox::Gegner& g) {
+void Jumpspiel::zertreten(zentrox::Gegner& g, Lauf& lauf) {
     const float rechts = g.X + static_cast<float>(g.Art().Breite);
     const float unten = g.Y + static_cast<float>(g.Art().Hoehe);
-    funken(5, g.X, g.Y, rechts, unten, true);
-    klang(Jumpklang::tropfen);
+    funken(lauf, 5, g.X, g.Y, rechts, unten, true);
+    lauf.tick.Klänge.push_back("drip.wav");
     g.Lebt = false;
     AmBoden = 1;
     BodenNachlauf = nachlauf;
@@ -165,16 +162,16 @@ void Jumpspiel::zertreten(zentrox::Gegner& g) {
 // --- the figure
 
 // It passes through everything, and the view stands still.
-void Jumpspiel::sterben() {
+void Jumpspiel::sterben(Lauf& lauf) {
     if (TotZaehler == 1) {
-        klang(Jumpklang::lachen);
+        lauf.tick.Klänge.push_back("e_laugh.wav");
         TotZaehler = 2;
     }
     if (SpielerY > Jumpfeld.h) {
         SpielerY = Jumpfeld.h + 1;
         ++TotZaehler;
     } else {
-        funken(1, SpielerX + 20, SpielerY, SpielerX + 28, SpielerY + 48, true);
+        funken(lauf, 1, SpielerX + 20, SpielerY, SpielerX + 28, SpielerY + 48, true);
     }
     if (TotZaehler == todesTicks) {
         Ergebnis = false;
@@ -182,14 +179,14 @@ void Jumpspiel::sterben() {
     }
 }
 
-void Jumpspiel::leben() {
-    if (SiegZaehler == 0) SpielerBild = SpielerVY < duckVY || gedrückt(key::down) ? 1 : 0;
+void Jumpspiel::leben(Lauf& lauf) {
+    if (SiegZaehler == 0) SpielerBild = SpielerVY < duckVY || Gedrückt(lauf.tasten, key::down) ? 1 : 0;
     kopf();
-    füße();
-    tempo();
-    springen();
+    füße(lauf);
+    tempo(lauf);
+    springen(lauf);
     gehen();
-    sichtNachführen();
+    sichtNachführen(lauf);
 }
 
 bool Jumpspiel::festBei(float y) const {
@@ -204,9 +201,9 @@ void Jumpspiel::kopf() {
     SpielerVY = 0;
 }
 
-void Jumpspiel::füße() {
+void Jumpspiel::füße(Lauf& lauf) {
     if (SpielerY > obenFüße && festBei(SpielerY + spielerHoehe)) {
-        if (AmBoden == 0) klang(Jumpklang::plopp);
+        if (AmBoden == 0) lauf.tick.Klänge.push_back("pop.wav");
         AmBoden = 1;
         BodenNachlauf = nachlauf;
         SpielerY = static_cast<float>(Kachel * (Runden(SpielerY + spielerHoehe) / Kachel - 2));
@@ -219,28 +216,29 @@ void Jumpspiel::füße() {
 }
 
 // Left comes second, so on the ground it wins over right.
-void Jumpspiel::tempo() {
+void Jumpspiel::tempo(const Lauf& lauf) {
     if (AmBoden != 0 || std::fabs(SpielerVX) <= luftBremse)
         SpielerVX = 0;
     else
         SpielerVX -= std::copysign(luftBremse, SpielerVX);
     if (SiegZaehler != 0) return;
-    if (gedrückt(key::right)) SpielerVX = AmBoden != 0 ? schritttempo : SpielerVX + luftSchub;
-    if (gedrückt(key::left)) SpielerVX = AmBoden != 0 ? -schritttempo : SpielerVX - luftSchub;
-    if (gedrückt(key::escape)) {
+    if (Gedrückt(lauf.tasten, key::right)) SpielerVX = AmBoden != 0 ? schritttempo : SpielerVX + luftSchub;
+    if (Gedrückt(lauf.tasten, key::left)) SpielerVX = AmBoden != 0 ? -schritttempo : SpielerVX - luftSchub;
+    if (Gedrückt(lauf.tasten, key::escape)) {
         SpielerVY = aufgabeVY;
         TotZaehler = 1;
     }
 }
 
-void Jumpspiel::springen() {
-    if (gedrückt(key::space) && AmBoden > 0 && !SprungGehalten) {
-        klang(Jumpklang::sprung);
+void Jumpspiel::springen(Lauf& lauf) {
+    if (Gedrückt(lauf.tasten, key::space) && AmBoden > 0 && !SprungGehalten) {
+        lauf.tick.Klänge.push_back("boing.wav");
         --AmBoden;
         SprungGehalten = true;
         SpielerVY = sprungVY;
-        funken(15, SpielerX, SpielerY + spielerHoehe, SpielerX + spielerBreite, SpielerY + spielerHoehe, false);
-    } else if ((*tasten_)[key::space] < 128) {
+        funken(lauf, 15, SpielerX, SpielerY + spielerHoehe, SpielerX + spielerBreite, SpielerY + spielerHoehe,
+               false);
+    } else if (lauf.tasten[key::space] < 128) {
         SprungGehalten = false;
     }
 }
@@ -254,28 +252,28 @@ void Jumpspiel::gehen() {
     }
 }
 
-void Jumpspiel::sichtNachführen() {
+void Jumpspiel::sichtNachführen(Lauf& lauf) {
     const auto abstand = [&] { return static_cast<float>(Runden(SpielerX)) - Sicht.ScrollX; };
-    if (abstand() > sichtRechts) Sicht.Scroll(Runden(abstand() - sichtRechts));
-    if (abstand() < sichtLinks) Sicht.Scroll(Runden(abstand() - sichtLinks));
+    if (abstand() > sichtRechts) Sicht.Scroll(Runden(abstand() - sichtRechts), lauf.tick.Schritte);
+    if (abstand() < sichtLinks) Sicht.Scroll(Runden(abstand() - sichtLinks), lauf.tick.Schritte);
 }
 
 // --- the end
 
 // Pressing on against the right end brings the figure to exactly that place.
-void Jumpspiel::ziel() {
+void Jumpspiel::ziel(Lauf& lauf) {
     if (SpielerX != letztesX || SpielerY != zielY) return;
-    tick_.Zielbild = Point{Runden(SpielerX - Sicht.ScrollX), Runden(SpielerY - Kachel)};
+    lauf.tick.Zielbild = Point{Runden(SpielerX - Sicht.ScrollX), Runden(SpielerY - Kachel)};
     SpielerVX = 0;
     SpielerVY = 0;
     SiegZaehler = 1;
 }
 
-void Jumpspiel::feiern() {
+void Jumpspiel::feiern(Lauf& lauf) {
     Ergebnis = true;
     if (++SiegZaehler > siegTicks) Ende = 1;
     SpielerBild = 2 + SiegZaehler / siegBildTicks % 2;
-    funken(5, SpielerX, SpielerY - 48, SpielerX + spielerBreite, SpielerY, false);
+    funken(lauf, 5, SpielerX, SpielerY - 48, SpielerX + spielerBreite, SpielerY, false);
 }
 
 void Jumpspiel::sichtbarkeit() {
@@ -285,8 +283,8 @@ void Jumpspiel::sichtbarkeit() {
 }
 
 // Sparks live on the surface, all else in the level.
-void Jumpspiel::funken(int anzahl, float X1, float Y1, float X2, float Y2, bool brocken) {
-    Funken.Addpartikel(*zufall_, anzahl, X1 - Sicht.ScrollX, Y1, X2 - Sicht.ScrollX, Y2, brocken);
+void Jumpspiel::funken(Lauf& lauf, int anzahl, float X1, float Y1, float X2, float Y2, bool brocken) {
+    Funken.Addpartikel(lauf.zufall, anzahl, X1 - Sicht.ScrollX, Y1, X2 - Sicht.ScrollX, Y2, brocken);
 }
 
 }  // namespace zentrox

@@ -1,38 +1,32 @@
-// The rules of Jump: a tick of the keys, the enemies, the figure and the sparks. Nothing here draws; what a tick
-// asks of those who show it stands in `Jumptick`. All positions are pixels, all speeds pixels a tick.
+// The rules of Jump, a plain value: a tick of the keys, the enemies, the figure and the sparks. All positions are
+// pixels, all speeds pixels a tick.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
+#include "games/base/tasten.h"
 #include "games/jump/level.h"
 #include "games/jump/sicht.h"
 #include "games/sparks/funken.h"
 #include "platform/values/random.h"
+#include "platform/values/text.h"
 
 namespace zentrox {
 
 constexpr Size Spielergröße{48, 96};
 
-enum class Jumpklang { tropfen, lachen, plopp, sprung };
-
+// What has happened in a tick besides what can be seen in the fields.
 struct Jumptick {
-    std::vector<Jumpklang> Klänge;
-    std::optional<Point> Zielbild;  // then the picture of tile 9 belongs there, below the sprites
+    std::vector<TextView> Klänge;   // effects
+    Scrollschritte Schritte;        // of the view
+    std::optional<Point> Zielbild;  // the picture of tile 9 has appeared there, below the sprites
 };
 
 class Jumpspiel {
 public:
-    using Tasten = std::array<std::uint8_t, 256>;  // above 126 is held
-
-    // `zufall` must outlive it.
-    explicit Jumpspiel(Random& zufall) : zufall_(&zufall) {}
-
-    // One tick. What it gives is valid until the next one. Sprites and sparks have to be off the surface before it;
-    // after it, the steps of `Sicht` are to be done, and sprites and sparks to be drawn again.
-    const Jumptick& Tick(const Tasten& tasten);
+    Jumptick Tick(const Tasten& tasten, Random& zufall);
 
     // Whether a body of `Breite` pixels and `Hoehe` rows, its corner at X, Y, can't move on by `Tempo`.
     bool CheckLinksundRechts(float X, float Y, float Tempo, std::int32_t Breite, std::int32_t Hoehe) const;
@@ -57,35 +51,36 @@ public:
     std::optional<bool> Ergebnis;    // true is won
 
 private:
+    // What a tick works with.
+    struct Lauf {
+        const Tasten& tasten;
+        Random& zufall;
+        Jumptick tick;
+    };
+
     void gegnerBewegen(zentrox::Gegner& g);
     void gehen(zentrox::Gegner& g);
     void sinken(zentrox::Gegner& g);
     void patrouillieren(zentrox::Gegner& g) const;
     void grube();
-    void berührungen();
-    void berührung(zentrox::Gegner& g);
-    void zertreten(zentrox::Gegner& g);
-    void sterben();
-    void leben();
+    void berührungen(Lauf& lauf);
+    void berührung(zentrox::Gegner& g, Lauf& lauf);
+    void zertreten(zentrox::Gegner& g, Lauf& lauf);
+    void sterben(Lauf& lauf);
+    void leben(Lauf& lauf);
     void kopf();
-    void füße();
-    void tempo();
-    void springen();
+    void füße(Lauf& lauf);
+    void tempo(const Lauf& lauf);
+    void springen(Lauf& lauf);
     void gehen();
-    void sichtNachführen();
-    void ziel();
-    void feiern();
+    void sichtNachführen(Lauf& lauf);
+    void ziel(Lauf& lauf);
+    void feiern(Lauf& lauf);
     void sichtbarkeit();
 
     // Solid at the figure's columns, in the row of `y`.
     bool festBei(float y) const;
-    void funken(int anzahl, float X1, float Y1, float X2, float Y2, bool brocken);
-    void klang(Jumpklang k) { tick_.Klänge.push_back(k); }
-    bool gedrückt(int code) const { return (*tasten_)[static_cast<std::size_t>(code)] > 126; }
-
-    Random* zufall_;                  // a copy of the game shares it
-    const Tasten* tasten_ = nullptr;  // of the tick that runs
-    Jumptick tick_;
+    void funken(Lauf& lauf, int anzahl, float X1, float Y1, float X2, float Y2, bool brocken);
 };
 
 }  // namespace zentrox

@@ -13,39 +13,39 @@ constexpr std::int32_t sichererRand = Kachel * (letzteSpalte - sichtSpalten);
 
 }  // namespace
 
-void Sicht::Scroll(std::int32_t d) {
-    if (d < 0) links(-d);
-    if (d > 0) rechts(d);
+void Sicht::Scroll(std::int32_t d, Scrollschritte& schritte) {
+    if (d < 0) links(-d, schritte);
+    if (d > 0) rechts(d, schritte);
 }
 
-void Sicht::links(std::int32_t a) {
+void Sicht::links(std::int32_t a, Scrollschritte& schritte) {
     const std::int32_t x = Runden(ScrollX);
     if (x - a < 0) {
-        if (x > 0) links(x);
+        if (x > 0) links(x, schritte);
     } else if ((x - a) / Kachel != x / Kachel && x % Kachel != 0) {
-        links(x % Kachel);
-        links(a - x % Kachel);
+        links(x % Kachel, schritte);
+        links(a - x % Kachel, schritte);
     } else {
-        schritt(-a);
+        schritt(-a, schritte);
     }
 }
 
 // A step too far goes back to the column before; the small steps of play come to rest just short of the last one.
-void Sicht::rechts(std::int32_t d) {
+void Sicht::rechts(std::int32_t d, Scrollschritte& schritte) {
     const std::int32_t x = Runden(ScrollX);
     const std::int32_t rest = (x + d) % Kachel;
     if ((x + d) / Kachel + sichtSpalten > letzteSpalte) {
-        if (sichererRand > x) rechts(sichererRand - x);
+        if (sichererRand > x) rechts(sichererRand - x, schritte);
     } else if ((x + d) / Kachel != x / Kachel && rest > 0) {
-        rechts(d - rest);
-        rechts(rest);
+        rechts(d - rest, schritte);
+        rechts(rest, schritte);
     } else {
-        schritt(d);
+        schritt(d, schritte);
     }
 }
 
-void Sicht::schritt(std::int32_t d) {
-    Schritte.push_back({d, Runden(ScrollX)});
+void Sicht::schritt(std::int32_t d, Scrollschritte& schritte) {
+    schritte.push_back({d, Runden(ScrollX)});
     ScrollX += static_cast<float>(d);
 }
 

@@ -16,20 +16,21 @@ struct Scrollschritt {
     std::int32_t vorher;  // `ScrollX` before it
 };
 
+// In their order. None crosses the border of a column, so that the strip which comes in is a slice of one tile of
+// each row.
+using Scrollschritte = std::vector<Scrollschritt>;
+
 struct Sicht {
     float ScrollX = 0;  // the level's x at the left edge of the view; always a whole number
-    // Of the present tick, in their order. None crosses the border of a column, so that the strip which comes in is
-    // a slice of one tile of each row.
-    std::vector<Scrollschritt> Schritte;
 
     // Moves by `d` pixels, to the right if positive; stops at 0 on the left and before the level's last column on
-    // the right.
-    void Scroll(std::int32_t d);
+    // the right. The steps are added to `schritte`.
+    void Scroll(std::int32_t d, Scrollschritte& schritte);
 
 private:
-    void links(std::int32_t a);
-    void rechts(std::int32_t d);
-    void schritt(std::int32_t d);
+    void links(std::int32_t a, Scrollschritte& schritte);
+    void rechts(std::int32_t d, Scrollschritte& schritte);
+    void schritt(std::int32_t d, Scrollschritte& schritte);
 };
 
 }  // namespace zentrox

@@ -44,7 +44,6 @@ Partikel* Funken::nimm() {
     max_ = std::max(max_, frei_);
     Partikel& p = (*this)[frei_++];
     p.Aktiv = true;
-    p.Untergrund = -1;
     return &p;
 }
 

@@ -1,5 +1,5 @@
-// The sparks of Jump and Bruhks: a fixed pool of single pixels that fly straight, live for a few ticks and die.
-// Nothing here draws, so that the games can be played without a surface.
+// The sparks of Jump and Bruhks: a fixed pool of single pixels that fly straight, live for a few ticks and die. A
+// plain value that nobody sees; `Funkenbild` shows it.
 #pragma once
 
 #include <array>
@@ -15,7 +15,6 @@ struct Partikel {
     float Y = 0;
     float VX = 0;  // pixels a tick
     float VY = 0;
-    std::int32_t Untergrund = -1;  // colour of the pixel that it covers, -1 when there is none to give back
     std::int32_t Farbe = 0;
     std::int16_t Leben = 0;  // ticks left
     bool Aktiv = false;

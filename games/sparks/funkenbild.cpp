@@ -2,22 +2,20 @@
 
 namespace zentrox {
 
-void FunkenWeg(Surface& feld, const Funken& funken) {
-    for (int i = funken.PartikelMax(); i >= 0; --i) {
+void Funkenbild::Zeichnen(const Funken& funken) {
+    for (int i = 0; i <= funken.PartikelMax(); ++i) {
         const Partikel& p = funken[i];
-        if (p.Aktiv && p.Untergrund != -1 && funken.AufFeld(p))
-            feld.setPixel(funken.Pixel(p), Colour(static_cast<std::uint32_t>(p.Untergrund)));
+        if (!p.Aktiv || !funken.AufFeld(p)) continue;
+        const Point ort = funken.Pixel(p);
+        Untergrund.push_back({ort, Colour(static_cast<std::uint32_t>(Feld.pixel(ort)))});
+        Feld.setPixel(ort, Colour(static_cast<std::uint32_t>(p.Farbe)));
     }
 }
 
-void FunkenHin(Surface& feld, Funken& funken) {
-    for (int i = 0; i <= funken.PartikelMax(); ++i) {
-        Partikel& p = funken[i];
-        if (!p.Aktiv || !funken.AufFeld(p)) continue;
-        const Point pixel = funken.Pixel(p);
-        p.Untergrund = feld.pixel(pixel);
-        feld.setPixel(pixel, Colour(static_cast<std::uint32_t>(p.Farbe)));
-    }
+void Funkenbild::Entfernen() {
+    for (auto punkt = Untergrund.rbegin(); punkt != Untergrund.rend(); ++punkt)
+        Feld.setPixel(punkt->ort, punkt->farbe);
+    Untergrund.clear();
 }
 
 }  // namespace zentrox

@@ -27,7 +27,7 @@ protected:
     }
     void clickAndTick(float x, float y, std::int16_t button = linkeTaste) {
         game.Klick(button, x, y);
-        game.JagdTick();
+        game.Tick(chance);
     }
 };
 
@@ -47,7 +47,7 @@ TEST_F(Hunt, PlacesAreDrawnInTheirOrder) {
 TEST_F(Hunt, JourneysEndExactlyAtTheirGoalAndBeginSoftly) {
     for (int i = 0; i < 500; ++i) {
         const auto before = game.Kreaturen;
-        game.JagdTick();
+        game.Tick(chance);
         for (std::size_t k = 0; k < before.size(); ++k) {
             const Kreatur& now = game.Kreaturen[k];
             EXPECT_TRUE(before[k].RestX != 1 || now.PosX == before[k].ZielX);
@@ -61,7 +61,7 @@ TEST_F(Hunt, JourneysEndExactlyAtTheirGoalAndBeginSoftly) {
 }
 
 TEST_F(Hunt, AClickHitsOneCreatureStrictlyInsideIt) {
-    game.JagdTick();
+    game.Tick(chance);
     clear();
     creature(3).PosX = creature(7).PosX = 100;
     creature(3).PosY = creature(7).PosY = 100;
@@ -87,14 +87,14 @@ TEST_F(Hunt, OtherButtonsMissesAndTheFirstTickAreForgotten) {
     clickAndTick(creature(0).PosX + 30, creature(0).PosY + 20);
     EXPECT_EQ(game.Uebrig, 21);
     EXPECT_EQ(game.Funken.PartikelMax(), 9) << "ten sparks all the same";
-    for (int i = 0; i < 12; ++i) game.JagdTick();
+    for (int i = 0; i < 12; ++i) game.Tick(chance);
     ASSERT_EQ(game.Funken.PartikelMax(), -1);
 
     const auto unheard = [&](const std::function<void()>& click) {
         clear();
         creature(5).PosX = creature(5).PosY = 200;
         click();
-        game.JagdTick();
+        game.Tick(chance);
         EXPECT_EQ(game.Uebrig, 21);
         EXPECT_EQ(game.Funken.PartikelMax(), -1);
         EXPECT_EQ(game.KlickTaste, 0);
@@ -119,7 +119,7 @@ TEST_F(Hunt, ManyHuntsFilledWithSparksStaySound) {
             else if (dice.below(3) == 0)
                 hunt.Klick(linkeTaste, static_cast<float>(dice.below(700) - 20),
                            static_cast<float>(dice.below(480)));
-            hunt.JagdTick();
+            hunt.Tick(dice);
         }
         int alive = 0;
         for (const Kreatur& k : hunt.Kreaturen) alive += k.Lebt ? 1 : 0;
@@ -131,35 +131,33 @@ TEST_F(Hunt, TheCelebrationTakesNoClickInItsFirstTwoSeconds) {
     game.SiegBeginn({270, 210});
     int ticks = 0;
     for (; game.Ende == 0 && ticks < 200; ++ticks) {
-        game.SiegTickText();
         game.Klick(2, 5, 5);
-        game.SiegTickFunken();
+        game.Tick(chance);
     }
     EXPECT_GE(ticks, 100);
     EXPECT_LE(ticks, 101);
     // The text's path: the newest place is the last one, each the one before in the next tick.
     const Point newest = game.Textspur.back();
-    game.SiegTickText();
+    game.Tick(chance);
     EXPECT_EQ(game.Textspur[TextspurLänge - 2], newest);
 }
 
 TEST_F(Hunt, CreaturesAndSparksLeaveNoTraceOnTheSurface) {
     test::FakeFonts fonts;
     Surface surface(fonts, field);
-    surface.setPicture(BruhksHintergrund());
+    Bruhksbild view(surface);
     const Bitmap clean = surface.image();
     EXPECT_NE(clean.pixel({320, 220}), 0);
     EXPECT_EQ(clean.pixel({642, 220}), 0) << "the ground ends before the surface does";
-    Bruhksbild view(surface);
     EXPECT_EQ(view.Frame(), frame);
-    EXPECT_EQ(BruhkBild(0).pixel({0, 0}), 0);
-    EXPECT_EQ(BruhkBild(1).pixel({63, 47}), 0);
+    EXPECT_EQ(unpacked(BruhkOben).pixel({0, 0}), 0);
+    EXPECT_EQ(unpacked(BruhkUnten).pixel({63, 47}), 0);
     for (int i = 0; i < 300; ++i) {
         view.Entfernen(game);
         ASSERT_TRUE(surface.image() == clean) << i;
         if (i % 7 == 0)
             game.Klick(linkeTaste, static_cast<float>(chance.below(645)), static_cast<float>(chance.below(445)));
-        game.JagdTick();
+        game.Tick(chance);
         view.Zeichnen(game);
     }
     EXPECT_LT(game.Uebrig, 21);

@@ -32,7 +32,7 @@ forbid menu 'games|main|tools/'
 forbid games 'room/|saves|menu|main|tools/'
 for game in games/*/; do
     game=$(basename "$game")
-    others=$(basename -a games/*/ | grep -vxE "$game|sparks" | paste -sd"|")
+    others=$(basename -a games/*/ | grep -vxE "$game|base|sparks" | paste -sd"|")
     [ -z "$others" ] || forbid "games/$game" "games/($others)"
 done
 hits=$(grep -rlE '#include <(SDL|fluidsynth|fontconfig|mpg123|zip|lib(av|sw))' --include='*.h' --include='*.cpp' . |

@@ -17,8 +17,8 @@ namespace zentrox::test {
 // The keys held during one tick.
 using Keys = std::vector<int>;
 
-inline Jumpspiel::Tasten pressed(const Keys& keys) {
-    Jumpspiel::Tasten bytes{};
+inline Tasten pressed(const Keys& keys) {
+    Tasten bytes{};
     for (const int code : keys) bytes[static_cast<std::size_t>(code)] = 128;
     return bytes;
 }
@@ -28,14 +28,14 @@ public:
     // The keys of each tick from the start to the goal; empty if none were found. The most promising game is always
     // played on first: the one that has come farthest in the least time.
     std::vector<Keys> plan() {
-        add(-1, {}, std::make_shared<Jumpspiel>(chance_));
+        add(-1, {}, std::make_shared<Jumpspiel>());
         while (!open_.empty()) {
             const Open best = open_.top();
             open_.pop();
             for (const Keys& keys : {Keys{key::right}, Keys{key::right, key::space}, Keys{key::space}, Keys{},
                                      Keys{key::left, key::space}, Keys{key::left}}) {
                 auto game = std::make_shared<Jumpspiel>(*best.game);
-                for (int i = 0; i < stretch && game->TotZaehler == 0; ++i) game->Tick(pressed(keys));
+                for (int i = 0; i < stretch && game->TotZaehler == 0; ++i) game->Tick(pressed(keys), chance_);
                 if (game->TotZaehler > 0 || !isNew(*game, best.node)) continue;
                 add(best.node, keys, game);
                 if (game->SiegZaehler > 0) return path();

@@ -83,14 +83,14 @@ protected:
     test::FakeFonts fonts;
     Files files{directory.path()};
     Surface field{fonts, Jumpfeld};
-    Jumpbild view{field};
     Random chance{4};
-    Jumpspiel game{chance};
+    Jumpspiel game;
+    Jumpbild view{field, atlas()};
 
-    void SetUp() override {
+    void SetUp() override { view.Hintergrundaufbau(game); }
+    Bitmap atlas() const {
         test::writeJumpPictures(directory);
-        view.Grafikladen(files, files.programDirectory() + "games\\");
-        view.Hintergrundaufbau(game);
+        return Grafikladen(files, files.programDirectory() + "games\\");
     }
 
     // Mask and sprite of a figure, pixel by pixel.
@@ -134,9 +134,9 @@ TEST_F(JumpBild, AnyWalkOfTheViewLeavesWhatASlowDrawingLeaves) {
         // Long ways to both ends, in steps of any size up to a few pixels.
         const int way = i / 1200 % 2 == 0 ? 1 : -1;
         const int d = chance.below(5) == 0 ? chance.below(13) - 6 : way * chance.below(17);
-        game.Sicht.Schritte.clear();
-        game.Sicht.Scroll(d);
-        for (const Scrollschritt& step : game.Sicht.Schritte) view.Scrollen(game.Karte, step);
+        Scrollschritte steps;
+        game.Sicht.Scroll(d, steps);
+        for (const Scrollschritt& step : steps) view.Scrollen(game.Karte, step);
         const int moved = near(game.Sicht.ScrollX) - slow.x();
         if (moved != 0) slow.scroll(moved);
         if (i % 60 == 0) {
@@ -157,9 +157,9 @@ TEST_F(JumpBild, EachTickOfAGameLeavesTheViewCleanAndDrawsAllFigures) {
         if (i % 40 == 0) {
             ASSERT_TRUE(field.image() == slow.picture()) << "tick " << i;
         }
-        const Jumptick& tick = game.Tick(test::pressed(k));
+        const Jumptick tick = game.Tick(test::pressed(k), chance);
         view.Zeichnen(game, tick);
-        for (const Scrollschritt& step : game.Sicht.Schritte) slow.scroll(step.d);
+        for (const Scrollschritt& step : tick.Schritte) slow.scroll(step.d);
         if (tick.Zielbild) slow.tile(*tick.Zielbild, 9);
         if (i++ % 40 == 0) {
             ASSERT_TRUE(field.image() == slowFrame(slow)) << "tick " << i;
@@ -185,7 +185,6 @@ TEST_F(JumpBild, OverlappingFiguresAndEdgesLeaveNoTrace) {
         game.SpielerX = static_cast<float>(chance.below(640));
         game.SpielerY = static_cast<float>(chance.below(640) - 100);
         game.Funken.Addpartikel(chance, 40, -10, -10, 640, 440, false);
-        game.Sicht.Schritte.clear();
         view.Zeichnen(game, {});
         SlowView slow(view.Atlas(), game.Karte);
         if (i % 10 == 0) {
@@ -201,12 +200,12 @@ TEST_F(JumpBild, PicturesOfOtherSizesAreClipped) {
     test::writeNoise(directory, "j0", 100, 50, 1);
     test::writeNoise(directory, "h1", 700, 3000, 2);
     test::writeNoise(directory, "g41md", 1, 1, 3);
-    view.Grafikladen(files, files.programDirectory() + "games\\");
-    EXPECT_EQ(view.Atlas().size(), (Size{640, 2000}));
-    view.Hintergrundaufbau(game);
+    Jumpbild odd(field, Grafikladen(files, files.programDirectory() + "games\\"));
+    EXPECT_EQ(odd.Atlas().size(), (Size{640, 2000}));
+    odd.Hintergrundaufbau(game);
     for (int i = 0; i < 100; ++i) {
-        view.Entfernen(game);
-        view.Zeichnen(game, game.Tick(test::pressed({key::right})));
+        odd.Entfernen(game);
+        odd.Zeichnen(game, game.Tick(test::pressed({key::right}), chance));
     }
 }
 

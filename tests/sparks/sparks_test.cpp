@@ -140,8 +140,9 @@ TEST(Sparks, OverlappingSparksGiveBackWhatWasThereBeforeAllOfThem) {
         const Bitmap clean = surface.image();
         Random chance(9);
         Funken sparks(kind, field);
+        Funkenbild view(surface);
         for (int i = 0; i < 120; ++i) {
-            FunkenWeg(surface, sparks);
+            view.Entfernen();
             ASSERT_TRUE(surface.image() == clean) << i;
             sparks.Altern();
             if (i % 8 == 0) {
@@ -149,7 +150,7 @@ TEST(Sparks, OverlappingSparksGiveBackWhatWasThereBeforeAllOfThem) {
                 sparks.Addpartikel(chance, 80, 90, 60, 125, 95, false);
             }
             sparks.Bewegen();
-            FunkenHin(surface, sparks);
+            view.Zeichnen(sparks);
             ASSERT_TRUE(i % 8 != 0 || surface.image() != clean) << i;
         }
     }
