@@ -2,6 +2,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "platform/codec/pictures.h"
 #include "story_support.h"
 #include "tests/support/temp_directory.h"
 #include "tools/story/commands.h"
@@ -83,7 +84,8 @@ TEST(Commands, AFreshStoryIsCleanAndComesBack) {
 
 TEST(Commands, FilesAreLookedForWhereDataLies) {
     const zentrox::test::TempDirectory directory;
-    const std::string source = directory.write("demo/story/a.story", "Raum a.lsd\nBild b.jpg").string();
+    const std::string source =
+        directory.write("demo/story/a.story", "Raum Start.lsd\nBild b.png\nRaum Laden.lsd").string();
     const Result alone = call({"check", source});
     EXPECT_EQ(alone.status, clean) << alone.out;
     EXPECT_NE(alone.err.find("--data"), std::string::npos);
@@ -92,7 +94,10 @@ TEST(Commands, FilesAreLookedForWhereDataLies) {
     EXPECT_EQ(call({"check", source}).status, clean);
     fs::create_directory(directory.path() / "demo/sounds");
     EXPECT_NE(call({"check", source}).out.find("[bild-fehlt]"), std::string::npos);
-    directory.write("data/graphics/b.jpg", "");
+    directory.write("data/graphics/b.png", "");
+    savePng(Bitmap({64, 48}, white), (directory.path() / "data/graphics/b.png").string());
+    for (const char* pointer : {"taste1.ico", "taste2.ico", "ge2.ico", "werfen.ico"})
+        directory.write(std::string("data/cursors/") + pointer, "");
     const Result elsewhere = call({"check", source, "--data", (directory.path() / "data").string()});
     EXPECT_EQ(elsewhere.out + elsewhere.err, "");
 }

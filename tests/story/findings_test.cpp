@@ -16,7 +16,7 @@ using Expected = std::vector<std::string>;
 Findings checked(const Story& story, Findings findings, const DataFiles* data = nullptr,
                  const Story* rest = nullptr) {
     zentrox::test::FakeFonts fonts;
-    check(story, {rest, data, &fonts, true}, findings);
+    check(story, {rest, data, &fonts}, findings);
     findings.settle(story);
     return findings;
 }
@@ -312,6 +312,65 @@ TEST(FindingsOf, FilesAreSoughtAsTheGameDoes) {
               (Expected{"2:6 bild-fehlt", "4:8 zeiger-fehlt", "6:5 ton-fehlt", "7:7 musik-fehlt", "8:6 film-fehlt",
                         "9:16 gegenstand-fehlt", "10:16 bild-fehlt", "11:15 zeiger-fehlt", "12:10 bild-fehlt",
                         "13:13 raum-fehlt", "14:12 gegenstand-fehlt"}));
+}
+
+// What the game opens by itself, and what of it can't be used.
+TEST(FindingsOf, TheGameAroundTheScripts) {
+    const zentrox::test::TempDirectory directory;
+    for (const char* name : {"graphics/leer.jpg", "cursors/taste1.ico", "cursors/taste2.ico", "cursors/ge2.ico",
+                             "cursors/werfen.ico", "sounds/stumm.mp3", "rooms/Alt.lsd", "games/HDW.txt"})
+        directory.write(name, name[0] == 'g' || name[0] == 's' ? "" : "x");
+    const DataFiles data(directory.path());
+    const auto found = [&](const std::string& source) {
+        zentrox::test::FakeFonts fonts;
+        MemoryFiles files;
+        Findings findings;
+        const Story story = parseSource(source, "a.story", files, findings);
+        Surroundings around{nullptr, &data, &fonts};
+        around.wholeGame = around.fromSources = true;
+        check(story, around, findings);
+        findings.settle(story);
+        Expected lines;
+        for (const Finding& f : findings.all()) lines.push_back(std::to_string(f.place.line) + " " + f.code);
+        return lines;
+    };
+    const std::string whole =
+        "Raum Start.lsd\nStart\nRaumwechsel b.lsd\nRaum Laden.lsd\nRaum alt.lsd\n"
+        "Start\nRaumwechsel Laden.lsd\n";
+    EXPECT_EQ(found("Raum a.lsd\nRaum alt.lsd"), (Expected{"1 start-fehlt"}));
+    EXPECT_EQ(found("Raum Start.lsd\nRaum alt.lsd\nStart\nRaumwechsel alt.lsd\n"),
+              (Expected{"1 laden-fehlt", "2 raum-ohne-weg"}));
+    EXPECT_EQ(found(whole + "Raum b.lsd\nStart\nRaumwechsel alt.lsd"), Expected{});
+    // Rooms that only lead to each other, and a room that nothing has made since.
+    EXPECT_EQ(found("Raum Start.lsd\nRaum Laden.lsd\nRaum b.lsd\nStart\nRaumwechsel c.lsd\nRaum c.lsd\n"
+                    "Start\nRaumwechsel b.lsd"),
+              (Expected{"1 raum-ohne-quelle", "3 raum-ohne-weg", "6 raum-ohne-weg"}));
+    EXPECT_EQ(found(whole + "Raum b.lsd\nObjekt x\nLinks\nTon a.wav\nObjekt y\nStart\nRaumwechsel alt.lsd"),
+              (Expected{"9 flaeche-leer", "11 ton-fehlt"}));
+    EXPECT_EQ(
+        found(whole + "Raum b.lsd\nBild leer.jpg\nStart\nTon stumm.wav\nSpiel HDW A\nWennMerker A\n"
+                      "EndeWenn\nSpiel PI A\nSystem Abspann\nRaumwechsel alt.lsd"),
+        (Expected{"9 datei-kaputt", "11 datei-kaputt", "15 spiel-datei", "16 abspann-bild", "16 abspann-bild"}));
+}
+
+TEST(FindingsOf, TicksInTheWaitsOfWhoArmsThem) {
+    const std::string room = "Raum a.lsd\nStart\n";
+    expectAll({{room + "CountDownSetzen 5\nText a", {"4:1 countdown-wartet", "4:6 argument"}},
+               {room + "CountDownSetzen 5\nText \"a\"\nText \"b\"", {"4:1 countdown-wartet"}},
+               {room + "CountDownSetzen 0\nText \"a\"\nCountDownSetzen 5\nTon a.wav", {}},
+               {room + "System Sve", {"3:8 system-wort"}},
+               {room + "System Ende", {}}},
+              false);
+}
+
+TEST(FindingsOf, ObjectsThatNoClickReaches) {
+    const std::string under = "Raum a.lsd\nObjekt x\nRechteck 100 100 200 200\nObjekt y\n";
+    expectAll({{under + "Rechteck 110 110 200 200", {"4:8 verdeckt"}},
+               {under + "Rechteck 110 110 210 210", {}},
+               {under + "Rechteck 210 110 110 210", {"5:10 ecken"}},
+               {under + "Zeiger a.ico", {}},
+               {"Raum \"tief\\a.lsd\"", {"1:1 raum-verzeichnis"}}},
+              false);
 }
 
 TEST(FindingsOf, CompiledData) {

@@ -19,6 +19,8 @@ void check(const Story& story, const Surroundings& around, Findings& findings) {
         checkTexts(view, around.fonts, findings);
     }
     if (around.data) checkFiles(story, around, findings);
+    if (around.data && around.wholeGame) checkMedia(story, *around.data, findings);
+    checkRooms(story, around, wholeStory, findings);
     checkItems(story, around.rest, findings);
     if (!wholeStory) return;
     checkFlags(story, around.rest, findings);

@@ -17,7 +17,11 @@ struct Surroundings {
     const Story* rest = nullptr;  // the parts of the story that are known but not checked
     const DataFiles* data = nullptr;
     Fonts* fonts = nullptr;
-    bool wholeStory = true;  // false if there are parts that are not known; what could not be compiled is one
+    // True looks at the game as well: the rooms and files that it opens by itself, ways to each room, and whether
+    // the files that are there can be used.
+    bool wholeGame = false;
+    bool fromSources = false;  // and not from compiled data
+    bool wholeStory = true;    // false if there are parts that are not known; what could not be compiled is one
 };
 
 // All checks.
@@ -39,6 +43,10 @@ void checkRun(const ScriptView& view, Findings& findings);
 void checkTexts(const ScriptView& view, Fonts* fonts, Findings& findings);
 // Files that are named and not there.
 void checkFiles(const Story& story, const Surroundings& around, Findings& findings);
+// Files that are there and can't be used, or not well.
+void checkMedia(const Story& story, const DataFiles& data, Findings& findings);
+// The rooms that the game opens by itself, ways to each room, objects that no click reaches.
+void checkRooms(const Story& story, const Surroundings& around, bool wholeStory, Findings& findings);
 // Flags, items that are tested for, and the number of items.
 void checkFlags(const Story& story, const Story* rest, Findings& findings);
 void checkDropped(const Story& story, const Story* rest, Findings& findings);

@@ -119,7 +119,16 @@ private:
 
     void systemWord(std::size_t i, const Opcode& row) {
         if (resemblesSystemWord(argument(i)))
-            wrong(i, row, shown(argument(i)) + ", und das schließt das Spiel: Groß und klein zählen");
+            return wrong(i, row, shown(argument(i)) + ", und das schließt das Spiel: Groß und klein zählen");
+        if (istSystemwort(argument(i))) return;
+        const std::string hint =
+            perhaps(argument(i), std::vector<Text>(systemwort::alle.begin(), systemwort::alle.end()));
+        if (!hint.empty())
+            findings_.warning(view_.places.argument(i), "system-wort",
+                              "\"System " + toUtf8(argument(i)) +
+                                  "\" schließt das Spiel, wie jedes Wort außer "
+                                  "Open, Save und Abspann" +
+                                  hint);
     }
 
     void rectangle(std::size_t i, const Opcode& row) {

@@ -3,7 +3,9 @@
 #include <array>
 #include <set>
 
+#include "engine/language/games.h"
 #include "engine/language/opcodes.h"
+#include "engine/language/words.h"
 #include "engine/state/felder.h"
 #include "tools/story/blocks.h"
 #include "tools/story/check.h"
@@ -32,6 +34,17 @@ const FileKind& kindOf(Ordner directory) {
                          [&](const FileKind& kind) { return kind.directory == directory; });
 }
 
+constexpr std::array<TextView, 4> fixedPointers{"taste1.ico", "taste2.ico", "ge2.ico", "werfen.ico"};
+constexpr std::array<TextView, 10> creditsPictures{"Titel.jpg", "2.jpg",  "k1.jpg", "k2.jpg", "k3.jpg",
+                                                   "k4.jpg",    "k5.jpg", "k6.jpg", "k7.jpg", "Begeisterung.jpg"};
+constexpr TextView creditsSong = "GMNUTRAC.MID";
+
+bool isRoom(TextView file) {
+    constexpr TextView extension = ".lsd";
+    return file.size() > extension.size() &&
+           equalIgnoringCase(file.substr(file.size() - extension.size()), extension);
+}
+
 constexpr int mostHints = 500;  // who lacks more files than these has not misspelled them
 
 class FileChecker {
@@ -39,7 +52,8 @@ public:
     FileChecker(const Story& story, const Surroundings& around, Findings& findings)
         : story_(story),
           data_(*around.data),
-          findings_(findings) {
+          findings_(findings),
+          fromSources_(around.fromSources) {
         for (const Story* part : {&story, around.rest})
             for (std::size_t i = 0; part && i < part->rooms.size(); ++i) {
                 rooms_.insert(upper(part->rooms[i].file));
@@ -56,6 +70,22 @@ public:
         for (const Story::Item& named : story_.items) need(named.place, Ordner::items, named.picture);
         for (const ScriptView& view : scriptsOf(story_))
             for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) instruction(view, i);
+    }
+
+    // What the game itself opens in every story.
+    void always() {
+        if (story_.rooms.empty()) return;
+        const Place place = story_.rooms.front().head;
+        for (const TextView pointer : fixedPointers)
+            if (!data_.has(Ordner::cursors, pointer))
+                findings_.warning(place, "zeiger-fehlt",
+                                  "der Zeiger " + shown(pointer) +
+                                      " fehlt; ihn zeigt das Spiel in jeder Geschichte, gesucht wird in cursors");
+        for (const Text& file : data_.names(Ordner::rooms))
+            if (fromSources_ && isRoom(file) && !rooms_.contains(upper(file)))
+                findings_.warning(place, "raum-ohne-quelle",
+                                  "in rooms liegt noch " + shown(file) +
+                                      ", doch keine Quelle hat diesen Raum; gelöscht oder umbenannt?");
     }
 
 private:
@@ -77,12 +107,40 @@ private:
         if (!row) return;
         const TextView argument = argumentOf(view.script, i);
         if (row->arg == Arg::room) return needRoom(view.places.argument(i), argument);
+        if (row->arg == Arg::game) return needGame(view.places.argument(i), argument);
+        if (row->arg == Arg::word && argument == systemwort::Abspann) return needCredits(view.places.argument(i));
         if (row->datei.ordner == Ordner::keiner) return;
         const int field = row->datei.feld;
         const Text path = field == 0 ? Text(argument) : Trim(Feld(argument, ",", field));
         if (row->arg == Arg::sound && data_.hasSound(path)) return;
         const auto& places = view.places.commands[i].argument;
         need(field == 2 && places.size() > 1 ? places[1] : view.places.argument(i), row->datei.ordner, path);
+    }
+
+    void needGame(Place place, TextView argument) {
+        const SpielArt* const game = findSpiel(upper(Trim(Feld(argument, ",", 1))));
+        if (!game) return;
+        std::vector<Text> lacking;
+        for (const TextView file : game->dateien)
+            if (!data_.has(Ordner::games, file)) lacking.emplace_back(file);
+        tellLacking(place, "spiel-datei", "dem Spiel " + shown(game->titel), Ordner::games, lacking);
+    }
+
+    void needCredits(Place place) {
+        std::vector<Text> lacking;
+        for (const TextView picture : creditsPictures)
+            if (!data_.has(Ordner::graphics, picture)) lacking.emplace_back(picture);
+        tellLacking(place, "abspann-bild", "dem Abspann", Ordner::graphics, lacking);
+        if (!data_.has(Ordner::musics, creditsSong))
+            tellLacking(place, "abspann-bild", "dem Abspann", Ordner::musics, {Text(creditsSong)});
+    }
+
+    void tellLacking(Place place, const char* code, const std::string& whom, Ordner directory,
+                     const std::vector<Text>& lacking) {
+        if (lacking.empty()) return;
+        std::string message = whom + " fehlt " + shown(lacking.front());
+        if (lacking.size() > 1) message += " und " + std::to_string(lacking.size() - 1) + " weitere";
+        findings_.warning(place, code, message + "; gesucht wird in " + toUtf8(verzeichnis(directory)));
     }
 
     void needRoom(Place place, TextView path) {
@@ -96,6 +154,7 @@ private:
     const DataFiles& data_;
     Findings& findings_;
     std::set<Text> rooms_;  // in upper case
+    const bool fromSources_;
     std::vector<Text> roomNames_;
     int hints_ = 0;
 };
@@ -103,7 +162,9 @@ private:
 }  // namespace
 
 void checkFiles(const Story& story, const Surroundings& around, Findings& findings) {
-    FileChecker(story, around, findings).all();
+    FileChecker checker(story, around, findings);
+    checker.all();
+    if (around.wholeGame) checker.always();
 }
 
 }  // namespace zentrox::story

@@ -126,6 +126,19 @@ void checkSaves(const ScriptView& view, CountDown before, Findings& findings) {
     }
 }
 
+// A script stops the count-down while it runs; one that arms it itself is ticked in its own waits.
+void checkTicks(const ScriptView& view, const Flow& flow, Findings& findings) {
+    const CountDownRun run = followCountDown(view.script, flow);
+    for (std::size_t i = 0; i < view.script.Befehl.size(); ++i) {
+        const bool system = view.script.Befehl[i] == "System"_op;  // what is wrong with that is told elsewhere
+        if ((run.at[i] & on) == 0 || !waits(view.script, i) || system) continue;
+        findings.warning(view.places.commands[i].command, "countdown-wartet",
+                         "hier läuft schon der Countdown, den dieses Skript gestellt hat, und sein Skript käme "
+                         "mitten in diesem Befehl; CountDownSetzen gehört hinter alles, was wartet");
+        return;
+    }
+}
+
 }  // namespace
 
 void checkRun(const ScriptView& view, Findings& findings) {
@@ -133,6 +146,7 @@ void checkRun(const ScriptView& view, Findings& findings) {
     if (!blocks.problems.empty()) return;  // the ways through are anybody's guess
     const Flow flow = findFlow(view, blocks);
     checkReach(view, flow, findings);
+    checkTicks(view, flow, findings);
     for (const std::size_t i : busyLoops(view.script, flow))
         findings.warning(
             view.places.commands[i].command, "schleife",

@@ -96,7 +96,8 @@ int check(const Options& options, const Streams& to) {
     Findings findings;
     Checked checked;
     const DataInputs inputs = dataOf(options.words);
-    if (inputs.directories.empty() && inputs.files.empty())
+    const bool sources = inputs.directories.empty() && inputs.files.empty();
+    if (sources)
         readSources(options.words, checked, findings);
     else
         readData(inputs, checked, findings);
@@ -106,7 +107,11 @@ int check(const Options& options, const Streams& to) {
         to.err << "zentrox-story: no data lies beside " << options.words.front()
                << ", so no pictures and sounds were looked for; --data DIR tells where they are\n";
     const auto fonts = fontsIfAny();
-    check(checked.story, {&checked.rest, data.get(), fonts.get(), checked.wholeStory}, findings);
+    Surroundings around{&checked.rest, data.get(), fonts.get()};
+    around.wholeGame = inputs.files.empty();
+    around.fromSources = sources;
+    around.wholeStory = checked.wholeStory;
+    check(checked.story, around, findings);
     findings.settle(checked.story);
     to.out << (options.json ? asJson(checked.story, findings) : asLines(checked.story, findings));
     return findings.empty() ? clean : hasFindings;

@@ -38,9 +38,14 @@ const DataFiles::Listing& DataFiles::listing(Ordner directory) const {
 }
 
 bool DataFiles::hasSound(TextView path) const {
-    const TextView stem = path.substr(0, path.size() - std::min(path.size(), extensionLength));
-    return has(Ordner::sounds, path) || has(Ordner::sounds, Text(stem) + "mp3") ||
-           has(Ordner::sounds, Text(stem) + "wav");
+    return !soundFor(path).empty();
+}
+
+Text DataFiles::soundFor(TextView path) const {
+    const Text stem(path.substr(0, path.size() - std::min(path.size(), extensionLength)));
+    for (const Text& candidate : {Text(path), stem + "mp3", stem + "wav"})
+        if (has(Ordner::sounds, candidate)) return candidate;
+    return {};
 }
 
 bool DataFiles::hasRoom(TextView path) const {

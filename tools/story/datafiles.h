@@ -19,8 +19,13 @@ public:
     bool has(Ordner directory, TextView path) const;
     // A spoken line, which may be there as mp3 or wav instead.
     bool hasSound(TextView path) const;
+    // The one of these that is there, as the game looks for it; empty if none is.
+    Text soundFor(TextView path) const;
     // A room, whose directories do count.
     bool hasRoom(TextView path) const;
+    // The path of the game for a file in a data directory, and who knows where that is.
+    static Text path(Ordner directory, TextView file) { return Text(verzeichnis(directory)) + "\\" + Text(file); }
+    const Files& files() const { return files_; }
     // The files directly in a data directory, as they are spelled there.
     const std::vector<Text>& names(Ordner directory) const { return listing(directory).names; }
 

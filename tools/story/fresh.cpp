@@ -15,6 +15,12 @@ constexpr const char* sourceText = R"(// Eine Stube, eine Tür, ein Schlüssel: 
 // Übersetzen:  zentrox-story build story --into .
 // Spielen:     zentrox --dir .
 
+// Ihn öffnet das Menü mit "Altes Spiel laden"; wer keines wählt, kehrt dorthin zurück.
+Raum "Laden.lsd"
+    Start
+        System Open
+        System Ende
+
 Raum "Start.lsd"
     Bild "stube.bmp"
 
@@ -148,8 +154,8 @@ Bitmap room(bool withKey) {
 }
 
 Bitmap itemPicture() {
-    Bitmap picture({64, 64}, black);
-    drawKey(picture, {22, 32}, brass);
+    Bitmap picture({48, 48}, black);
+    drawKey(picture, {14, 24}, brass);
     return picture;
 }
 

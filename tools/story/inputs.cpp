@@ -18,7 +18,7 @@ bool isDirectory(const fs::path& path) {
 }
 
 bool isSource(const fs::path& path) {
-    return path.extension() == ".story";
+    return lower(path.extension().native()) == ".story";
 }
 
 bool isDataFile(const fs::path& path) {
@@ -29,7 +29,9 @@ bool isDataFile(const fs::path& path) {
 std::vector<fs::path> filesIn(const fs::path& directory, bool (*wanted)(const fs::path&)) {
     std::vector<fs::path> inside;
     std::error_code error;
-    for (const auto& entry : fs::directory_iterator(directory, error))
+    fs::directory_iterator entries(directory, error);
+    if (error) throw WrongCall{directory.string() + " can't be read: " + error.message()};
+    for (const auto& entry : entries)
         if (wanted(entry.path()) && entry.is_regular_file(error)) inside.push_back(entry.path());
     std::sort(inside.begin(), inside.end());
     return inside;

@@ -48,7 +48,14 @@ void takeRectangle(const Statement& s, Maske& mask, Findings& findings) {
     const auto points = corners(s, findings);
     if (!points) return;
     if (points->size() != 2) return wrongCount(s, "zwei Ecken, X1 Y1 X2 Y2", points->size(), findings);
-    needsCells(s, addRectangle(mask, (*points)[0], (*points)[1]), findings);
+    const Corner& a = (*points)[0];
+    const Corner& b = (*points)[1];
+    if (a.x > b.x || a.y > b.y)
+        findings.warning(
+            s[1].place, "ecken",
+            "die erste Ecke eines Rechtecks ist die linke obere, die zweite die rechte untere; so wie es "
+            "hier steht, werden sie vertauscht");
+    needsCells(s, addRectangle(mask, a, b), findings);
 }
 
 void takePolygon(const Statement& s, Maske& mask, Findings& findings) {
