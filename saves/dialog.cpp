@@ -10,20 +10,26 @@ namespace zentrox {
 
 namespace {
 
-constexpr TextView Endung = ".xtc";
 constexpr TextView Verboten = "*?/\\|<>";
 constexpr Size Fläche{396, 269};  // pixels
 
 bool istSpielstand(TextView name) {
-    return name.size() >= Endung.size() && equalIgnoringCase(name.substr(name.size() - Endung.size()), Endung);
+    return name.size() >= Spielstandendung.size() &&
+           equalIgnoringCase(name.substr(name.size() - Spielstandendung.size()), Spielstandendung);
 }
 
 // A name that a file can have.
 Text zulässig(Text name) {
     std::replace_if(
         name.begin(), name.end(), [](char c) { return Verboten.find(c) != TextView::npos; }, '_');
-    if (!istSpielstand(name)) name += Endung;
+    if (!istSpielstand(name)) name += Spielstandendung;
     return name;
+}
+
+// Whether the field can show a name as it is and OK hands out the same: others are not offered, as another file
+// would be read or written in their place.
+bool wählbar(const Text& name) {
+    return istSpielstand(name) && zulässig(name) == name && std::all_of(name.begin(), name.end(), isPrintable);
 }
 
 Text titel(const Zustand& z) {
@@ -45,7 +51,7 @@ Dialog::Dialog(Platform& platform, Zustand& zustand)
       OKButton(&root(), {224, 240, 81, 25}, "OK"),
       CancelButton(&root(), {312, 240, 81, 25}, "Abbrechen") {
     std::vector<Text> namen = platform.files.list(Speicherverzeichnis(platform.files));
-    std::erase_if(namen, [](const Text& name) { return !istSpielstand(name); });
+    std::erase_if(namen, [](const Text& name) { return !wählbar(name); });
     File1.setItems(std::move(namen));
     File1.onSelect = [this] { File1_Click(); };
     File1.onDoubleClick = [this] { OKButton_Click(); };

@@ -10,6 +10,8 @@
 
 namespace zentrox {
 
+constexpr TextView Spielstandendung = ".xtc";
+
 // The directory of the saved games, with a backslash at its end.
 Text Speicherverzeichnis(const Files& files);
 

@@ -59,6 +59,16 @@ bool lesen(const Files& files, const Text& pfad, Zustand& z) {
     }
 }
 
+// A game saved where the data lay elsewhere names its items by paths of there. What this data has by the same name
+// is the same item, and only so commands find it.
+void heimbringen(const Files& files, Zustand& z) {
+    for (std::int32_t i = 0; i <= z.InventarLetzter; ++i) {
+        Text& pfad = z.Inventar[static_cast<std::size_t>(i)];
+        const Text hier = z.PfadItems + Dateiname(pfad);
+        if (!equalIgnoringCase(pfad, hier) && files.exists(hier)) pfad = hier;
+    }
+}
+
 }  // namespace
 
 void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum) {
@@ -78,8 +88,11 @@ void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum) {
 
 bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum) {
     raum.CountDownAn(false);
+    const Text vorher = z.LetzterSpielstand;
     const Text pfad = fragen(platform, z, "Spiel laden");
     if (pfad.empty() || !platform.files.exists(pfad)) {
+        // An empty field has named nothing that could be offered again.
+        if (equalIgnoringCase(z.LetzterSpielstand, Spielstandendung)) z.LetzterSpielstand = vorher;
         raum.CountDownAn(true);
         return false;
     }
@@ -88,6 +101,7 @@ bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum) {
         melden(platform, "Daten nicht geladen!", MessageBox::Icon::information);
         return false;
     }
+    heimbringen(platform.files, z);
     z.Übergabe = Text();
     z.GezogenerGegenstand = -1;
     raum.CountDownAn(true);

@@ -54,6 +54,39 @@ TEST(Dialog, IsPlayedByMouse) {
     EXPECT_EQ(play.z.LetzterSpielstand, "Anna.XTC");
 }
 
+TEST(Dialog, TakesTheChosenGameOnAClickBelowTheList) {
+    constexpr Point below{50, 150};
+    DialogPlay play;
+    play.backend.click(below);
+    play.backend.then([&] { EXPECT_EQ(play.control<Field>().text(), "") << "none is chosen yet"; });
+    play.backend.click({50, 5});
+    play.backend.key(key::tab);
+    play.backend.type("x");
+    play.backend.click(below);
+    play.backend.then([&] { EXPECT_EQ(play.control<Field>().text(), "Anna.XTC"); });
+    play.backend.doubleClick(below);
+    EXPECT_EQ(play.show(), play.dir() + "Anna.XTC");
+
+    play.backend.doubleClick(below);
+    play.backend.then([&] { EXPECT_TRUE(play.window().isOpen()) << "a new window has none chosen"; });
+    play.backend.key(key::escape);
+    EXPECT_EQ(play.show(), "");
+}
+
+TEST(Dialog, OffersOnlyNamesThatItCanHandOut) {
+    DialogPlay play;
+    for (const char* name :
+         {"a|b.xtc", "eins*.xtc", "wo?.xtc", "<>.xtc", "zwei\nZeilen.xtc", "tab\t.xtc", "привет.xtc",
+          "u\u0308ber.xtc", "latin\xFC.xtc", "back\\slash.xtc", "größe \"1\": neu.xtc"})
+        play.directory.write(std::string("saves/") + name, "");
+    play.backend.then([&] {
+        EXPECT_EQ(play.control<List>().items(),
+                  (std::vector<Text>{"Anna.XTC", "berta.xtc", Text("größe \"1\": neu.xtc"_t), "zoo.xtc"}));
+    });
+    play.backend.key(key::escape);
+    play.show();
+}
+
 TEST(Dialog, IsPlayedByKeys) {
     DialogPlay play;
     play.answer("Held");

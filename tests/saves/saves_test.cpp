@@ -77,6 +77,24 @@ TEST(SpielLaden, EntersTheSavedRoom) {
     EXPECT_TRUE(play.backend.boxes.empty());
 }
 
+TEST(SpielLaden, BringsItemsToTheDirectoryOfThisData) {
+    SavesPlay play;
+    play.z.PfadItems = play.platform.files.programDirectory() + "items\\";
+    play.directory.write("items/seil.bmp", "");
+    play.directory.write("items/Brief.bmp", "");
+    const Text anders = upper(play.z.PfadItems) + "BRIEF.BMP";
+    Zustand saved;
+    playOn(saved);
+    saved.Inventar[2] = anders;
+    saved.InventarLetzter = 2;
+    play.directory.write("saves/alt.xtc", savedPart(saved));
+    play.answer("alt");
+    EXPECT_TRUE(SpielLaden(play.platform, play.z, play.room));
+    EXPECT_EQ(play.z.Inventar[0], play.z.PfadItems + "seil.bmp");
+    EXPECT_EQ(play.z.Inventar[1], saved.Inventar[1]) << "this data has no such item";
+    EXPECT_EQ(play.z.Inventar[2], anders) << "a path that is found as it stands stays";
+}
+
 TEST(SpielLaden, CancelledOrNotFoundLetsTheCountDownRunOn) {
     SavesPlay play;
     play.room.countDown = 700;
@@ -88,6 +106,23 @@ TEST(SpielLaden, CancelledOrNotFoundLetsTheCountDownRunOn) {
               (std::vector<Text>{"CountDown off", "CountDown on", "CountDown off", "CountDown on"}));
     EXPECT_EQ(play.room.countDown, 700);
     EXPECT_TRUE(play.backend.boxes.empty());
+}
+
+TEST(SpielLaden, AnEmptyFieldIsNoNameToBeOfferedAgain) {
+    SavesPlay play;
+    for (const Text before : {"", "berta.xtc"}) {
+        play.z.LetzterSpielstand = before;
+        play.backend.key(key::del);  // what stands there is selected
+        play.backend.key(key::enter);
+        EXPECT_FALSE(SpielLaden(play.platform, play.z, play.room));
+        EXPECT_EQ(play.z.LetzterSpielstand, before);
+    }
+    Zustand saved;
+    playOn(saved);
+    play.directory.write("saves/.xtc", savedPart(saved));
+    play.z.LetzterSpielstand = "";
+    play.backend.key(key::enter);
+    EXPECT_TRUE(SpielLaden(play.platform, play.z, play.room)) << "a game of that name is loaded";
 }
 
 TEST(SpielLaden, AnUnusableFileIsABoxAndLeavesTheCountDownOff) {

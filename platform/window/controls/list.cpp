@@ -72,7 +72,7 @@ void List::pointerDown(const PointerEvent& event) {
     const Point at{static_cast<int>(event.x), static_cast<int>(event.y)};
     if (bar_.needed() && bar_.area().contains(at)) return bar_.press(at);
     choosing_ = true;
-    const auto item = itemAt(at);
+    const auto item = itemAt(at) ? itemAt(at) : selected_;
     doubled_ = event.clicks == 2 && item && item == selected_;
     if (item) choose(*item);
 }

@@ -12,8 +12,10 @@ class List : public Control {
 public:
     List(Control* parent, const Rect& area);
 
-    std::function<void()> onSelect;       // a person has clicked an item, or moved to it by a key
-    std::function<void()> onDoubleClick;  // on an item, which is the chosen one
+    // A person has clicked an item, which is now the chosen one, or moved to it by a key, or has clicked below the
+    // items while one is chosen.
+    std::function<void()> onSelect;
+    std::function<void()> onDoubleClick;  // the same place twice
 
     // In the order in which they stand here; none is chosen.
     void setItems(std::vector<Text> items);
