@@ -18,8 +18,7 @@ int play(const Options& options) {
     const auto fonts = makeFonts();
     const auto sound = desktopSound(options.directory);
     Platform platform(desktop, *fonts, *sound, options.directory);
-    platform.roots = options.roots;
-    for (const auto& root : searchRoots(options.directory)) platform.roots.push_back(root);
+    platform.roots = rootsToSearch(options, searchRoots(options.directory));
     const auto zustand = std::make_unique<Zustand>();
     return Spielen(platform, *zustand, fromUtf8(options.commandLine));
 }

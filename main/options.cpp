@@ -37,7 +37,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         ->take_last()
         ->check(there);
     app.add_option("--root", roots,
-                   "A directory to take for the CD, before those that are mounted; may be repeated")
+                   "A directory to take for the CD, in place of one that is mounted; may be repeated")
         ->type_name("DIR")
         ->expected(1)
         ->allow_extra_args(false)
@@ -56,6 +56,11 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     Options options{whole(directory), {}, joined(room)};
     for (const std::string& root : roots) options.roots.push_back(whole(root));
     return {options, 0};
+}
+
+std::vector<fs::path> rootsToSearch(const Options& options, std::vector<fs::path> mounted) {
+    mounted.insert(mounted.end(), options.roots.begin(), options.roots.end());
+    return mounted;
 }
 
 std::vector<std::string> restartCommand(const fs::path& program, const Options& options) {

@@ -22,6 +22,10 @@ struct Call {
 };
 Call readOptions(int count, const char* const* words, const std::filesystem::path& programDirectory);
 
+// The roots to look for the CD in, of which the last marked one counts: what is named wins over what is mounted.
+std::vector<std::filesystem::path> rootsToSearch(const Options& options,
+                                                 std::vector<std::filesystem::path> mounted);
+
 // Starts the game anew in its menu: the same directories, no room.
 std::vector<std::string> restartCommand(const std::filesystem::path& program, const Options& options);
 

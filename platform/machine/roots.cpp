@@ -1,9 +1,11 @@
 #include "platform/machine/roots.h"
 
 #include <sys/stat.h>
+#include <sys/vfs.h>
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -16,6 +18,7 @@ namespace {
 
 constexpr std::array<std::string_view, 3> mediaPlaces{"/media", "/run/media", "/mnt"};
 constexpr std::array<std::string_view, 2> discSystems{"iso9660", "udf"};
+constexpr std::array<std::uint64_t, 2> discMagics{0x9660, 0x15013346};  // the same two, as the kernel numbers them
 
 // The top directory of the file system that a directory lies in.
 fs::path rootOf(const fs::path& directory) {
@@ -72,6 +75,13 @@ std::vector<fs::path> searchRoots(const fs::path& programDirectory, const fs::pa
             roots.emplace_back(point);
     }
     return roots;
+}
+
+bool isDisc(const fs::path& directory) {
+    struct statfs system {};
+    if (statfs(directory.c_str(), &system) != 0) return false;
+    return std::find(discMagics.begin(), discMagics.end(), static_cast<std::uint64_t>(system.f_type)) !=
+           discMagics.end();
 }
 
 }  // namespace zentrox

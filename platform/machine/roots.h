@@ -11,4 +11,7 @@ namespace zentrox {
 std::vector<std::filesystem::path> searchRoots(const std::filesystem::path& programDirectory,
                                                const std::filesystem::path& mountTable = "/proc/self/mounts");
 
+// True for a directory on an optical disc, or on the image of one.
+bool isDisc(const std::filesystem::path& directory);
+
 }  // namespace zentrox

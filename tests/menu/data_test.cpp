@@ -50,6 +50,15 @@ TEST(DataSearch, TheLastMarkedRootCounts) {
     EXPECT_EQ(disk.z.PfadSounds, disk.at("zwei\\Spiel\\sounds\\"));
 }
 
+TEST(DataSearch, AGameUnpackedIntoARootIsNoCd) {
+    Disk disk;
+    disk.directory.write("stick/zentrox", "the program");
+    disk.directory.write("stick/rooms/Start.lsd", "");
+    EXPECT_EQ(disk.search({"stick"}), "");
+    disk.directory.write("stick/Zentrox", "the mark beside it");
+    EXPECT_EQ(disk.search({"stick"}), disk.at("stick\\"));
+}
+
 TEST(DataSearch, WithoutACdThePathsAreRelative) {
     Disk disk;
     std::filesystem::remove_all(disk.directory.path() / "programm");

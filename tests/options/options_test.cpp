@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "menu/datensuche.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox::test {
@@ -40,6 +41,15 @@ TEST_F(TheCall, NamesRootsInTheirOrderAndTheRoomBehindThem) {
     ASSERT_TRUE(options);
     EXPECT_THAT(options->roots, ElementsAre(directory / "zweite cd", directory / "cd"));
     EXPECT_EQ(options->commandLine, "Keller.lsd");
+}
+
+TEST_F(TheCall, WinsWithItsRootsOverWhatIsMounted) {
+    const auto options = call({"--root", at("cd")}).options;
+    std::ofstream(directory / "cd" / "Zentrox");
+    std::ofstream(directory / "zweite cd" / "Zentrox");
+    Zustand z;
+    const auto roots = rootsToSearch(*options, {"/", directory / "zweite cd"});
+    EXPECT_EQ(DatenSuchen(Files(directory / "spiel"), roots, z), Files::gamePath(directory / "cd") + "\\");
 }
 
 TEST_F(TheCall, TakesARoomWithBlanksUnquoted) {
