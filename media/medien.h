@@ -33,7 +33,7 @@ public:
     // Stops all output, frees `Stimme` and closes the device. What is played later is silence.
     void Ende();
     // Of the last failure, see `BassFehlerText`.
-    int FehlerCode() const { return device_.errorCode(); }
+    int FehlerCode() const { return static_cast<int>(device_.error()); }
 
     // Opens the file as a stream into `Stimme`, in place of the one before, and plays it. `Stimme` is 0 if that
     // fails.

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "engine/language/directories.h"
-
 #include "platform/machine/roots.h"
 
 namespace zentrox {

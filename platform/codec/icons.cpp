@@ -7,6 +7,7 @@
 
 #include "platform/codec/decode.h"
 #include "platform/codec/pictures.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -15,7 +16,6 @@ namespace {
 constexpr std::size_t directoryHead = 6;
 constexpr std::size_t directoryEntry = 16;
 constexpr std::uint32_t bitmapHeader = 40;
-constexpr std::uint32_t longestSide = 512;
 
 constexpr std::uint32_t opaque = 0xFF000000;
 // A pixel that is to turn over what lies under it: grey is seen on dark and on light ground alike.
@@ -43,7 +43,7 @@ std::optional<Head> headOf(const FileBytes& data) {
         height = data.u32(8) / 2;  // the mask counts as well
         head.depth = static_cast<int>(data.u16(14));
     }
-    if (width == 0 || height == 0 || width > longestSide || height > longestSide) return std::nullopt;
+    if (width == 0 || height == 0 || width > limits::iconSide || height > limits::iconSide) return std::nullopt;
     head.size = {static_cast<int>(width), static_cast<int>(height)};
     return head;
 }

@@ -10,6 +10,8 @@ namespace zentrox {
 namespace {
 
 constexpr int frameBytes = 4;
+// What is written about the sound may claim any length.
+constexpr long quiet = MPG123_QUIET | MPG123_FORCE_STEREO | MPG123_SKIP_ID3V2;
 
 struct Closer {
     void operator()(mpg123_handle* decoder) const { mpg123_delete(decoder); }
@@ -23,7 +25,7 @@ Owned<mpg123_handle> openDecoder(const std::filesystem::path& file) {
     mpg123_init();
     Owned<mpg123_handle> decoder(mpg123_new(nullptr, nullptr));
     if (!decoder) return nullptr;
-    mpg123_param(decoder.get(), MPG123_ADD_FLAGS, MPG123_QUIET | MPG123_FORCE_STEREO, 0);
+    mpg123_param(decoder.get(), MPG123_ADD_FLAGS, quiet, 0);
     const long* rates = nullptr;
     std::size_t count = 0;
     mpg123_rates(&rates, &count);

@@ -5,23 +5,17 @@
 #include "platform/codec/decode.h"
 #include "platform/codec/pictures.h"
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
 namespace {
 
-// A file may claim any size in a few bytes. These bound what is believed of it: no picture of a story is larger,
-// and none of the formats packs more pixels into a byte, but for drawings made to do so.
-constexpr std::uint32_t longestSide = 16384;
-constexpr std::uint64_t mostPixels = 50'000'000;
-constexpr std::uint64_t jpegPixelsPerByte = 1000;
-constexpr std::uint64_t pngPixelsPerByte = 10'000;
-constexpr std::uint64_t packedBitmapPixelsPerByte = 1000;
-
+// A file may claim any size in a few bytes. `room` is how many pixels its bytes can hold.
 bool plausible(std::uint32_t width, std::uint32_t height, std::uint64_t room) {
-    if (width == 0 || height == 0 || width > longestSide || height > longestSide) return false;
+    if (width == 0 || height == 0 || width > limits::pictureSide || height > limits::pictureSide) return false;
     const std::uint64_t pixels = std::uint64_t{width} * height;
-    return pixels <= mostPixels && pixels <= room;
+    return pixels <= limits::picturePixels && pixels <= room;
 }
 
 // --- bitmaps
@@ -40,7 +34,7 @@ bool plausibleBitmap(const FileBytes& file) {
     const std::uint32_t bits = file.u16(bitmapHead + (old ? 10 : 14));
     const std::uint32_t packing = old ? 0 : file.u32(bitmapHead + 16);
     const bool packed = packing == 1 || packing == 2;
-    if (packed) return plausible(width, height, file.size() * packedBitmapPixelsPerByte);
+    if (packed) return plausible(width, height, file.size() * limits::packedBitmapPixelsPerByte);
     return bits != 0 && plausible(width, height, file.size() * 8 / bits);
 }
 
@@ -63,7 +57,7 @@ bool completePng(const FileBytes& file) {
 }
 
 bool plausiblePng(const FileBytes& file) {
-    return file.has(16, 8) && plausible(file.bigU32(16), file.bigU32(20), file.size() * pngPixelsPerByte);
+    return file.has(16, 8) && plausible(file.bigU32(16), file.bigU32(20), file.size() * limits::pngPixelsPerByte);
 }
 
 // --- JPEG
@@ -90,7 +84,8 @@ std::size_t endOfScan(const FileBytes& file, std::size_t at) {
 
 // Goes from marker to marker up to the one at the end. The decoder would fill what is cut off with grey.
 bool completeJpeg(const FileBytes& file) {
-    bool sized = false;
+    std::uint64_t pixels = 0;
+    std::uint64_t touched = 0;
     for (std::size_t at = 2; file.has(at, 2);) {
         const std::uint32_t marker = file.u8(at + 1);
         if (file.u8(at) != 0xFF) return false;
@@ -98,16 +93,20 @@ bool completeJpeg(const FileBytes& file) {
             ++at;
             continue;
         }
-        if (marker == endOfImage) return sized;
+        if (marker == endOfImage) return pixels > 0 && touched <= limits::jpegPixelsInScans;
         if (!file.has(at, 4)) return false;
         const std::size_t length = file.bigU16(at + 2);
         if (isFrame(marker)) {
             if (!file.has(at, 9)) return false;
-            sized = plausible(file.bigU16(at + 7), file.bigU16(at + 5), file.size() * jpegPixelsPerByte);
-            if (!sized) return false;
+            const std::uint32_t width = file.bigU16(at + 7);
+            const std::uint32_t height = file.bigU16(at + 5);
+            if (!plausible(width, height, file.size() * limits::jpegPixelsPerByte)) return false;
+            pixels = std::uint64_t{width} * height;
         }
         at += 2 + length;
-        if (marker == startOfScan) at = endOfScan(file, at);
+        if (marker != startOfScan) continue;
+        touched += pixels;
+        at = endOfScan(file, at);
     }
     return false;
 }

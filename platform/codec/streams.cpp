@@ -43,13 +43,13 @@ std::int64_t Streams::taken(Track track) const {
 
 std::int64_t Streams::heard(Track track) const {
     const std::lock_guard lock(mutex_);
-    const auto since = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - called_).count();
+    const std::int64_t since = clock_() - called_;
     return std::max<std::int64_t>(0, milliseconds(slot(track).framesBefore) + since - latency_);
 }
 
 void Streams::mix(std::int16_t* samples, int frames) {
     const std::lock_guard lock(mutex_);
-    called_ = Clock::now();
+    called_ = clock_();
     // What is handed over now comes behind one buffer that plays and one that waits.
     latency_ = 2 * milliseconds(frames);
     decoded_.resize(static_cast<std::size_t>(frames) * channels);

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <array>
-#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -17,6 +17,9 @@ enum class Track { voice, effect, song, video };
 
 class Streams {
 public:
+    // `clock` tells milliseconds; it never goes back.
+    explicit Streams(std::function<std::int64_t()> clock) : clock_(std::move(clock)) {}
+
     // Plays a sound in place of the one before. Null is silence that still counts its time.
     void start(Track track, std::unique_ptr<AudioReader> reader);
     void stop(Track track);
@@ -39,8 +42,6 @@ private:
         std::int64_t frames = 0;
         std::int64_t framesBefore = 0;  // without those of the last call
     };
-    using Clock = std::chrono::steady_clock;
-
     void add(Slot& slot, int level, std::int16_t* samples, int frames);
     Slot& slot(Track track) { return slots_[static_cast<std::size_t>(track)]; }
     const Slot& slot(Track track) const { return slots_[static_cast<std::size_t>(track)]; }
@@ -48,8 +49,9 @@ private:
     mutable std::mutex mutex_;
     std::array<Slot, 4> slots_;
     std::vector<std::int16_t> decoded_;
-    Clock::time_point called_ = Clock::now();
-    std::int64_t latency_ = 0;  // milliseconds
+    std::function<std::int64_t()> clock_;
+    std::int64_t called_ = clock_();  // when the device took something last
+    std::int64_t latency_ = 0;        // milliseconds
 };
 
 }  // namespace zentrox

@@ -1,5 +1,5 @@
-// Plays WAV files from memory, brought to the form of the device bit by bit, so that the call that starts one is
-// short.
+// Plays WAV files of plain samples as they are read, so that a long one starts as fast as a short one and none
+// takes memory.
 #pragma once
 
 #include <filesystem>
@@ -9,7 +9,7 @@
 
 namespace zentrox {
 
-// Null for a file that can't be played.
+// Null for a file that is none, is damaged, or holds packed samples.
 std::unique_ptr<AudioReader> openWav(const std::filesystem::path& file);
 
 }  // namespace zentrox

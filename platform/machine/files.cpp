@@ -1,9 +1,10 @@
 #include "platform/machine/files.h"
 
 #include <algorithm>
-#include <fstream>
 
+#include "platform/machine/whole_file.h"
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -167,14 +168,11 @@ std::string Files::read(TextView path) const {
     const fs::path file = systemPath(path);
     std::error_code error;
     if (!fs::exists(file, error)) throw DataError("Die Datei \"" + display(path) + "\" fehlt.");
-    std::ifstream in;
-    if (isPlainFile(file)) in.open(file, std::ios::binary);
-    const auto size = fs::file_size(file, error);
-    if (!in || !in.is_open() || error) failUnreadable(path);
-    std::string bytes(size, '\0');
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    bytes.resize(static_cast<std::size_t>(in.gcount()));
-    return bytes;
+    if (const auto size = fs::file_size(file, error); !error && size > limits::fileBytes)
+        throw DataError("Die Datei \"" + display(path) + Text("\" ist zu groß."_t));
+    auto bytes = readFile(file, limits::fileBytes);
+    if (!bytes) failUnreadable(path);
+    return std::move(*bytes);
 }
 
 void Files::makeDirectory(TextView path) const {

@@ -1,9 +1,12 @@
 #include "platform/machine/midi.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
-#include <iterator>
 #include <vector>
+
+#include "platform/machine/whole_file.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -114,12 +117,10 @@ double microseconds(Song& song, double ticksPerQuarter) {
 }  // namespace
 
 std::optional<std::string> readMidi(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::string content(magic.size(), '\0');
-    if (!stream.read(content.data(), static_cast<std::streamsize>(content.size())) || content != magic)
-        return std::nullopt;
-    content.append(std::istreambuf_iterator<char>(stream), {});
-    return content;
+    std::array<char, 4> begin{};
+    std::ifstream(file, std::ios::binary).read(begin.data(), begin.size());
+    if (std::string_view(begin.data(), begin.size()) != magic) return std::nullopt;
+    return readFile(file, limits::midiBytes);
 }
 
 std::optional<std::int64_t> midiLength(std::string_view file) {

@@ -11,6 +11,16 @@ namespace zentrox {
 
 using SoundHandle = std::uint32_t;  // 0 is none
 
+// Why a call has failed; the numbers are those of the table of `BassFehlerText`.
+enum class SoundError {
+    none = 0,
+    cannotOpen = 2,
+    noDriver = 3,
+    unsupported = 6,
+    notInitialised = 8,
+    notStarted = 9,
+};
+
 class SoundDevice {
 public:
     virtual ~SoundDevice() = default;
@@ -18,12 +28,11 @@ public:
     // A directory to look into for a sound font before those of the system; to be told before the first song.
     virtual void useSoundFontsIn(TextView /*directory*/) {}
 
-    // Finds the output, then opens it. False, with `errorCode` set, if there is none, or it is not to be had; then
+    // Finds the output, then opens it. False, with `error` set, if there is none, or it is not to be had; then
     // everything but videos is silence.
     virtual bool init() = 0;
     virtual bool start() = 0;
-    // The code of the last failure, by the table of `BassFehlerText`.
-    virtual int errorCode() const = 0;
+    virtual SoundError error() const = 0;  // of the last call that can fail
     // Stops all and closes the output.
     virtual void free() = 0;
 

@@ -9,9 +9,6 @@ namespace zentrox {
 
 namespace {
 
-constexpr int cannotOpen = 2;  // see `BassFehlerText`
-constexpr int notStarted = 8;
-
 std::int64_t audioLength(const std::filesystem::path& file) {
     auto* decoder = mediaDecoder();
     return decoder != nullptr ? decoder->audioLength(file) : 0;
@@ -72,11 +69,11 @@ void Recorder::free() {
 
 SoundHandle Recorder::openVoice(TextView path) {
     freeVoice(handle_);
-    error_ = started_ ? cannotOpen : notStarted;
+    error_ = started_ ? SoundError::cannotOpen : SoundError::notInitialised;
     if (!started_) return 0;
     voice_ = open("voice", path, audioLength);
     if (voice_.length == 0) return 0;
-    error_ = 0;
+    error_ = SoundError::none;
     return handle_ = ++handles_;
 }
 

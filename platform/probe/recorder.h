@@ -33,7 +33,7 @@ public:
 
     bool init() override { return started_ = true; }
     bool start() override { return true; }
-    int errorCode() const override { return error_; }
+    SoundError error() const override { return error_; }
     void free() override;
 
     SoundHandle openVoice(TextView path) override;
@@ -76,7 +76,7 @@ private:
     std::function<Milliseconds()> clock_;
     Trace trace_;
     bool started_ = false;
-    int error_ = 0;
+    SoundError error_ = SoundError::none;
 
     Track voice_{"voice"};
     SoundHandle handle_ = 0;

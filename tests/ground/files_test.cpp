@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox {
@@ -100,6 +101,8 @@ TEST_F(GameFiles, ExplainInGermanWhatCantBeRead) {
     EXPECT_EQ(files.read("rooms\\A.lsd"), "");
     EXPECT_EQ(failure("ROOMS\\Straße.lsd"_t), "Die Datei \"Rooms\\Straße.lsd\" fehlt."_t);
     EXPECT_EQ(failure("rooms"), "Die Datei \"Rooms\" kann nicht gelesen werden.");
+    fs::resize_file(temp.write("Rooms/b.lsd", ""), limits::fileBytes + 1);
+    EXPECT_EQ(failure("rooms\\B.lsd"), "Die Datei \"Rooms\\b.lsd\" ist zu groß."_t);
     if (geteuid() == 0) return;  // who reads everything
     fs::permissions(temp.path() / "Rooms" / "a.lsd", fs::perms::none);
     EXPECT_EQ(failure("rooms\\a.lsd"), "Die Datei \"Rooms\\a.lsd\" kann nicht gelesen werden.");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
 #include <random>
 
@@ -135,6 +136,20 @@ TEST_F(Pictures, ClaimsOfSizeAreNotBelieved) {
     std::string png = pngFile();
     png[17] = png[21] = '\x7F';
     EXPECT_NE(failure(png), "");
+}
+
+// A small file can ask for hours by going over a large picture again and again.
+TEST_F(Pictures, AJpegOfManyScansIsRefusedUnseen) {
+    const std::string whole = fromHex(jpegInHex);
+    const std::size_t scan = whole.find("\xFF\xDA");
+    std::string bytes = whole.substr(0, scan);
+    const std::size_t frame = bytes.find("\xFF\xC0");
+    for (const std::size_t side : {5, 7}) bytes.replace(frame + side, 2, "\x13\x88");  // 5000 by 5000 pixels
+    const std::string pass = whole.substr(scan, whole.size() - scan - 2);
+    while (bytes.size() < 40'000) bytes += pass;
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_NE(failure(bytes + "\xFF\xD9"), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
 }
 
 TEST_F(Pictures, DamagedBytesDoNoHarm) {

@@ -20,7 +20,7 @@ public:
 
     bool init() override { return true; }
     bool start() override { return true; }
-    int errorCode() const override { return 0; }
+    SoundError error() const override { return SoundError::none; }
     void free() override { notes.emplace_back("free"); }
 
     SoundHandle openVoice(TextView path) override {

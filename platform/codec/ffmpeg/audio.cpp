@@ -5,6 +5,7 @@
 
 #include "platform/codec/ffmpeg/input.h"
 #include "platform/codec/ffmpeg/readers.h"
+#include "platform/values/limits.h"
 
 extern "C" {
 #include <libswresample/swresample.h>
@@ -15,11 +16,6 @@ namespace zentrox::ffmpeg {
 namespace {
 
 constexpr int channels = 2;
-// What lies beyond is a damaged header.
-constexpr int lowestRate = 1000;
-constexpr int highestRate = 200'000;
-constexpr int mostChannels = 8;
-constexpr double longestDelay = 10'000;  // milliseconds by which sound may come behind its video
 
 struct ResamplerCloser {
     void operator()(SwrContext* resampler) const { swr_free(&resampler); }
@@ -54,7 +50,7 @@ private:
 
     // Silence before sound that begins later than the file.
     void delay(double milliseconds) {
-        const double frames = std::clamp(milliseconds, 0.0, longestDelay) * sampleRate / 1000;
+        const double frames = std::clamp(milliseconds, 0.0, limits::soundDelay) * sampleRate / 1000;
         pending_.assign(static_cast<std::size_t>(frames) * channels, 0);
     }
 
@@ -70,7 +66,7 @@ private:
     bool convert() {
         if (!prepared()) return false;
         const int most = swr_get_out_samples(resampler_.get(), frame_->nb_samples);
-        if (most < 0) return false;
+        if (most < 0 || most > limits::soundFrame) return false;
         const std::size_t before = pending_.size();
         pending_.resize(before + static_cast<std::size_t>(most) * channels);
         std::array<std::uint8_t*, 1> out{reinterpret_cast<std::uint8_t*>(pending_.data() + before)};
@@ -82,8 +78,8 @@ private:
 
     bool prepared() {
         const int count = frame_->ch_layout.nb_channels;
-        const bool sound = frame_->sample_rate >= lowestRate && frame_->sample_rate <= highestRate;
-        if (!sound || count < 1 || count > mostChannels) return false;
+        const bool sound = frame_->sample_rate >= limits::lowestRate && frame_->sample_rate <= limits::highestRate;
+        if (!sound || count < 1 || count > limits::channels) return false;
         if (resampler_ && rate_ == frame_->sample_rate && format_ == frame_->format && channels_ == count)
             return true;
         AVChannelLayout in;

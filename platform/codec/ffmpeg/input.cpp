@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/values/limits.h"
+
 namespace zentrox::ffmpeg {
 
 namespace {
@@ -10,11 +12,10 @@ namespace {
 // Formats that hold sound and video and nothing else: no play lists, which could name other files.
 constexpr const char* formats =
     "wav,mp3,ogg,flac,aac,aiff,au,w64,mpeg,mpegvideo,mpegts,avi,mov,mp4,matroska,webm,asf,flv,flic,m4v";
-constexpr std::int64_t mostPixels = 4096LL * 4096;
 constexpr double usualPicture = 40;  // milliseconds, where the file does not say
 
 double plausible(double lasts) {
-    return lasts > 0 && lasts <= longestPicture ? lasts : usualPicture;
+    return lasts > 0 && lasts <= limits::filmPicture ? lasts : usualPicture;
 }
 
 Owned<AVFormatContext> openFile(const std::filesystem::path& file) {
@@ -50,7 +51,7 @@ bool Input::openCodec(const AVCodec& codec) {
     packet_.reset(av_packet_alloc());
     if (!codec_ || !packet_ || avcodec_parameters_to_context(codec_.get(), stream().codecpar) < 0) return false;
     codec_->thread_count = 1;
-    codec_->max_pixels = mostPixels;
+    codec_->max_pixels = limits::filmPixels;
     codec_->pkt_timebase = stream().time_base;
     return avcodec_open2(codec_.get(), &codec, nullptr) == 0;
 }
@@ -107,7 +108,7 @@ std::int64_t Input::countedLength() {
             // Sound has no gaps, and its stamps may be guesses. Not every picture has a stamp.
             const bool stamped = !sound && packet_->pts != AV_NOPTS_VALUE;
             const double stamp = stamped ? milliseconds(packet_->pts) : end;
-            const double begins = stamp > end + longestPicture ? end : stamp;
+            const double begins = stamp > end + limits::filmPicture ? end : stamp;
             end = std::max(end, begins + lasts);
         }
         av_packet_unref(packet_.get());

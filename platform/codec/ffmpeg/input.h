@@ -19,9 +19,6 @@ struct Closer {
     void operator()(AVPacket* packet) const { av_packet_free(&packet); }
 };
 
-// Milliseconds; a picture that is said to be seen for longer is wrongly dated.
-constexpr double longestPicture = 60'000;
-
 template <class T>
 using Owned = std::unique_ptr<T, Closer>;
 

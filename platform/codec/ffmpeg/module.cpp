@@ -3,6 +3,7 @@
 
 #include "platform/codec/ffmpeg/input.h"
 #include "platform/codec/ffmpeg/readers.h"
+#include "platform/values/limits.h"
 
 namespace zentrox::ffmpeg {
 
@@ -16,7 +17,10 @@ std::int64_t length(const std::filesystem::path& file, AVMediaType type) {
 
 class Decoder final : public MediaDecoder {
 public:
-    Decoder() { av_log_set_level(AV_LOG_QUIET); }
+    Decoder() {
+        av_log_set_level(AV_LOG_QUIET);
+        av_max_alloc(limits::filmPiece);
+    }
 
     std::unique_ptr<AudioReader> openAudio(const std::filesystem::path& file) override {
         return ffmpeg::openAudio(file);

@@ -4,6 +4,7 @@
 
 #include "platform/codec/ffmpeg/input.h"
 #include "platform/codec/ffmpeg/readers.h"
+#include "platform/values/limits.h"
 
 extern "C" {
 #include <libswscale/swscale.h>
@@ -54,7 +55,7 @@ private:
         if (!more_) return;
         const auto stamp = ahead_->best_effort_timestamp;
         const double at = stamp == AV_NOPTS_VALUE ? end_ : input_->milliseconds(stamp);
-        begins_ = at < begins_ || at > end_ + longestPicture ? end_ : at;
+        begins_ = at < begins_ || at > end_ + limits::filmPicture ? end_ : at;
         end_ = begins_ + input_->duration(*ahead_);
     }
 

@@ -1,0 +1,39 @@
+// What is believed of a file of data, whatever it claims. Every reader takes its bounds from here. No story comes
+// near them; what lies beyond is damage, or made to do harm. Memory follows what a file holds and stays below half
+// a gigabyte.
+#pragma once
+
+#include <cstdint>
+
+namespace zentrox::limits {
+
+constexpr std::uint64_t fileBytes =
+    128'000'000;  // of what is read as a whole: rooms, scripts, saved games, pictures
+constexpr std::uint64_t midiBytes = 16'000'000;
+
+// --- pictures
+constexpr std::uint32_t pictureSide = 16'384;  // pixels
+constexpr std::uint64_t picturePixels = 25'000'000;
+// How many pixels the formats pack into a byte, but for drawings made to do so.
+constexpr std::uint64_t jpegPixelsPerByte = 1000;
+constexpr std::uint64_t pngPixelsPerByte = 10'000;
+constexpr std::uint64_t packedBitmapPixelsPerByte = 1000;
+// A JPEG may go over its picture again and again; this is how many pixels it may touch in all.
+constexpr std::uint64_t jpegPixelsInScans = 1'000'000'000;
+constexpr std::uint32_t iconSide = 512;  // pixels
+
+// --- sounds
+constexpr int soundChunks = 1000;  // before the samples
+constexpr int lowestRate = 1000;   // frames a second
+constexpr int highestRate = 200'000;
+constexpr int channels = 8;
+constexpr double soundDelay = 10'000;  // milliseconds by which sound may come behind its video
+constexpr int soundFrame = 8'000'000;  // frames that are decoded in one piece, as they are heard
+
+// --- films
+constexpr std::int64_t filmPixels = 4096LL * 2304;
+constexpr double filmPicture =
+    60'000;  // milliseconds; a picture that is said to be seen for longer is wrongly dated
+constexpr std::uint64_t filmPiece = 128'000'000;  // bytes that a decoder may ask for at once
+
+}  // namespace zentrox::limits
