@@ -1,7 +1,7 @@
 #include "engine/state/felder.h"
 
-#include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace zentrox {
@@ -12,17 +12,27 @@ bool istZiffer(char c) {
     return c >= '0' && c <= '9';
 }
 
+std::size_t ziffernBis(TextView text, std::size_t i) {
+    while (i < text.size() && istZiffer(text[i])) ++i;
+    return i;
+}
+
+// Where the number ends that begins with a digit, or with a point before a digit.
+std::size_t zahlEnde(TextView text) {
+    std::size_t ende = ziffernBis(text, 0);
+    if (ende < text.size() && text[ende] == '.') ende = ziffernBis(text, ende + 1);
+    std::size_t exponent = ende;
+    if (exponent == text.size() || (text[exponent] != 'e' && text[exponent] != 'E')) return ende;
+    ++exponent;
+    if (exponent < text.size() && (text[exponent] == '-' || text[exponent] == '+')) ++exponent;
+    const std::size_t danach = ziffernBis(text, exponent);
+    return danach > exponent ? danach : ende;
+}
+
 struct Anfang {
     double wert = 0;
     std::size_t länge = 0;  // 0 where the text does not start with a number
 };
-
-// A number beyond what a double holds: too small is 0, too large is without end.
-double außerhalb(TextView ziffern) {
-    const auto exponent = ziffern.find_first_of("eE");
-    const bool klein = exponent != TextView::npos && exponent + 1 < ziffern.size() && ziffern[exponent + 1] == '-';
-    return klein ? 0.0 : std::numeric_limits<double>::infinity();
-}
 
 Anfang zahlAmAnfang(TextView text) {
     const std::size_t vorzeichen = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
@@ -30,10 +40,9 @@ Anfang zahlAmAnfang(TextView text) {
     const bool zahl = !betrag.empty() &&
                       (istZiffer(betrag[0]) || (betrag[0] == '.' && betrag.size() > 1 && istZiffer(betrag[1])));
     if (!zahl) return {};
-    double wert = 0;
-    const auto [ende, fehler] = std::from_chars(betrag.data(), betrag.data() + betrag.size(), wert);
-    const auto länge = static_cast<std::size_t>(ende - betrag.data());
-    if (fehler == std::errc::result_out_of_range) wert = außerhalb(betrag.substr(0, länge));
+    // Not every library has `from_chars` for it. Too small becomes 0, too large is without end.
+    const std::size_t länge = zahlEnde(betrag);
+    const double wert = std::strtod(Text(betrag.substr(0, länge)).c_str(), nullptr);
     return {text[0] == '-' ? -wert : wert, vorzeichen + länge};
 }
 

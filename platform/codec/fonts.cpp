@@ -1,15 +1,16 @@
-// Fonts of the system, found by fontconfig, drawn by SDL_ttf one character at a time and kept.
+// Fonts of the system, drawn by SDL_ttf one character at a time and kept.
 #include <SDL_ttf.h>
-#include <fontconfig/fontconfig.h>
 
 #include <array>
 #include <cmath>
 #include <map>
 #include <optional>
 #include <stdexcept>
+#include <tuple>
 #include <vector>
 
 #include "platform/codec/decode.h"
+#include "platform/codec/fontfiles.h"
 #include "platform/picture/font.h"
 
 namespace zentrox {
@@ -44,71 +45,22 @@ constexpr Size cell{8, 14};
 constexpr int cellOutlinePixels = 12;  // of an outline font that has to stand in
 constexpr int strikes = 16;            // as many sizes as a bitmap font may have
 
-// --- SDL_ttf and fontconfig as values
+// --- SDL_ttf as values
 
 struct CloseFont {
     void operator()(TTF_Font* font) const { TTF_CloseFont(font); }
 };
-struct DestroyPattern {
-    void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
-};
-struct DestroyConfig {
-    void operator()(FcConfig* config) const { FcConfigDestroy(config); }
-};
 using FontHandle = std::unique_ptr<TTF_Font, CloseFont>;
-using Pattern = std::unique_ptr<FcPattern, DestroyPattern>;
 
 class Library {
 public:
-    Library() : config_(FcInitLoadConfigAndFonts()) {
-        if (!config_) throw std::runtime_error("fontconfig has no configuration");
+    Library() {
         if (TTF_Init() != 0) throw std::runtime_error(std::string("SDL_ttf does not start: ") + TTF_GetError());
     }
     ~Library() { TTF_Quit(); }
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
-
-    FcConfig* config() const { return config_.get(); }
-
-private:
-    std::unique_ptr<FcConfig, DestroyConfig> config_;
 };
-
-struct FontFile {
-    std::string path;
-    int index = 0;
-    bool scalable = true;
-};
-
-const FcChar8* fcText(const char* text) {
-    return reinterpret_cast<const FcChar8*>(text);
-}
-
-FontFile findFile(const Library& library, const std::string& family, const char* generic, bool bold,
-                  bool scalable) {
-    const Pattern wanted(FcPatternCreate());
-    FcPatternAddString(wanted.get(), FC_FAMILY, fcText(family.c_str()));
-    FcPatternAddString(wanted.get(), FC_FAMILY, fcText(generic));
-    FcPatternAddInteger(wanted.get(), FC_WEIGHT, bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
-    FcPatternAddInteger(wanted.get(), FC_SLANT, FC_SLANT_ROMAN);
-    if (scalable) FcPatternAddBool(wanted.get(), FC_SCALABLE, FcTrue);
-    FcConfigSubstitute(library.config(), wanted.get(), FcMatchPattern);
-    FcDefaultSubstitute(wanted.get());
-    FcResult result = FcResultNoMatch;
-    const Pattern match(FcFontMatch(library.config(), wanted.get(), &result));
-
-    FcChar8* path = nullptr;
-    if (!match || FcPatternGetString(match.get(), FC_FILE, 0, &path) != FcResultMatch)
-        throw std::runtime_error(
-            "no font is installed; the packages fonts-liberation and fonts-terminus-otb have those of the game");
-    FontFile file{reinterpret_cast<const char*>(path)};
-    FcPatternGetInteger(match.get(), FC_INDEX, 0, &file.index);
-    FcBool outlines = FcTrue;
-    FcPatternGetBool(match.get(), FC_SCALABLE, 0, &outlines);
-    file.scalable = outlines != FcFalse;
-    file.index &= 0xFFFF;  // the upper half names an instance of a variable font
-    return file;
-}
 
 // `size` is in pixels, or the number of a strike where the font has no outlines.
 FontHandle open(const FontFile& file, int size) {
@@ -269,7 +221,9 @@ struct FontKey {
     Text family;
     bool bold = false;
     int pixels = 0;
-    auto operator<=>(const FontKey&) const = default;
+    friend bool operator<(const FontKey& a, const FontKey& b) {
+        return std::tie(a.family, a.bold, a.pixels) < std::tie(b.family, b.bold, b.pixels);
+    }
 };
 
 class SystemFonts : public Fonts {
@@ -296,16 +250,18 @@ private:
         return *face;
     }
 
-    FontFile fileOf(const FontKey& key) const {
-        if (key.family == lower(cellFamily)) return findFile(*library_, cellFont, "monospace", true, false);
+    FontFile fileOf(const FontKey& key) {
+        if (!files_) files_ = makeFontFiles();
+        if (key.family == lower(cellFamily)) return files_->find(cellFont, "monospace", true, false);
         for (const StandIn& row : standIns)
             if (equalIgnoringCase(key.family, row.family))
-                return findFile(*library_, row.instead, row.generic, key.bold, true);
-        return findFile(*library_, toUtf8(key.family), "sans-serif", key.bold, true);
+                return files_->find(row.instead, row.generic, key.bold, true);
+        return files_->find(toUtf8(key.family), "sans-serif", key.bold, true);
     }
 
     // Made when a first font is asked for: reading the list of fonts takes a good part of a window's start.
     std::optional<Library> library_;
+    std::unique_ptr<FontFiles> files_;
     std::map<std::pair<std::string, int>, std::unique_ptr<Face>> faces_;
     std::map<FontKey, std::unique_ptr<SizedFont>> fonts_;
     FontSpec lastSpec_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/machine/near.h"
 #include "platform/machine/whole_file.h"
 #include "platform/values/error.h"
 #include "platform/values/limits.h"
@@ -167,6 +168,7 @@ std::string Files::read(TextView path) const {
     }
     const fs::path file = systemPath(path);
     std::error_code error;
+    bringNear(file);
     if (!fs::exists(file, error)) throw DataError("Die Datei \"" + display(path) + "\" fehlt.");
     if (const auto size = fs::file_size(file, error); !error && size > limits::fileBytes)
         throw DataError("Die Datei \"" + display(path) + Text("\" ist zu groß."_t));

@@ -30,7 +30,10 @@ private:
         std::string place;
         std::vector<std::int32_t> numbers;
         std::vector<Text> arguments;
-        friend auto operator<=>(const Key&, const Key&) = default;
+        friend bool operator<(const Key& a, const Key& b) {
+            return std::tie(a.room, a.place, a.numbers, a.arguments) <
+                   std::tie(b.room, b.place, b.numbers, b.arguments);
+        }
     };
     Key keyOf(const Skript& script, TextView room, int object) const;
 
