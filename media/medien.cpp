@@ -111,7 +111,7 @@ void Medien::SongPrüfen() {
     if (device_.songPosition() >= device_.songLength()) SongStart(z_.AktuellerSong);
 }
 
-void Medien::VideoStart(TextView path, [[maybe_unused]] bool vollbild) {
+void Medien::VideoStart(TextView path) {
     device_.stopVideo();
     if (!path.empty()) device_.playVideo(path);
 }

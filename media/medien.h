@@ -52,7 +52,7 @@ public:
     void SongPrüfen();
 
     // Shows a video in place of the one before; an empty path only closes that one.
-    void VideoStart(TextView path, bool vollbild);
+    void VideoStart(TextView path);
     void VideoStop();
     // Milliseconds; both 0 without a video.
     std::int64_t VideoLänge() { return device_.videoLength(); }

@@ -150,6 +150,11 @@ void Form1::Form_KeyDown(int code) {
     }
 }
 
+void Form1::onHeldLost() {
+    z_.TastenCode = 0;
+    z_.MausTaste = 0;
+}
+
 void Form1::CountDown_Timer() {
     if (aufschieben(Ereignis::countDown, [this] { CountDown_Timer(); })) return;
     interpreter_.SkriptAusführen(z_.AktuellerRaum.CountDownSkript, -1, "");

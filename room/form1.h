@@ -61,6 +61,7 @@ private:
     bool onQueryClose() override { Form_QueryUnload(); }
     void onKeyDown(int code) override { Form_KeyDown(code); }
     void onKeyUp(int /*code*/) override { z_.TastenCode = 0; }
+    void onHeldLost() override;
 
     void Form_Load();
     void Form_Resize();

@@ -62,7 +62,7 @@ struct RoomStage : test::Stage {
 void move(benchmark::State& state, const std::string& pointer) {
     RoomStage stage(pointer);
     int x = 0;
-    for (auto _ : state) stage.form->deliverMove({300 + (x++ & 31), 476}, Button::none);
+    for (auto _ : state) stage.form->routing().move({300 + (x++ & 31), 476}, Button::none);
 }
 
 void moveWithoutLookups(benchmark::State& state) {

@@ -88,6 +88,7 @@ void Interpreter::SkriptAusführen(const Skript& skript, int objektIndex, Text p
     const Ebene ebene(tiefe_);
     const Queue::Reason grund(platform_.queue, laufName(skript, objektIndex));
 
+    const auto anfang = platform_.queue.heldMark();
     raum_.CountDownAn(false);
     z_.SkriptLäuft = true;
     const std::int32_t zeigerLetzter = z_.ZeigerLetzter;
@@ -95,6 +96,7 @@ void Interpreter::SkriptAusführen(const Skript& skript, int objektIndex, Text p
     Lauf lauf{skript, std::move(parameter)};
     if (beobachter_ != nullptr) lauf.nummer = beobachter_->Beginnt(skript, z_.RaumDatei, objektIndex);
     durchlaufen(lauf);
+    platform_.queue.disownHeld(anfang);
     if (lauf.schlussSchritte) schließen(zeigerLetzter);
 }
 

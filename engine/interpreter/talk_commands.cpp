@@ -47,13 +47,15 @@ void Interpreter::TextZeigen(Lauf& lauf) {
     z_.TastenCode = 0;
     z_.MausTaste = 0;
     platform_.queue.waitUntil("Text", [this] { return z_.TastenCode != 0 || z_.MausTaste != 0; });
+    platform_.queue.disownHeld();
     raum_.WegText(text);
     medien_.StimmeFrei();
 }
 
 void Interpreter::Film(Lauf& lauf) {
-    medien_.VideoStart(z_.PfadMovies + Dateiname(lauf.argument()), false);
+    medien_.VideoStart(z_.PfadMovies + Dateiname(lauf.argument()));
     const auto abgebrochen = [this] { return z_.TastenCode == key::escape; };
+    platform_.queue.disownHeld();
     while (!abgebrochen()) {
         platform_.queue.waitUntil("Film", abgebrochen, platform_.backend.nextFrame());
         raum_.FilmBild();
@@ -61,6 +63,7 @@ void Interpreter::Film(Lauf& lauf) {
     }
     medien_.VideoStop();
     raum_.FilmEnde();
+    platform_.queue.disownHeld();
 }
 
 void Interpreter::Fehlerton(Lauf& /*lauf*/) {
@@ -84,9 +87,11 @@ void Interpreter::Auswahl(Lauf& lauf) {
     raum_.ZeigerStandard();
     z_.ZeigerLetzter = -1;
     z_.AuswahlErgebnis = -1;
+    platform_.queue.disownHeld();
     raum_.ZeigerAuffrischen();
     z_.MausTaste = 0;
     platform_.queue.waitUntil("Auswahl", [this] { return z_.AuswahlErgebnis != -1; });
+    platform_.queue.disownHeld();
     raum_.ZeigerEigen();
     z_.ZeigerLetzter = 1;
     raum_.WegText(text);

@@ -50,7 +50,7 @@ public:
     void closed(Window& window) override;
     void reshaped(Window& /*window*/) override {}
     void pointerChanged(Window& /*window*/) override {}
-    void present(const std::vector<Window*>& /*windows*/) override {}
+    void present() override {}
     void messageBoxOpened(const MessageBox& box) override;
     std::array<std::uint8_t, 256> keys() override { return keys_; }
     std::string clipboard() override { return clipboard_; }

@@ -258,7 +258,7 @@ void Desktop::layOut(Shown& shown) {
 
 // --- showing
 
-void Desktop::present(const std::vector<Window*>& /*windows*/) {
+void Desktop::present() {
     presentDue_.reset();
     const bool news =
         std::any_of(shown_.begin(), shown_.end(), [](const Shown& s) { return s.exposed || s.window->stale(); });

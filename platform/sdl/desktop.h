@@ -30,7 +30,7 @@ public:
     void closed(Window& window) override;
     void reshaped(Window& window) override;
     void pointerChanged(Window& window) override;
-    void present(const std::vector<Window*>& windows) override;
+    void present() override;
     std::optional<Milliseconds> presentDue() override { return presentDue_; }
     std::array<std::uint8_t, 256> keys() override;
     std::string clipboard() override;

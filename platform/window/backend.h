@@ -54,7 +54,7 @@ public:
     virtual void reshaped(Window& window) = 0;
     virtual void pointerChanged(Window& window) = 0;
     // Shows what is new in the windows. Called once a turn.
-    virtual void present(const std::vector<Window*>& windows) = 0;
+    virtual void present() = 0;
     // When `present` wants to be called again without anything happening; nothing if it does not.
     virtual std::optional<Milliseconds> presentDue() { return std::nullopt; }
     virtual void messageBoxOpened(const MessageBox& /*box*/) {}

@@ -15,7 +15,7 @@ Control::Control(Control* parent, const Rect& area) : parent_(parent), area_(are
 Control::~Control() {
     if (Window* const home = window()) {
         changed();
-        home->forget(*this);
+        home->routing().forget(*this);
     }
     for (Control* const child : children_) child->parent_ = nullptr;
     if (parent_ != nullptr) std::erase(parent_->children_, this);

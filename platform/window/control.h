@@ -75,6 +75,8 @@ public:
     virtual void pointerDown(const PointerEvent& /*event*/) {}
     virtual void pointerMove(const PointerEvent& /*event*/) {}
     virtual void pointerUp(const PointerEvent& /*event*/) {}
+    // A press has been taken from it: its release will not come.
+    virtual void pointerLost() {}
     virtual void wheel(int /*lines*/) {}
     // A key went down, by its virtual code; true if the control has used it up. `shift` and `control` are held
     // keys.

@@ -117,23 +117,55 @@ void Queue::deliver(const Input& input) {
         window->showToolTip(false);
         forgetToolTip();
     }
+    Routing& routing = window->routing();
     switch (input.kind) {
         case Kind::move: {
-            window->deliverMove(input.at, input.button);
+            routing.move(input.at, held_.owned(input.button));
             if (active() == window) toolTipDue_ = clock() + toolTipRest;
             return;
         }
-        case Kind::press: return window->deliverDown(input.at, input.button, input.clicks);
-        case Kind::release: return window->deliverUp(input.at, input.button);
-        case Kind::wheel: return window->deliverWheel(input.at, input.code);
-        case Kind::keyDown: return window->deliverKeyDown(input.code, input.shift, input.control, input.repeat);
-        case Kind::keyUp: return window->deliverKeyUp(input.code);
-        case Kind::keyPress: return window->deliverKeyPress(input.character);
+        case Kind::press: held_.press(input.button); return routing.down(input.at, input.button, input.clicks);
+        case Kind::release:
+            if (held_.release(input.button)) routing.up(input.at, input.button);
+            return;
+        case Kind::wheel: return routing.wheel(input.at, input.code);
+        case Kind::keyDown: return deliverKey(*window, input);
+        case Kind::keyUp:
+            if (held_.keyUp(input.code)) routing.keyUp(input.code);
+            return;
+        case Kind::keyPress:
+            if (held_.characterBelongs()) routing.keyPress(input.character);
+            return;
         case Kind::resize:
             if (window->frame() == Frame::sizable) window->resizeClient(input.size);
             return;
         case Kind::close: return window->requestClose();
     }
+}
+
+void Queue::deliverKey(Window& window, const Input& input) {
+    const auto key = held_.keyDown(input.code, input.repeat);
+    if (key == HeldInputs::Key::nobodys) return;
+    window.routing().keyDown(input.code, input.shift, input.control, key == HeldInputs::Key::repeat);
+}
+
+void Queue::windowOpened(Window& window) {
+    disownHeld();
+    windows_.push_back(&window);
+}
+
+void Queue::windowClosed(Window& window) {
+    std::erase(windows_, &window);
+    forgetToolTip();
+    held_.disown(0);
+}
+
+void Queue::disownHeld(HeldInputs::Mark since) {
+    const HeldInputs::Lost lost = held_.disown(since);
+    Window* const window = active();
+    if (window == nullptr || !(lost.buttons || lost.keys)) return;
+    if (lost.buttons) window->routing().lose();
+    window->onHeldLost();
 }
 
 // Each timer that is due when this begins fires once, the earliest deadline first; a handler may make and end
@@ -169,7 +201,7 @@ std::optional<Milliseconds> Queue::nextTimer() const {
 }
 
 void Queue::present() {
-    backend_.present(windows_);
+    backend_.present();
 }
 
 void Queue::sleepUntil(std::optional<Milliseconds> deadline) {

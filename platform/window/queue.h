@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/window/backend.h"
+#include "platform/window/held.h"
 
 namespace zentrox {
 
@@ -74,6 +75,15 @@ public:
 
     const std::vector<Window*>& windows() const { return windows_; }  // the topmost one is the last
     Window* active() const { return windows_.empty() ? nullptr : windows_.back(); }
+    // Told by the windows themselves. What was held down belonged to the one that stood on top.
+    void windowOpened(Window& window);
+    void windowClosed(Window& window);
+
+    // A moment between two inputs, for `disownHeld`.
+    HeldInputs::Mark heldMark() const { return held_.mark(); }
+    // A state of the game is over: what is held down and began behind `since` belonged to it. Nobody gets its
+    // release or a key's repeats.
+    void disownHeld(HeldInputs::Mark since = 0);
 
     // A reason that stands for the length of a scope.
     class Reason {
@@ -89,12 +99,12 @@ public:
 
 private:
     friend class Timer;
-    friend class Window;
 
     bool serveInput();
     void serveTimers();
     void turn();
     void deliver(const Input& input);
+    void deliverKey(Window& window, const Input& input);
     void forgetToolTip() { toolTipDue_.reset(); }
     void serveToolTip();
     std::optional<Milliseconds> nextTimer() const;
@@ -103,8 +113,8 @@ private:
     Backend& backend_;
     std::vector<Timer*> timers_;
     std::vector<Window*> windows_;
+    HeldInputs held_;
     std::vector<Text> reasons_;
-
     std::optional<Milliseconds> toolTipDue_;
 };
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/window/control.h"
+#include "platform/window/routing.h"
 
 namespace zentrox {
 
@@ -68,8 +69,11 @@ public:
     Control& controlAt(Point p);
     // The control of that name in the tree, null if there is none.
     Control* find(TextView name);
-    Control* focus() const { return focus_; }
-    void setFocus(Control* control);
+    Control* focus() const { return routing_.focus(); }
+    void setFocus(Control* control) { routing_.setFocus(control); }
+    // Hands input to the controls.
+    Routing& routing() { return routing_; }
+    const Routing& routing() const { return routing_; }
 
     // Brings the picture up to date and gives it.
     const Bitmap& compose();
@@ -86,30 +90,17 @@ public:
     virtual void onKeyDown(int /*code*/) {}
     virtual void onKeyUp(int /*code*/) {}
     virtual void onKeyPress(char /*c*/) {}
+    // What was held down when this came is not told of any more: neither a release nor a key's repeats.
+    virtual void onHeldLost() {}
 
-    // --- what the queue hands in
-    void deliverDown(Point at, Button button, int clicks);
-    void deliverMove(Point at, Button held);
-    void deliverUp(Point at, Button button);
-    void deliverWheel(Point at, int lines);
-    // A repeat of a held key reaches the control with the focus only.
-    void deliverKeyDown(int code, bool shift, bool control, bool repeat = false);
-    void deliverKeyUp(int code);
-    void deliverKeyPress(char c);
-
-    // The control that the pointer was moved over last, null if none; and its tool tip, drawn over all controls.
-    Control* hovered() const { return hovered_; }
+    // The tool tip of the control under the pointer, drawn over all controls.
     void showToolTip(bool show);
     bool toolTipShown() const { return toolTipShown_; }
     // Texts that stand in it, for the probe.
     bool shows(TextView part) const;
 
 private:
-    friend class Control;
-    PointerEvent inControl(const Control& control, Point at, Button button, int clicks) const;
-    void forget(Control& control);
     void paintTree(Control& control, Point at, const Rect& clip);
-    void focusNext(bool back);
 
     Platform& platform_;
     Text name_;
@@ -121,10 +112,7 @@ private:
     Rect stale_;
     Rect news_;
     bool open_ = false;
-    Control* focus_ = nullptr;
-    Control* captured_ = nullptr;  // the one that got a press keeps the pointer until the release
-    Control* hovered_ = nullptr;
-    Point hoverAt_;
+    Routing routing_{*this};
     bool toolTipShown_ = false;
     Rect toolTipArea_;
 };

@@ -60,23 +60,23 @@ TEST(List, KeysMoveAndScrollAndLettersFind) {
     EXPECT_EQ(play.list.topItem(), 0);
 
     play.list.setItems({"Anna", Text("Ärger"_t), "berta", "Bert"});
-    play.window.deliverKeyPress('B');
+    play.window.routing().keyPress('B');
     EXPECT_EQ(play.list.selectedText(), "berta");
-    play.window.deliverKeyPress('b');
+    play.window.routing().keyPress('b');
     EXPECT_EQ(play.list.selectedText(), "Bert");
-    play.window.deliverKeyPress('\xE4');
+    play.window.routing().keyPress('\xE4');
     EXPECT_EQ(play.list.selected(), 1U);
 }
 
 TEST(List, ScrollsByWheelAndBarOnlyIfItIsLong) {
     ListPlay play;
     play.fill(6);
-    play.window.deliverWheel(play.row(1), -3);
+    play.window.routing().wheel(play.row(1), -3);
     EXPECT_EQ(play.list.topItem(), 0);
     play.click({190, 20});
     EXPECT_EQ(play.list.selected(), 1U) << "no bar, so the row reaches to the edge";
     play.fill(10'000);
-    play.window.deliverWheel(play.row(1), -3);
+    play.window.routing().wheel(play.row(1), -3);
     EXPECT_EQ(play.list.topItem(), 3);
     play.click({190, 75});
     EXPECT_EQ(play.list.topItem(), 4);
@@ -92,7 +92,7 @@ TEST(List, AnEmptyOneBearsEverything) {
     play.fill(0);
     for (const int code : {key::up, key::down, key::end, key::pageDown}) play.key(code);
     play.click(play.row(0), 2);
-    play.window.deliverKeyPress('x');
+    play.window.routing().keyPress('x');
     EXPECT_FALSE(play.list.selected());
     EXPECT_TRUE(play.told.empty());
 }

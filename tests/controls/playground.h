@@ -10,18 +10,18 @@ struct Playground : Stage {
     Window window{platform, "Probe", "", {400, 300}, Frame::fixed};
 
     void key(int code, bool shift = false, bool control = false) {
-        window.deliverKeyDown(code, shift, control);
-        window.deliverKeyUp(code);
+        window.routing().keyDown(code, shift, control);
+        window.routing().keyUp(code);
     }
     void type(TextView text) {
-        for (const char c : text) window.deliverKeyPress(c);
+        for (const char c : text) window.routing().keyPress(c);
     }
     void press(Point at, int clicks = 1) {
-        window.deliverMove(at, Button::none);
-        window.deliverDown(at, Button::left, clicks);
+        window.routing().move(at, Button::none);
+        window.routing().down(at, Button::left, clicks);
     }
-    void drag(Point to) { window.deliverMove(to, Button::left); }
-    void release(Point at) { window.deliverUp(at, Button::left); }
+    void drag(Point to) { window.routing().move(to, Button::left); }
+    void release(Point at) { window.routing().up(at, Button::left); }
     void click(Point at, int clicks = 1) {
         press(at, clicks);
         release(at);

@@ -57,9 +57,9 @@ TEST(TextBox, ATranscriptScrollsByWheelKeysAndBar) {
     EXPECT_EQ(play.box.lineCount(), 30);
     EXPECT_EQ(play.box.topLine(), 0);
 
-    play.window.deliverWheel({20, 20}, -3);
+    play.window.routing().wheel({20, 20}, -3);
     EXPECT_EQ(play.box.topLine(), 3);
-    play.window.deliverWheel({20, 20}, 9);
+    play.window.routing().wheel({20, 20}, 9);
     EXPECT_EQ(play.box.topLine(), 0);
     play.key(key::pageDown);
     play.key(key::down);

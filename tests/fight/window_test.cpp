@@ -178,9 +178,9 @@ TEST(FightWindow, BeginsWithItsLabelsCountingUp) {
     fight.start();
     fight.backend.then([&] {
         EXPECT_EQ(fight.window().pointer().mode, Pointer::Mode::arrow) << "still below the picture";
-        fight.window().deliverMove({300, 200}, Button::none);
+        fight.window().routing().move({300, 200}, Button::none);
         EXPECT_EQ(fight.window().pointer().mode, Pointer::Mode::invisible);
-        fight.window().deliverMove({300, 430}, Button::none);
+        fight.window().routing().move({300, 430}, Button::none);
         EXPECT_EQ(fight.window().pointer().mode, Pointer::Mode::arrow);
         EXPECT_EQ(fight.sound.song, fight.z.PfadGames + "Ken_g.mid");
     });

@@ -84,7 +84,7 @@ TEST_F(MedienTest, ASongIsStartedAgainByTheCheckOnceItHasEnded) {
 
 TEST_F(MedienTest, AVideoLastsItsLengthAndTheEndStopsAll) {
     encodeClip(directory.path() / "film.mpg", {.width = 160, .height = 120, .seconds = 1});
-    medien.VideoStart("film.mpg", false);
+    medien.VideoStart("film.mpg");
     EXPECT_NEAR(static_cast<double>(medien.VideoLänge()), 1000, 80);
     ASSERT_NE(medien.VideoBild(), nullptr);
     EXPECT_EQ(medien.VideoBild(), nullptr) << "the same picture";
@@ -98,10 +98,10 @@ TEST_F(MedienTest, AVideoLastsItsLengthAndTheEndStopsAll) {
     EXPECT_EQ(news(), (Lines{"0 video film.mpg", end + " video off"}));
     EXPECT_EQ(medien.VideoLänge(), 0);
 
-    medien.VideoStart("fehlt.mpg", false);
+    medien.VideoStart("fehlt.mpg");
     EXPECT_EQ(medien.VideoPosition(), medien.VideoLänge()) << "passed over";
-    medien.VideoStart("film.mpg", false);
-    medien.VideoStart("", false);
+    medien.VideoStart("film.mpg");
+    medien.VideoStart("");
     medien.TonStart("wort.wav");
     medien.SongStart("lied.mid");
     medien.Ende();

@@ -1,6 +1,7 @@
 // Modality, nesting, the place where input lands, and what a window paints.
 #include <gtest/gtest.h>
 
+#include "platform/window/controls/button.h"
 #include "platform/window/surface.h"
 #include "tests/support/stage.h"
 
@@ -21,6 +22,8 @@ public:
         log.push_back("key " + std::to_string(code));
         if (onKey) onKey(code);
     }
+    void onKeyPress(char c) override { log.push_back("press " + std::to_string(c)); }
+    void onHeldLost() override { ++lost; }
     bool onQueryClose() override { return mayClose; }
     void onResize() override { log.push_back("resize " + std::to_string(client().w)); }
 
@@ -28,6 +31,7 @@ public:
     std::vector<std::string> log;
     std::function<void(int)> onKey;
     bool mayClose = true;
+    int lost = 0;
 
 private:
     void note(const char* what, const PointerEvent& e) {
@@ -74,6 +78,101 @@ TEST(WindowTest, APressKeepsThePointerUntilTheRelease) {
     stage.platform.queue.waitUntil(
         "test", [] { return false; }, 10);
     EXPECT_EQ(window.log, (Log{"down 2,3", "move 85,-15", "up 85,-15"}));
+}
+
+// What a window got stays with it: when it closes, or another one opens over it, the release is nobody's.
+TEST(WindowTest, AnInputBelongsToTheWindowInWhichItBegan) {
+    test::Stage stage;
+    Platform& platform = stage.platform;
+    Probe below(platform, "below");
+    Probe above(platform, "above");
+    above.face.onDown = [&](const PointerEvent&) { above.close(); };
+    below.open();
+    stage.backend.then([&] { above.open(); });
+    stage.backend.press({12, 23});  // closes it
+    stage.backend.move({13, 23}, Button::left);
+    stage.backend.release({13, 23});
+    stage.backend.then([&] { EXPECT_EQ(below.log, (Log{"move 3,3"})); });
+    stage.backend.click({12, 23});
+    platform.queue.waitUntil(
+        "test", [] { return false; }, 10);
+    EXPECT_EQ(below.log, (Log{"move 3,3", "move 2,3", "down 2,3", "up 2,3", "click"}));
+}
+
+TEST(WindowTest, AWindowThatOpensTakesThePressFromTheOneBelow) {
+    test::Stage stage;
+    Platform& platform = stage.platform;
+    Probe below(platform, "below");
+    Probe above(platform, "above");
+    PushButton button(&below.root(), {60, 20, 30, 20}, "B");
+    bool clicked = false;
+    button.onClick = [&] { clicked = true; };
+    below.open();
+    const Bitmap atRest = below.compose();
+    stage.backend.press({65, 25});
+    stage.backend.then([&] {
+        EXPECT_NE(below.compose(), atRest);
+        above.open();
+        EXPECT_NE(below.compose(), atRest) << "the focus stays";
+    });
+    stage.backend.release({12, 23});
+    stage.backend.then([&] {
+        EXPECT_TRUE(above.log.empty()) << "never pressed there";
+        above.close();
+    });
+    stage.backend.move({12, 23});  // and the button below has not kept the pointer
+    stage.backend.release({65, 25});
+    platform.queue.waitUntil(
+        "test", [] { return false; }, 10);
+    EXPECT_EQ(below.log, (Log{"move 2,3"}));
+    EXPECT_FALSE(clicked);
+}
+
+TEST(WindowTest, HeldKeysAreNotTheNextWindows) {
+    test::Stage stage;
+    Platform& platform = stage.platform;
+    constexpr Input down{.kind = Input::Kind::keyDown, .code = 13};
+    Probe below(platform, "below");
+    Probe above(platform, "above");
+    above.onKey = [&](int) { above.close(); };
+    below.open();
+    above.open();
+    stage.backend.input(down);
+    stage.backend.input({.kind = Input::Kind::keyPress, .character = '\r'});
+    stage.backend.input(down);
+    stage.backend.input({.kind = Input::Kind::keyPress, .character = '\r'});
+    stage.backend.then([&] { EXPECT_EQ(below.log, Log{}); });
+    stage.backend.input({.kind = Input::Kind::keyUp, .code = 13});
+    stage.backend.input(down);
+    stage.backend.input({.kind = Input::Kind::keyPress, .character = '\r'});
+    stage.backend.input(down);  // held on
+    platform.queue.waitUntil(
+        "test", [] { return false; }, 10);
+    EXPECT_EQ(above.log, (Log{"key 13"}));
+    EXPECT_EQ(below.log, (Log{"key 13", "press 13"}));
+}
+
+// The game says when one of its states is over; what began behind a moment can be told apart.
+TEST(WindowTest, AnInputBelongsToTheStateInWhichItBegan) {
+    test::Stage stage;
+    Probe window(stage.platform, "w");
+    Queue& queue = stage.platform.queue;
+    HeldInputs::Mark between = 0;
+    window.open();
+    stage.backend.press({12, 23});
+    stage.backend.then([&] { between = queue.heldMark(); });
+    stage.backend.input({.kind = Input::Kind::keyDown, .code = 65});
+    stage.backend.then([&] { queue.disownHeld(between); });
+    stage.backend.input({.kind = Input::Kind::keyDown, .code = 65, .repeat = true});
+    stage.backend.release({12, 23});
+    stage.backend.press({12, 23});
+    stage.backend.then([&] { queue.disownHeld(); });
+    stage.backend.move({14, 23}, Button::left);
+    stage.backend.release({14, 23});
+    queue.waitUntil(
+        "test", [] { return false; }, 10);
+    EXPECT_EQ(window.log, (Log{"down 2,3", "key 65", "up 2,3", "click", "down 2,3", "move 4,3"}));
+    EXPECT_EQ(window.lost, 2);
 }
 
 TEST(WindowTest, AClosingWindowMayRefuse) {

@@ -33,9 +33,9 @@ struct Quiz : Stage {
         });
     }
     void clickNow(Point at) {
-        window().deliverMove(at, Button::none);
-        window().deliverDown(at, Button::left, 1);
-        window().deliverUp(at, Button::left);
+        window().routing().move(at, Button::none);
+        window().routing().down(at, Button::left, 1);
+        window().routing().up(at, Button::left);
     }
     long heard(TextView file) {
         return std::count(sound.notes.begin(), sound.notes.end(), "effect " + z.PfadGames + Text(file));

@@ -100,7 +100,7 @@ public:
     void closed(Window& /*window*/) override {}
     void reshaped(Window& /*window*/) override {}
     void pointerChanged(Window& /*window*/) override {}
-    void present(const std::vector<Window*>& /*windows*/) override {
+    void present() override {
         ++presents;
         if (onPresent) onPresent();
     }

@@ -50,7 +50,10 @@ void PushButton::pointerMove(const PointerEvent& event) {
 }
 
 void PushButton::pointerUp(const PointerEvent& event) {
-    if (event.button != Button::left) return;
+    if (event.button == Button::left) pointerLost();
+}
+
+void PushButton::pointerLost() {
     held_ = false;
     setPressed(false);
 }

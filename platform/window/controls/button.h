@@ -25,6 +25,7 @@ public:
     void pointerDown(const PointerEvent& event) override;
     void pointerMove(const PointerEvent& event) override;
     void pointerUp(const PointerEvent& event) override;
+    void pointerLost() override;
     bool keyDown(int code, bool shift, bool control) override;
     void paint(Bitmap& onto, Point at) override;
 
