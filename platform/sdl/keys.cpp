@@ -1,5 +1,7 @@
 #include "platform/sdl/keys.h"
 
+#include <algorithm>
+
 #include "platform/values/keys.h"
 
 namespace zentrox::sdl {
@@ -40,21 +42,9 @@ constexpr std::array places{
     Key{SDL_SCANCODE_LGUI, 91},
     Key{SDL_SCANCODE_RGUI, 92},
     Key{SDL_SCANCODE_APPLICATION, 93},
-    Key{SDL_SCANCODE_KP_0, 96},
-    Key{SDL_SCANCODE_KP_1, 97},
-    Key{SDL_SCANCODE_KP_2, 98},
-    Key{SDL_SCANCODE_KP_3, 99},
-    Key{SDL_SCANCODE_KP_4, 100},
-    Key{SDL_SCANCODE_KP_5, 101},
-    Key{SDL_SCANCODE_KP_6, 102},
-    Key{SDL_SCANCODE_KP_7, 103},
-    Key{SDL_SCANCODE_KP_8, 104},
-    Key{SDL_SCANCODE_KP_9, 105},
     Key{SDL_SCANCODE_KP_MULTIPLY, 106},
     Key{SDL_SCANCODE_KP_PLUS, 107},
     Key{SDL_SCANCODE_KP_MINUS, 109},
-    Key{SDL_SCANCODE_KP_PERIOD, 110},
-    Key{SDL_SCANCODE_KP_COMMA, 110},
     Key{SDL_SCANCODE_KP_DIVIDE, 111},
     Key{SDL_SCANCODE_NUMLOCKCLEAR, 144},
     Key{SDL_SCANCODE_SCROLLLOCK, 145},
@@ -73,6 +63,43 @@ constexpr std::array places{
     Key{SDL_SCANCODE_NONUSBACKSLASH, 226},
 };
 
+// With its digits, and without.
+struct KeypadKey {
+    SDL_Scancode place;
+    int digit;
+    int arrow;
+};
+
+constexpr std::array keypad{
+    KeypadKey{SDL_SCANCODE_KP_0, 96, key::insert},    KeypadKey{SDL_SCANCODE_KP_1, 97, key::end},
+    KeypadKey{SDL_SCANCODE_KP_2, 98, key::down},      KeypadKey{SDL_SCANCODE_KP_3, 99, key::pageDown},
+    KeypadKey{SDL_SCANCODE_KP_4, 100, key::left},     KeypadKey{SDL_SCANCODE_KP_5, 101, 12},
+    KeypadKey{SDL_SCANCODE_KP_6, 102, key::right},    KeypadKey{SDL_SCANCODE_KP_7, 103, key::home},
+    KeypadKey{SDL_SCANCODE_KP_8, 104, key::up},       KeypadKey{SDL_SCANCODE_KP_9, 105, key::pageUp},
+    KeypadKey{SDL_SCANCODE_KP_PERIOD, 110, key::del}, KeypadKey{SDL_SCANCODE_KP_COMMA, 110, key::del},
+};
+
+constexpr std::uint64_t tapLasts = 100;  // milliseconds
+
+// Marks that lie elsewhere on each layout; the codes follow the label.
+int markCode(SDL_Keycode label) {
+    switch (label) {
+        case SDLK_COMMA: return key::comma;
+        case SDLK_PERIOD: return key::period;
+        case SDLK_MINUS: return 189;
+        case SDLK_PLUS:
+        case SDLK_EQUALS: return 187;
+        default: return 0;
+    }
+}
+
+int keypadCode(const SDL_Keysym& sym) {
+    const bool digits = (sym.mod & KMOD_NUM) != 0 && (sym.mod & KMOD_SHIFT) == 0;
+    for (const KeypadKey& known : keypad)
+        if (known.place == sym.scancode) return digits ? known.digit : known.arrow;
+    return 0;
+}
+
 int functionKey(SDL_Scancode place) {
     if (place >= SDL_SCANCODE_F1 && place <= SDL_SCANCODE_F12) return key::f1 + (place - SDL_SCANCODE_F1);
     if (place >= SDL_SCANCODE_F13 && place <= SDL_SCANCODE_F24) return key::f1 + 12 + (place - SDL_SCANCODE_F13);
@@ -88,10 +115,12 @@ int virtualCode(const SDL_Keysym& sym) {
     if (sym.scancode >= SDL_SCANCODE_1 && sym.scancode <= SDL_SCANCODE_9)
         return '1' + (sym.scancode - SDL_SCANCODE_1);
     if (sym.scancode == SDL_SCANCODE_0) return '0';
-    if (const int code = functionKey(sym.scancode)) return code;
+    for (const int code : {markCode(sym.sym), functionKey(sym.scancode), keypadCode(sym)})
+        if (code != 0) return code;
     for (const Key& known : places)
         if (known.place == sym.scancode) return known.code;
-    return 0;
+    const bool letterKey = sym.scancode >= SDL_SCANCODE_A && sym.scancode <= SDL_SCANCODE_Z;
+    return letterKey ? 'A' + (sym.scancode - SDL_SCANCODE_A) : 0;
 }
 
 char controlCharacter(const SDL_Keysym& sym) {
@@ -107,18 +136,29 @@ char controlCharacter(const SDL_Keysym& sym) {
     return control && letter ? static_cast<char>(sym.sym - SDLK_a + 1) : '\0';
 }
 
-std::array<std::uint8_t, 256> heldKeys() {
-    std::array<std::uint8_t, 256> keys{};
+KeyStates heldKeys() {
+    KeyStates keys{};
+    const auto mod = static_cast<Uint16>(SDL_GetModState());
     int count = 0;
     const Uint8* const held = SDL_GetKeyboardState(&count);
     for (int place = 0; held != nullptr && place < count; ++place) {
         if (held[place] == 0) continue;
         const auto scancode = static_cast<SDL_Scancode>(place);
-        const SDL_Keysym sym{scancode, SDL_GetKeyFromScancode(scancode), KMOD_NONE, 0};
+        const SDL_Keysym sym{scancode, SDL_GetKeyFromScancode(scancode), mod, 0};
         const int code = virtualCode(sym);
         if (code > 0 && code < 256) keys[static_cast<std::size_t>(code)] = 128;
     }
     return keys;
+}
+
+void Taps::note(int code, std::uint64_t now) {
+    if (code > 0 && code < 256) pressedAt_[static_cast<std::size_t>(code)] = std::max<std::uint64_t>(now, 1);
+}
+
+void Taps::addTo(KeyStates& keys, std::uint64_t now) {
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        if (pressedAt_[i] != 0 && now - pressedAt_[i] <= tapLasts) keys[i] = 128;
+    forget();
 }
 
 }  // namespace zentrox::sdl

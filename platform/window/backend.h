@@ -28,7 +28,7 @@ struct Input {
     bool shift = false;            // keyDown
     bool control = false;          // keyDown
     char character = 0;            // keyPress
-    Size size;                     // resize: the new client area
+    Size size;                     // resize: the new client area of the bottommost window
 };
 
 struct MessageBox;

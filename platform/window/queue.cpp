@@ -137,7 +137,7 @@ void Queue::deliver(const Input& input) {
             if (held_.characterBelongs()) routing.keyPress(input.character);
             return;
         case Kind::resize:
-            if (window->frame() == Frame::sizable) window->resizeClient(input.size);
+            if (windows_.front()->frame() == Frame::sizable) windows_.front()->resizeClient(input.size);
             return;
         case Kind::close: return window->requestClose();
     }

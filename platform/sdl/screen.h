@@ -1,0 +1,107 @@
+// The one native window of the program, and the game's windows in it. It is made with the first window of the game
+// and lives as long as the process: whichever window comes to be the bottommost one takes it over.
+#pragma once
+
+#include <SDL.h>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/sdl/layout.h"
+
+namespace zentrox::sdl {
+
+class Screen {
+public:
+    Screen() = default;
+    ~Screen();
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    bool ready() const { return native_ != nullptr; }
+    // Ends the program with a word on standard error if there is no display.
+    void opened(Window& window);
+    void closed(Window& window);
+    void reshaped(Window& window);
+    Window* top() const { return shown_.empty() ? nullptr : shown_.back().window; }
+
+    // True if something would look different after `show`.
+    bool stale() const;
+    void show();
+    // All of it has to be shown again.
+    void expose() { exposed_ = true; }
+
+    // The native window may have another size now.
+    void sizeChanged();
+    // The window manager follows what we ask for a while later, and tells of sizes that were on the way meanwhile.
+    // This is when it will have done so, in SDL's ticks; nothing if we wait for nothing.
+    std::optional<Uint64> calmAt() const { return calmAt_; }
+    // To be called then: takes what the window manager has made of it.
+    void calm();
+    // The client area that the bottommost window should have, if that is another one than it has.
+    std::optional<Size> resizeWanted() const;
+
+    bool fullScreen() const { return fullScreen_; }
+    void setFullScreen(bool on);
+    Enlarging enlarging() const { return enlarging_; }
+    void setEnlarging(Enlarging how);
+    double scale() const { return layout_.scale; }
+
+    // Coordinates of the native window's events. What stands there of the topmost window; its pixel there.
+    Place placeAt(Point p) const;
+    Point inTop(Point p) const;
+    // Moves the topmost window by its title bar, which the pointer took hold of at `grip` of its client area.
+    void dragTop(Point to, Point grip);
+    void pressCloseBox(bool down);
+
+private:
+    struct WindowEnd {
+        void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+    };
+    struct Shown {
+        Window* window = nullptr;
+        std::optional<Point> put;
+    };
+
+    void create(Window& window);
+    void takeOver(Window& window);
+    void shape();
+    void settle();
+    void askedForSize();
+    bool maximised() const;
+    void measure();
+    void layOutAll();
+    Size wantedNative() const;
+    double windowedScale(const Window& window) const;
+    Ground ground() const;
+    Ground baseGround() const;
+    std::vector<Tenant> tenants() const;
+    bool hiddenByOthers(std::size_t index, const Rect& part) const;
+    Rect collectNews();
+    void paint(const Rect& part);
+    void present(const Rect& part);
+    void presentThroughCopy(SDL_Surface& target, const Rect& part);
+    Point onCanvas(Point p) const;
+
+    std::unique_ptr<SDL_Window, WindowEnd> native_;
+    std::vector<Shown> shown_;  // the topmost one is the last
+    Size size_;                 // of the native window, in its pixels
+    double density_ = 1;        // its pixels for each unit that the window system counts in
+    Size baseSize_;             // what the bottommost window alone wants of it, outside full screen
+    Size stretchedSize_;        // what it was made larger to for the windows above, empty if it was not
+    double windowedScale_ = 1;  // the scale that the bottommost window opened with
+    std::optional<Uint64> calmAt_;
+    bool leavesFullScreen_ = false;
+    Size least_;  // the smallest size that the native window was told, empty if it is fixed
+    bool fullScreen_ = false;
+    Enlarging enlarging_ = Enlarging::whole;
+
+    Layout layout_;
+    Bitmap canvas_;
+    Enlarger enlarger_;
+    bool exposed_ = true;
+    bool closeDown_ = false;
+};
+
+}  // namespace zentrox::sdl
