@@ -29,8 +29,11 @@ void startVideo() {
     SDL_SetHintWithPriority(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0", SDL_HINT_DEFAULT);
     SDL_SetHintWithPriority(SDL_HINT_APP_NAME, program, SDL_HINT_DEFAULT);
     SDL_setenv("SDL_VIDEO_X11_WMCLASS", "zentrox", 0);
-    if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) return;
-    std::cerr << "zentrox: no display: " << SDL_GetError() << '\n';
+    // Without a display SDL takes a driver that shows nothing; only who names it can want that.
+    const bool works = SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
+    const std::string_view driver = works ? SDL_GetCurrentVideoDriver() : "";
+    if (works && (driver != "offscreen" || SDL_getenv("SDL_VIDEODRIVER") != nullptr)) return;
+    std::cerr << "zentrox: no display" << (works ? "" : ": ") << (works ? "" : SDL_GetError()) << '\n';
     throw ProgramEnd{1};
 }
 
