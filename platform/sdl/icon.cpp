@@ -1,26 +1,27 @@
 #include "platform/sdl/icon.h"
 
+#include <vector>
+
+#include "platform/picture/embedded.h"
+
 namespace zentrox {
 
-// Made by the build from the icon's drawing: four bytes a pixel, red first, then green, blue and opacity.
-extern const unsigned char IconPixel[];
-extern const unsigned int IconBytes;
+// Made by the build from the program's icon: its colours, and below them its opacity in grey.
+extern const EmbeddedPicture Icon;
 
 }  // namespace zentrox
 
 namespace zentrox::sdl {
 
-namespace {
-
-constexpr int side = 64;  // pixels
-
-}  // namespace
-
 void setIcon(SDL_Window& window) {
-    if (IconBytes != 4U * side * side) return;
-    auto* const pixels = const_cast<unsigned char*>(IconPixel);
+    const Bitmap both = unpacked(Icon);
+    const int side = both.width();
+    std::vector<std::uint32_t> pixels;
+    pixels.reserve(static_cast<std::size_t>(side) * side);
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x) pixels.push_back(both.row(y)[x] | (both.row(y + side)[x] & 0xFFU) << 24U);
     SDL_Surface* const icon =
-        SDL_CreateRGBSurfaceWithFormatFrom(pixels, side, side, 32, 4 * side, SDL_PIXELFORMAT_RGBA32);
+        SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), side, side, 32, 4 * side, SDL_PIXELFORMAT_ARGB8888);
     if (icon == nullptr) return;
     SDL_SetWindowIcon(&window, icon);
     SDL_FreeSurface(icon);
