@@ -30,6 +30,8 @@ const std::array Gründe{
     Grund{ENOENT, "Das Verzeichnis fehlt."_t},
     Grund{ENAMETOOLONG, "Der Name ist zu lang."_t},
     Grund{EISDIR, "Ein Verzeichnis heißt so."_t},
+    Grund{EIO, "Der Datenträger meldet einen Fehler."_t},
+    Grund{EFBIG, "Der Datenträger nimmt keine so große Datei."_t},
 };
 
 Text grundFür(int code) {

@@ -4,8 +4,9 @@
 #include <dlfcn.h>
 
 #include <iostream>
-#include <system_error>
 #include <vector>
+
+#include "platform/machine/system.h"
 
 namespace zentrox {
 
@@ -14,9 +15,7 @@ namespace {
 constexpr const char* moduleName = "zentrox-decoder.so";
 
 std::vector<std::filesystem::path> places() {
-    std::error_code failed;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", failed).parent_path();
-    if (failed) return {moduleName};
+    const auto program = programDirectory();
     return {program / moduleName, program.parent_path() / "lib" / "zentrox" / moduleName, moduleName};
 }
 

@@ -1,9 +1,12 @@
 #include <SDL_image.h>
 
 #include <cstdlib>
+#include <string>
+#include <system_error>
 
 #include "platform/codec/decode.h"
 #include "platform/codec/pictures.h"
+#include "platform/machine/replace_file.h"
 #include "platform/values/error.h"
 #include "platform/values/limits.h"
 
@@ -124,6 +127,26 @@ SurfaceHandle wrapped(Bitmap& bitmap) {
                                                             bitmap.width() * 4, SDL_PIXELFORMAT_XRGB8888));
 }
 
+// A stream of SDL's that appends what is written to a text.
+SDL_RWops* writerTo(std::string& bytes) {
+    SDL_RWops* const stream = SDL_AllocRW();
+    if (stream == nullptr) return nullptr;
+    stream->type = SDL_RWOPS_UNKNOWN;
+    stream->hidden.unknown.data1 = &bytes;
+    stream->size = [](SDL_RWops*) -> Sint64 { return -1; };
+    stream->seek = [](SDL_RWops*, Sint64, int) -> Sint64 { return -1; };
+    stream->read = [](SDL_RWops*, void*, std::size_t, std::size_t) -> std::size_t { return 0; };
+    stream->write = [](SDL_RWops* to, const void* data, std::size_t size, std::size_t count) {
+        static_cast<std::string*>(to->hidden.unknown.data1)->append(static_cast<const char*>(data), size * count);
+        return count;
+    };
+    stream->close = [](SDL_RWops* closed) {
+        SDL_FreeRW(closed);
+        return 0;
+    };
+    return stream;
+}
+
 }  // namespace
 
 SurfaceHandle decodePicture(std::string_view bytes) {
@@ -156,7 +179,14 @@ bool savePng(const Bitmap& bitmap, const std::string& path) {
     if (bitmap.empty()) return false;
     Bitmap copy = bitmap;
     const SurfaceHandle surface = wrapped(copy);
-    return surface && IMG_SavePNG(surface.get(), path.c_str()) == 0;
+    std::string file;
+    if (!surface || IMG_SavePNG_RW(surface.get(), writerTo(file), 1) != 0) return false;
+    try {
+        replaceFile(path, file);
+    } catch (const std::system_error&) {
+        return false;
+    }
+    return true;
 }
 
 }  // namespace zentrox

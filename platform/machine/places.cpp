@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "platform/machine/replace_file.h"
+#include "platform/machine/whole_file.h"
 
 namespace zentrox {
 
@@ -78,7 +79,11 @@ std::vector<std::string> linesOf(const fs::path& file) {
 void addLine(const fs::path& file, const std::string& line) {
     std::error_code error;
     fs::create_directories(file.parent_path(), error);
-    std::ofstream(file, std::ios::binary | std::ios::app) << line << '\n';
+    try {
+        replaceFile(file, readFile(file).value_or("") + line + '\n');
+    } catch (const std::system_error&) {
+        // Then it is asked for once more the next time.
+    }
 }
 
 void addPlace(std::vector<fs::path>& places, const fs::path& place, const fs::path& saves) {
@@ -100,8 +105,7 @@ std::vector<fs::path> plainFiles(const fs::path& directory) {
 }
 
 std::string bytesOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+    return readFile(file).value_or("");
 }
 
 bool holdsGame(const fs::path& directory, const std::string& bytes) {

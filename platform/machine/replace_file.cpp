@@ -1,9 +1,9 @@
 #include "platform/machine/replace_file.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <string>
@@ -15,88 +15,137 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t pieceSize = 4096;  // bytes a write
-
 [[noreturn]] void fail() {
     throw std::system_error(errno, std::generic_category());
 }
 
-// A file being written beside its target. It is gone with the scope unless it has taken the target's place.
+// Calls again what a signal has interrupted.
+template <class Call>
+auto persistently(Call call) {
+    for (;;) {
+        const auto result = call();
+        if (result >= 0 || errno != EINTR) return result;
+    }
+}
+
+class Descriptor {
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0) ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int number() const { return number_; }
+    // An interrupted close has closed.
+    void close() {
+        const int number = number_;
+        number_ = -1;
+        if (::close(number) != 0 && errno != EINTR) fail();
+    }
+
+private:
+    int number_;
+};
+
+// A file beside its target, gone with the scope unless it has taken the target's place.
 class Draft {
 public:
-    explicit Draft(const fs::path& directory) {
-        // A name of its own, as another process may save in this moment; it is short, as the target's may be long.
-        for (int i = 0; descriptor_ < 0; ++i) {
-            path_ = directory / (".zentrox-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp");
-            descriptor_ = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-            if (descriptor_ < 0 && errno != EEXIST) fail();
-        }
-    }
+    explicit Draft(fs::path path) : path_(std::move(path)) {}
     ~Draft() {
-        if (descriptor_ >= 0) ::close(descriptor_);
         if (!placed_) unlink(path_.c_str());
     }
     Draft(const Draft&) = delete;
     Draft& operator=(const Draft&) = delete;
 
-    void write(std::string_view bytes) {
-        while (!bytes.empty()) {
-            const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) fail();
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-    }
-    void flush() {
-        if (fsync(descriptor_) != 0) fail();
-    }
-    void close() {
-        const int descriptor = descriptor_;
-        descriptor_ = -1;
-        if (::close(descriptor) != 0) fail();
-    }
     void place(const fs::path& target) {
-        if (std::rename(path_.c_str(), target.c_str()) != 0) fail();
+        if (persistently([&] { return std::rename(path_.c_str(), target.c_str()); }) != 0) fail();
         placed_ = true;
     }
 
 private:
     fs::path path_;
-    int descriptor_ = -1;
     bool placed_ = false;
 };
 
-// Brings the new name to the disk. Not every file system can do that for a directory, and the file is whole
-// already.
-void flushDirectory(const fs::path& directory) {
-    const int descriptor = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return;
-    fsync(descriptor);
-    close(descriptor);
+void writeAll(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = persistently([&] { return ::write(descriptor, bytes.data(), bytes.size()); });
+        if (written == 0) errno = ENOSPC;
+        if (written <= 0) fail();
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+void bringToDisk(int descriptor) {
+    if (persistently([&] { return fsync(descriptor); }) != 0) fail();
+}
+
+// Brings a new name to the disk. Not every file system can do that, nor everybody read each directory.
+void bringNameToDisk(const fs::path& directory) {
+    const Descriptor folder(
+        persistently([&] { return open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    if (folder.number() < 0 && errno == EACCES) return;
+    if (folder.number() < 0) fail();
+    if (persistently([&] { return fsync(folder.number()); }) != 0 && errno != EINVAL && errno != ENOTSUP) fail();
+}
+
+fs::path directoryOf(const fs::path& file) {
+    return file.has_parent_path() ? file.parent_path() : ".";
+}
+
+// Makes a new file of a name of its own, as another process may write in this moment; it is short, as the target's
+// may be long.
+int makeBeside(const fs::path& target, fs::path& made) {
+    for (int i = 0;; ++i) {
+        made = directoryOf(target) / (".zentrox-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp");
+        const int descriptor =
+            persistently([&] { return open(made.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
+        if (descriptor >= 0) return descriptor;
+        if (errno != EEXIST) fail();
+    }
+}
+
+void writeInto(const fs::path& target, std::string_view bytes) {
+    Descriptor out(persistently([&] { return open(target.c_str(), O_WRONLY | O_CLOEXEC); }));
+    if (out.number() < 0) fail();
+    writeAll(out.number(), bytes);
+    out.close();
+}
+
+void replacePlain(const fs::path& target, std::string_view bytes, const struct stat* old) {
+    fs::path beside;
+    Descriptor out(makeBeside(target, beside));
+    Draft draft(beside);
+    // Who may not give the file the old permissions still may write it.
+    if (old != nullptr) static_cast<void>(fchmod(out.number(), old->st_mode & 0777U));
+    writeAll(out.number(), bytes);
+    bringToDisk(out.number());
+    out.close();
+    draft.place(target);
+    bringNameToDisk(directoryOf(target));
 }
 
 }  // namespace
 
-void replaceFile(const fs::path& target, std::string_view bytes, const std::function<void()>& beforeStep) {
-    const auto step = [&] {
-        if (beforeStep) beforeStep();
-    };
-    const fs::path directory = target.parent_path();
-    step();
-    Draft draft(directory);
-    while (!bytes.empty()) {
-        step();
-        draft.write(bytes.substr(0, pieceSize));
-        bytes.remove_prefix(std::min(pieceSize, bytes.size()));
-    }
-    step();
-    draft.flush();
-    step();
-    draft.close();
-    step();
-    draft.place(target);
-    step();
-    flushDirectory(directory);
+void replaceFile(const fs::path& target, std::string_view bytes) {
+    struct stat old {};
+    const bool there = stat(target.c_str(), &old) == 0;
+    if (there && !S_ISREG(old.st_mode) && !S_ISDIR(old.st_mode)) return writeInto(target, bytes);
+    std::error_code error;
+    const fs::path whole = there ? fs::canonical(target, error) : fs::path();
+    replacePlain(there && !error ? whole : target, bytes, there ? &old : nullptr);
+}
+
+void placeFile(const fs::path& draft, const fs::path& target) {
+    Draft written(draft);
+    Descriptor file(persistently([&] { return open(draft.c_str(), O_RDONLY | O_CLOEXEC); }));
+    if (file.number() < 0) fail();
+    bringToDisk(file.number());
+    file.close();
+    written.place(target);
+    bringNameToDisk(directoryOf(target));
 }
 
 }  // namespace zentrox

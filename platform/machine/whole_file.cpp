@@ -1,5 +1,6 @@
 #include "platform/machine/whole_file.h"
 
+#include <algorithm>
 #include <fstream>
 #include <system_error>
 
@@ -7,17 +8,34 @@ namespace zentrox {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr std::uint64_t piece = 65'536;  // bytes read at a time where nobody says how many there are
+
+// Appends up to `count` bytes; false at the end.
+bool readMore(std::istream& in, std::string& bytes, std::uint64_t count) {
+    const std::size_t before = bytes.size();
+    bytes.resize(before + count);
+    in.read(bytes.data() + before, static_cast<std::streamsize>(count));
+    bytes.resize(before + static_cast<std::size_t>(in.gcount()));
+    return in.good();
+}
+
+}  // namespace
+
 std::optional<std::string> readFile(const fs::path& path, std::uint64_t most) {
     std::error_code error;
-    if (!fs::is_regular_file(path, error)) return std::nullopt;
-    const auto size = fs::file_size(path, error);
+    const fs::file_status status = fs::status(path, error);
+    if (error || fs::is_directory(status)) return std::nullopt;
+    const std::uint64_t size = fs::is_regular_file(status) ? fs::file_size(path, error) : 0;
     if (error || size > most) return std::nullopt;
     std::ifstream in(path, std::ios::binary);
     if (!in) return std::nullopt;
-    std::string bytes(size, '\0');
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (in.bad()) return std::nullopt;
-    bytes.resize(static_cast<std::size_t>(in.gcount()));
+    std::string bytes;
+    // A file may grow while it is read; one that the system makes up has no size at all.
+    bool more = readMore(in, bytes, size);
+    while (more && bytes.size() <= most) more = readMore(in, bytes, piece);
+    if (in.bad() || bytes.size() > most) return std::nullopt;
     return bytes;
 }
 

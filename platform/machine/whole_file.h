@@ -9,8 +9,8 @@
 
 namespace zentrox {
 
-// All bytes of a plain file; nothing if it is none, can't be read, or has more than `most`. A file that grows or
-// shrinks while it is read is taken as far as it was there.
+// All bytes of a file, or of what a pipe brings; nothing if it can't be read, is a directory, or has more than
+// `most`.
 std::optional<std::string> readFile(const std::filesystem::path& path,
                                     std::uint64_t most = std::numeric_limits<std::uint64_t>::max());
 

@@ -1,100 +1,57 @@
 #include "platform/machine/replace_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
-#include <fstream>
-#include <sstream>
 #include <system_error>
+#include <thread>
 
+#include "platform/machine/whole_file.h"
 #include "tests/support/temp_directory.h"
 
 namespace zentrox::test {
 namespace {
 
-std::string contents(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
-}
+namespace fs = std::filesystem;
 
-// Runs `work` in a process of its own and gives its exit status.
-template <class Work>
-int inAProcess(Work work) {
-    const pid_t child = fork();
-    if (child == 0) {
-        work();
-        _exit(0);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-TEST(ReplaceFile, AKillAtAnyStepLeavesTheOldOrTheNewFile) {
-    const std::string old(20'000, 'a');
-    const std::string fresh(30'000, 'n');
-    TempDirectory directory;
-    const auto target = directory.write("spiel.xtc", old);
-    bool sawOld = false;
-    int kill = 1;
-    for (;; ++kill) {
-        std::ofstream(target, std::ios::binary) << old;
-        const int status = inAProcess([&] {
-            int step = 0;
-            replaceFile(target, fresh, [&] {
-                if (++step == kill) _exit(1);
-            });
-        });
-        const std::string now = contents(target);
-        ASSERT_TRUE(now == old || now == fresh) << "killed at step " << kill;
-        if (now == old) sawOld = true;
-        if (status == 0) {
-            EXPECT_EQ(now, fresh);
-            break;
-        }
-    }
-    EXPECT_TRUE(sawOld);
-    EXPECT_GT(kill, 10) << "each write of it is a step";
+std::ptrdiff_t entries(const TempDirectory& directory) {
+    return std::distance(fs::directory_iterator(directory.path()), {});
 }
 
 TEST(ReplaceFile, AFailureKeepsTheOldFileAndLeavesNothingOver) {
     TempDirectory directory;
-    const auto target = directory.write("spiel.xtc", "alt");
-    const auto entries = [&] { return std::distance(std::filesystem::directory_iterator(directory.path()), {}); };
-    EXPECT_THROW(replaceFile(target, "neu",
-                             [step = 0]() mutable {
-                                 if (++step == 3) throw std::system_error(ENOSPC, std::generic_category());
-                             }),
-                 std::system_error);
-    EXPECT_EQ(contents(target), "alt");
-    EXPECT_THROW(replaceFile(directory.path() / (std::string(300, 'n') + ".xtc"), "neu"), std::system_error);
-    EXPECT_THROW(replaceFile(directory.path() / "fehlt" / "spiel.xtc", "neu"), std::system_error);
-    std::filesystem::create_directory(directory.path() / "ordner.xtc");
-    EXPECT_THROW(replaceFile(directory.path() / "ordner.xtc", "neu"), std::system_error);
-    EXPECT_EQ(entries(), 2);
+    fs::create_directory(directory.path() / "ordner.xtc");
+    for (const fs::path target : {std::string(300, 'n') + ".xtc", std::string("fehlt/spiel.xtc"),
+                                  std::string("ordner.xtc"), std::string("")})
+        EXPECT_THROW(replaceFile(directory.path() / target, "neu"), std::system_error) << target;
+    EXPECT_EQ(entries(directory), 1);
 }
 
-TEST(ReplaceFile, NoRoomInTheMiddleOfTheFileIsAFailure) {
+TEST(ReplaceFile, FollowsALinkAndKeepsThePermissions) {
     TempDirectory directory;
-    const auto target = directory.write("spiel.xtc", "alt");
-    const int code = inAProcess([&] {
-        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
-        const rlimit small{10'000, 10'000};
-        setrlimit(RLIMIT_FSIZE, &small);
-        try {
-            replaceFile(target, std::string(30'000, 'n'));
-        } catch (const std::system_error& error) {
-            _exit(error.code().value());
-        }
-    });
-    EXPECT_EQ(code, EFBIG);
-    EXPECT_EQ(contents(target), "alt");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.path()), {}), 1);
+    const auto target = directory.write("tief/spiel.xtc", "alt");
+    fs::permissions(target, fs::perms(0640));
+    fs::create_symlink("tief/spiel.xtc", directory.path() / "link.xtc");
+    replaceFile(directory.path() / "link.xtc", "neu");
+    EXPECT_TRUE(fs::is_symlink(directory.path() / "link.xtc"));
+    EXPECT_EQ(readFile(target), "neu");
+    EXPECT_EQ(fs::status(target).permissions(), fs::perms(0640));
+}
+
+TEST(ReplaceFile, WritesIntoWhatIsNoPlainFile) {
+    TempDirectory directory;
+    const auto pipe = directory.path() / "rohr";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    std::string got;
+    std::thread reader([&] { got = readFile(pipe).value_or("nothing"); });
+    replaceFile(pipe, "durch das Rohr");
+    reader.join();
+    EXPECT_EQ(got, "durch das Rohr");
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_NO_THROW(replaceFile("/dev/null", "weg"));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
 TEST(ReplaceFile, TwoProcessesThatSaveTheSameNameLeaveOneWholeGame) {
@@ -108,9 +65,21 @@ TEST(ReplaceFile, TwoProcessesThatSaveTheSameNameLeaveOneWholeGame) {
     int status = -1;
     waitpid(child, &status, 0);
     EXPECT_EQ(status, 0);
-    const std::string now = contents(target);
+    const auto now = readFile(target);
     EXPECT_TRUE(now == first || now == second);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.path()), {}), 1);
+    EXPECT_EQ(entries(directory), 1);
+}
+
+TEST(ReadFile, TakesAllOrNothing) {
+    TempDirectory directory;
+    const auto file = directory.write("a", std::string(100'000, 'a'));
+    EXPECT_EQ(readFile(file)->size(), 100'000U);
+    EXPECT_EQ(readFile(file, 100'000)->size(), 100'000U);
+    EXPECT_FALSE(readFile(file, 99'999));
+    EXPECT_FALSE(readFile(directory.path()));
+    EXPECT_FALSE(readFile(directory.path() / "fehlt"));
+    EXPECT_FALSE(readFile("/dev/zero", 1'000'000)) << "without end";
+    EXPECT_NE(readFile("/proc/self/status"), "") << "without a size";
 }
 
 }  // namespace

@@ -1,9 +1,10 @@
 // zentrox-digits COUNT FILE: writes the first characters of pi, the point counted, as the pi game asks them.
 #include <charconv>
 #include <cstring>
-#include <fstream>
 #include <iostream>
+#include <system_error>
 
+#include "platform/machine/replace_file.h"
 #include "tools/digits/pi.h"
 
 int main(int count, char** arguments) {
@@ -14,10 +15,11 @@ int main(int count, char** arguments) {
         std::cerr << "usage: zentrox-digits COUNT FILE\n";
         return callFailed;
     }
-    std::ofstream file(arguments[2], std::ios::binary);
-    file << zentrox::piCharacters(characters);
-    file.close();
-    if (file) return 0;
-    std::cerr << "zentrox-digits: " << arguments[2] << " can't be written\n";
-    return 1;
+    try {
+        zentrox::replaceFile(arguments[2], zentrox::piCharacters(characters));
+    } catch (const std::system_error& error) {
+        std::cerr << "zentrox-digits: " << arguments[2] << ": " << error.code().message() << '\n';
+        return 1;
+    }
+    return 0;
 }

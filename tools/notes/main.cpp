@@ -1,11 +1,9 @@
 // zentrox-notes IN.notes OUT.mid: turns a song written in letters into a MIDI file.
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <fstream>
 #include <iostream>
-#include <iterator>
+#include <system_error>
 
+#include "platform/machine/replace_file.h"
+#include "platform/machine/whole_file.h"
 #include "tools/notes/song.h"
 
 namespace {
@@ -26,15 +24,12 @@ int main(int count, char** arguments) {
     }
     const std::string from = arguments[1];
     const std::string to = arguments[2];
-    std::ifstream in(from, std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(in), {}};
-    if (!in) return fail(from + ": " + std::strerror(errno));
+    const auto text = zentrox::readFile(from);
+    if (!text) return fail(from + ": die Datei kann nicht gelesen werden");
     try {
-        const std::string file = zentrox::notes::midiFile(zentrox::notes::readSong(text));
-        std::ofstream out(to, std::ios::binary);
-        out.write(file.data(), static_cast<std::streamsize>(file.size()));
-        out.close();
-        if (!out) return fail(to + ": " + std::strerror(errno));
+        zentrox::replaceFile(to, zentrox::notes::midiFile(zentrox::notes::readSong(*text)));
+    } catch (const std::system_error& error) {
+        return fail(to + ": " + error.code().message());
     } catch (const zentrox::notes::SongError& error) {
         return fail(from + ":" + std::to_string(error.line) + ": " + error.what());
     }

@@ -2,13 +2,15 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
-#include <fstream>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 
 #include "main/spiel.h"
 #include "platform/codec/zip.h"
+#include "platform/machine/replace_file.h"
 #include "platform/machine/system.h"
+#include "platform/machine/whole_file.h"
 #include "platform/probe/recorder.h"
 #include "platform/values/error.h"
 #include "tools/probe/player.h"
@@ -38,10 +40,9 @@ struct Options {
 
 std::string readWalk(const std::string& name) {
     if (name == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
-    std::ifstream file(name, std::ios::binary);
-    if (!file || fs::is_directory(name))
-        throw probe::WalkError(name + ":0: expected a walk, found no readable file");
-    return {std::istreambuf_iterator<char>(file), {}};
+    auto walk = readFile(name);
+    if (!walk) throw probe::WalkError(name + ":0: expected a walk, found no readable file");
+    return *std::move(walk);
 }
 
 // One life of the program, from its first window to its end; gives its exit status.
@@ -93,9 +94,13 @@ Files filesOf(const Options& options, const Scratch& scratch) {
 // What has run is told of a walk that failed, too.
 void tellWhatRan(const Options& options, const probe::Ran& ran) {
     if (options.ran.empty()) return;
-    std::ofstream file(options.ran, std::ios::binary);
-    ran.write(file);
-    if (!file.flush()) throw probe::WalkError(options.ran + ": can't be written");
+    std::ostringstream lines;
+    ran.write(lines);
+    try {
+        replaceFile(options.ran, lines.str());
+    } catch (const std::system_error& error) {
+        throw probe::WalkError(options.ran + ": " + error.code().message());
+    }
 }
 
 int play(const Options& options) {

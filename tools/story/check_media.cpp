@@ -44,10 +44,10 @@ public:
 
 private:
     void broken(Place place, const char* what, TextView file) {
-        findings_.warning(place, "datei-kaputt",
-                          std::string(what) + " " + shown(file) + " lässt sich nicht lesen: " +
-                              (isEmpty() ? "die Datei ist leer"
-                                   : "sie ist beschädigt, oder ihre Art kennt das Spiel nicht"));
+        findings_.warning(
+            place, "datei-kaputt",
+            std::string(what) + " " + shown(file) + " lässt sich nicht lesen: " +
+                (isEmpty() ? "die Datei ist leer" : "sie ist beschädigt, oder ihre Art kennt das Spiel nicht"));
     }
 
     std::optional<Bitmap> decoded(Place place, Ordner directory, const char* what, TextView file) {
@@ -113,7 +113,8 @@ private:
     void film(Place place, TextView file) {
         systemPath_ = data_.files().systemPath(data_.path(Ordner::movies, file));
         MediaDecoder* const decoder = mediaDecoder();
-        if (isEmpty() || (decoder != nullptr && decoder->videoLength(systemPath_) == 0)) broken(place, "der Film", file);
+        if (isEmpty() || (decoder != nullptr && decoder->videoLength(systemPath_) == 0))
+            broken(place, "der Film", file);
     }
 
     const DataFiles& data_;

@@ -65,7 +65,8 @@ void checkWays(const Story& story, const Story* rest, Findings& findings) {
         if (!reached.contains(keyOf(room.file)))
             findings.warning(room.head, "raum-ohne-weg",
                              "in den Raum " + shown(room.file) +
-                                 " führt kein Weg, der in Start.lsd beginnt; das täte Raumwechsel " + shown(room.file));
+                                 " führt kein Weg, der in Start.lsd beginnt; das täte Raumwechsel " +
+                                 shown(room.file));
 }
 
 // --- objects
@@ -86,7 +87,8 @@ void checkObjects(const StoryRoom& room, bool emptyOnes, Findings& findings) {
             for (int row = 0; row < Maskenzeilen; ++row) {
                 if (!objects[n].Maske.at(column, row)) continue;
                 any = true;
-                auto& taker = takers[static_cast<std::size_t>(column) * Maskenzeilen + static_cast<std::size_t>(row)];
+                auto& taker =
+                    takers[static_cast<std::size_t>(column) * Maskenzeilen + static_cast<std::size_t>(row)];
                 if (taker == objects.size()) {
                     taker = n;
                     free = true;
@@ -96,16 +98,17 @@ void checkObjects(const StoryRoom& room, bool emptyOnes, Findings& findings) {
             }
         const Place place = room.objects[n].name;
         if (!any && emptyOnes && hasScript(objects[n]))
-            findings.warning(place, "flaeche-leer",
-                             "das Objekt " + shown(objects[n].Name) +
-                                 " hat keine Fläche, niemand kann es anklicken; es braucht ein Rechteck, ein Vieleck "
-                                 "oder ein Maskenbild");
+            findings.warning(
+                place, "flaeche-leer",
+                "das Objekt " + shown(objects[n].Name) +
+                    " hat keine Fläche, niemand kann es anklicken; es braucht ein Rechteck, ein Vieleck "
+                    "oder ein Maskenbild");
         else if (any && !free)
-            findings.warning(place, "verdeckt",
-                             "das Objekt " + shown(objects[n].Name) + " liegt ganz unter " +
-                                 shown(objects[above].Name) +
-                                 ", jeder Klick gilt jenem, auch wenn es aus ist; was oben liegen soll, steht weiter "
-                                 "oben im Raum");
+            findings.warning(
+                place, "verdeckt",
+                "das Objekt " + shown(objects[n].Name) + " liegt ganz unter " + shown(objects[above].Name) +
+                    ", jeder Klick gilt jenem, auch wenn es aus ist; was oben liegen soll, steht weiter "
+                    "oben im Raum");
     }
 }
 
@@ -116,8 +119,8 @@ void checkRooms(const Story& story, const Surroundings& around, bool wholeStory,
         checkObjects(room, around.wholeGame, findings);
         if (room.file.find('\\') != Text::npos)
             findings.warning(room.head, "raum-verzeichnis",
-                             "ein Spielstand merkt sich von " + shown(room.file) +
-                                 " nur " + shown(Dateiname(room.file)) +
+                             "ein Spielstand merkt sich von " + shown(room.file) + " nur " +
+                                 shown(Dateiname(room.file)) +
                                  ", geladen würde er nie; Räume gehören ohne Verzeichnis nach rooms");
     }
     if (!wholeStory || !around.wholeGame || story.rooms.empty()) return;
@@ -126,9 +129,10 @@ void checkRooms(const Story& story, const Surroundings& around, bool wholeStory,
         return findings.error(place, "start-fehlt",
                               "einen Raum \"Start.lsd\" gibt es nicht; in ihm beginnt jedes neue Spiel");
     if (!hasRoom(story, around.rest, loading))
-        findings.warning(place, "laden-fehlt",
-                         "einen Raum \"Laden.lsd\" gibt es nicht; ihn öffnet das Menü mit \"Altes Spiel laden\", und "
-                         "sein Start ist System Open und darunter System Ende");
+        findings.warning(
+            place, "laden-fehlt",
+            "einen Raum \"Laden.lsd\" gibt es nicht; ihn öffnet das Menü mit \"Altes Spiel laden\", und "
+            "sein Start ist System Open und darunter System Ende");
     checkWays(story, around.rest, findings);
 }
 

@@ -1,9 +1,8 @@
 // zentrox-voices: speaks the lines of a story.
 #include <CLI/CLI.hpp>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
+#include "platform/machine/whole_file.h"
 #include "tools/story/inputs.h"
 #include "tools/story/parser.h"
 #include "tools/voices/maker.h"
@@ -25,8 +24,7 @@ struct Options {
 };
 
 voices::Table tableFrom(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return voices::readTable(std::string{std::istreambuf_iterator<char>(in), {}});
+    return voices::readTable(readFile(path).value_or(""));
 }
 
 // The lines of the story; nothing if there is something wrong with it, which then has been told.

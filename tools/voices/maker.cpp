@@ -69,10 +69,7 @@ std::vector<std::int16_t> readSamples(const fs::path& path) {
 }
 
 void writeSamples(const fs::path& path, const std::vector<std::int16_t>& samples) {
-    std::ofstream out(path, std::ios::binary);
-    out.write(reinterpret_cast<const char*>(samples.data()),
-              static_cast<std::streamsize>(samples.size() * sizeof(std::int16_t)));
-    if (!out.flush()) throw std::runtime_error("can't write " + path.string());
+    replaceFile(path, {reinterpret_cast<const char*>(samples.data()), samples.size() * sizeof(std::int16_t)});
 }
 
 void speak(const Table& table, const SpokenLine& line, const fs::path& target, const fs::path& work) {
@@ -108,13 +105,13 @@ void speak(const Table& table, const SpokenLine& line, const fs::path& target, c
 class Work {
 public:
     Work(std::vector<const SpokenLine*> lines, const Table& table, const fs::path& into, const fs::path& work,
-         const Speaker& speak)
+         const Speaker& speak, List kept)
         : lines_(std::move(lines)),
           table_(table),
           into_(into),
           work_(work),
           speak_(speak),
-          list_(into / listName, std::ios::app) {}
+          list_(std::move(kept)) {}
 
     void run(Made& made) {
         std::vector<std::thread> threads;
@@ -132,18 +129,18 @@ private:
         const fs::path unfinished = into_ / ("." + file);
         try {
             speak_(line, unfinished, work_);
-            fs::rename(unfinished, into_ / file);
+            placeFile(unfinished, into_ / file);
+            const std::lock_guard guard(mutex_);
+            list_[file] = recipe(line, table_);
+            writeList(into_ / listName, list_);
+            made.written.push_back(file);
         } catch (const std::exception& error) {
             std::error_code ignored;
             fs::remove(unfinished, ignored);
             const std::lock_guard guard(mutex_);
             stopped_ = true;
             made.failed.push_back(file + ": " + error.what());
-            return;
         }
-        const std::lock_guard guard(mutex_);
-        list_ << recipe(line, table_) << ' ' << file << std::endl;
-        made.written.push_back(file);
     }
 
     std::vector<const SpokenLine*> lines_;
@@ -151,7 +148,7 @@ private:
     const fs::path& into_;
     const fs::path& work_;
     const Speaker& speak_;
-    std::ofstream list_;
+    List list_;
     std::atomic<std::size_t> next_ = 0;
     std::atomic<bool> stopped_ = false;  // what fails once mostly fails each time
     std::mutex mutex_;                   // guards the list and what has been made
@@ -190,7 +187,7 @@ Made makeLines(const std::vector<SpokenLine>& lines, const Table& table, const f
     }
     // What is about to change leaves the list first: should we be cut off, it is made again.
     if (kept != old) writeList(into / listName, kept);
-    Work(changed, table, into, work, speak).run(made);
+    Work(changed, table, into, work, speak, kept).run(made);
     fs::remove_all(work);
     return made;
 }

@@ -1,0 +1,128 @@
+// Each call to the system with which a file is written fails in turn: the old file or the new one is there, whole.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+
+#include "platform/machine/whole_file.h"
+#include "saves_fixture.h"
+
+namespace zentrox::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Written {
+    const char* name;
+    std::vector<std::string> command;  // "@" stands for the directory
+    std::string file;                  // below it
+    bool game = false;
+};
+
+struct Ended {
+    int status = 0;
+    std::string said;
+    bool faulted = false;
+};
+
+class Faults : public testing::TestWithParam<Written> {
+protected:
+    std::string placed(std::string word) const {
+        if (const auto at = word.find('@'); at != std::string::npos) word.replace(at, 1, place.string());
+        return word;
+    }
+    // Runs the program; without a kind nothing is broken.
+    Ended run(int at, const std::string& kind) const {
+        const fs::path said = directory.path() / "said";
+        const fs::path seen = directory.path() / "seen";
+        fs::remove(seen);
+        const pid_t child = fork();
+        if (child == 0) {
+            if (freopen(said.c_str(), "w", stdout) == nullptr || dup2(1, 2) < 0) _exit(3);
+            if (!kind.empty()) {
+                setenv("LD_PRELOAD", FAULTS_LIBRARY, 1);
+                setenv("ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0", 1);
+            }
+            setenv("FAULT_DIRECTORY", (place / GetParam().file).parent_path().c_str(), 1);
+            setenv("FAULT_AT", std::to_string(at).c_str(), 1);
+            setenv("FAULT_KIND", kind.c_str(), 1);
+            setenv("FAULT_SEEN", seen.c_str(), 1);
+            std::vector<std::string> words;
+            for (const std::string& word : GetParam().command) words.push_back(placed(word));
+            std::vector<char*> pointers;
+            for (std::string& word : words) pointers.push_back(word.data());
+            pointers.push_back(nullptr);
+            execv(pointers[0], pointers.data());
+            _exit(3);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return {status, readFile(said).value_or(""), fs::exists(seen)};
+    }
+    std::size_t filesBeside() const {
+        const auto folder = (place / GetParam().file).parent_path();
+        return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
+    }
+    void breakCall(int at, const std::string& kind, const std::string& fresh, bool& more) {
+        const fs::path file = place / GetParam().file;
+        const std::string old = "what was there before";
+        directory.write("place/" + GetParam().file, old);
+        const std::size_t before = filesBeside();
+        const Ended done = run(at, kind);
+        more = done.faulted;
+        const std::string now = readFile(file).value_or("nothing");
+        const std::string where = kind + " at call " + std::to_string(at) + ": " + done.said;
+        if (kind == "kill" && more) {
+            EXPECT_TRUE(WIFSIGNALED(done.status)) << where;
+            EXPECT_TRUE(now == old || now == fresh) << where;
+            for (const auto& entry : fs::directory_iterator(file.parent_path()))
+                if (entry.path().extension() == ".tmp") fs::remove(entry.path());
+            return;
+        }
+        ASSERT_TRUE(WIFEXITED(done.status)) << where;
+        EXPECT_EQ(filesBeside(), before) << where;
+        if (WEXITSTATUS(done.status) == 0) {
+            EXPECT_EQ(now, fresh) << where;
+            return;
+        }
+        EXPECT_TRUE(now == old || now == fresh) << where;
+        EXPECT_NE(done.said, "") << where;
+        if (!GetParam().game) return;
+        EXPECT_NE(done.said.find("konnte nicht unter spiel.xtc gespeichert werden!"), std::string::npos) << where;
+        EXPECT_NE(done.said.find("Der Datenträger "), std::string::npos) << where;
+    }
+
+    TempDirectory directory;
+    const fs::path place = directory.path() / "place";
+};
+
+TEST_P(Faults, LeaveTheOldFileOrTheNewOne) {
+    fs::create_directories((place / GetParam().file).parent_path());
+    const Ended whole = run(0, "");
+    ASSERT_EQ(whole.status, 0) << whole.said;
+    const std::string fresh = readFile(place / GetParam().file).value_or("");
+    ASSERT_NE(fresh, "");
+    int calls = 0;
+    for (const std::string& kind :
+         {std::string("kill"), std::string("short"), std::to_string(EINTR), std::to_string(EIO), std::to_string(ENOSPC)}) {
+        bool more = true;
+        for (int at = 1; more && at < 100; ++at) {
+            breakCall(at, kind, fresh, more);
+            calls += more ? 1 : 0;
+        }
+    }
+    RecordProperty("calls", calls);
+    EXPECT_GE(calls, 30) << "the library is not asked";
+}
+
+INSTANTIATE_TEST_SUITE_P(Programs, Faults,
+                         testing::Values(Written{"game", {SAVE_ONCE, "@"}, "saves/spiel.xtc", true},
+                                         Written{"digits", {DIGITS, "500", "@/pi.txt"}, "pi.txt"},
+                                         Written{"notes", {NOTES, SONG, "@/lied.mid"}, "lied.mid"},
+                                         Written{"story", {STORY, "build", ROOM, "--into", "@"}, "rooms/Klein.lsd"}),
+                         [](const auto& program) { return program.param.name; });
+
+}  // namespace
+}  // namespace zentrox::test
