@@ -12,7 +12,7 @@ struct Field {
     test::FakeFonts fonts;
     Surface surface{fonts, {641, 449}};
     Pongbild view;
-    test::Table table{view};
+    test::Table table{&view};
 
     static Pongbilder pictures() {
         const auto plain = [](int w, int h) { return Bitmap({w, h}, white); };
@@ -23,7 +23,7 @@ struct Field {
                 .Image8 = plain(300, 50),
                 .Image9 = plain(300, 50)};
     }
-    Field() : view(surface, pictures()) {}
+    Field() : view(surface, pictures()) { table.start(); }
 };
 
 // Both paddles move, the ball has its trail and meets a wall, and a hit sprays its sparks.
@@ -32,16 +32,22 @@ void fullTick(benchmark::State& state) {
     f.table.serve();
     f.table.held = {key::up};
     for (int i = 0; i < 8; ++i) f.table.tick();
-    Pongstand full = f.table.s();
+    Pongspiel full = f.table.s();
     full.ballX = 200;
     full.ballY = -2;
     full.ballDX = -5;
+    Pongspiel hit = full;
+    hit.ballX = 597;
+    hit.ballY = hit.spielerY;
+    hit.ballDX = 5;
     for (auto _ : state) {
-        f.view.treffer(Seite::rechts, full);
-        for (int i = 0; i < 20; ++i) {
-            f.table.game.stellen(full);
-            f.table.game.Timer1_Timer();
+        f.table.game = hit;
+        f.table.play();
+        for (int i = 1; i < 20; ++i) {
+            f.table.game = full;
+            f.table.play();
         }
+        f.table.heard.clear();
     }
     state.SetItemsProcessed(20 * state.iterations());
 }
@@ -49,18 +55,19 @@ BENCHMARK(fullTick);
 
 void drop(benchmark::State& state) {
     Field f;
-    const Pongstand serving = f.table.s();
+    const Pongspiel serving = f.table.s();
     for (auto _ : state) {
-        f.table.game.stellen(serving);
-        f.table.game.Timer6_Timer();
+        f.table.game = serving;
+        f.table.drop();
     }
 }
 BENCHMARK(drop);
 
 void endPicture(benchmark::State& state) {
     Field f;
-    f.view.schrittBeginnt();
-    for (auto _ : state) f.table.game.Timer5_Timer();
+    f.table.serve();
+    f.table.play();
+    for (auto _ : state) f.view.Endbild(Seite::rechts);
 }
 BENCHMARK(endPicture);
 
@@ -76,7 +83,7 @@ void thousandMatches(benchmark::State& state) {
                 player.hold(table);
                 table.tick();
             }
-            won += table.won ? 1 : 0;
+            won += table.s().gesiegt ? 1 : 0;
         }
         state.counters["ticks"] = static_cast<double>(ticks);
         state.counters["won"] = won;

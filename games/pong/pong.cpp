@@ -1,7 +1,7 @@
 #include "games/pong/pong.h"
 
+#include "games/base/geladen.h"
 #include "games/pong/pongfenster.h"
-#include "platform/values/error.h"
 
 namespace zentrox {
 
@@ -9,6 +9,10 @@ namespace {
 
 constexpr Size fensterfläche{640, 480};
 constexpr Milliseconds soSchnellEsGeht = 1;
+
+void zeigePunkte(Field& feld, std::int32_t punkte) {
+    if (const Text text = " " + std::to_string(punkte); feld.text() != text) feld.setText(text);
+}
 
 }  // namespace
 
@@ -24,13 +28,18 @@ Pong::Pong(Platform& platform, Zustand& zustand, Medien& medien, Pongbilder bild
       Label2(&root(), {384, 456, 41, 17}),
       Text2(&root(), {432, 456, 41, 19}),
       bild_(Picture1, std::move(bilder)),
-      spiel_(bild_, *this),
-      Timer1(platform.queue, soSchnellEsGeht, false, [this] { tut(&Pongspiel::Timer1_Timer); }),
-      Timer2(platform.queue, soSchnellEsGeht, false, [this] { tut(&Pongspiel::Timer2_Timer); }),
-      Timer3(platform.queue, punkteDauer, false, [this] { tut(&Pongspiel::Timer3_Timer); }),
-      Timer4(platform.queue, soSchnellEsGeht, false, [this] { tut(&Pongspiel::Timer4_Timer); }),
-      Timer5(platform.queue, soSchnellEsGeht, false, [this] { tut(&Pongspiel::Timer5_Timer); }),
-      Timer6(platform.queue, soSchnellEsGeht, false, [this] { tut(&Pongspiel::Timer6_Timer); }) {
+      Timer1(platform.queue, soSchnellEsGeht, false,
+             [this] {
+                 tun([this](const Tasten& tasten) { return spiel_.Timer1_Timer(tasten); }, &Pongbild::Timer1_Timer);
+             }),
+      Timer2(platform.queue, soSchnellEsGeht, false,
+             [this] { tun([this](const Tasten&) { return spiel_.Timer2_Timer(); }, &Pongbild::Timer2_Timer); }),
+      Timer3(platform.queue, punkteDauer, false,
+             [this] { tun([this](const Tasten&) { return spiel_.Timer3_Timer(); }, &Pongbild::Timer3_Timer); }),
+      Timer4(platform.queue, soSchnellEsGeht, false, [this] { bild_.Endbild(Seite::links); }),
+      Timer5(platform.queue, soSchnellEsGeht, false, [this] { bild_.Endbild(Seite::rechts); }),
+      Timer6(platform.queue, soSchnellEsGeht, false,
+             [this] { tun([this](const Tasten&) { return spiel_.Timer6_Timer(); }, &Pongbild::Timer6_Timer); }) {
     // The names need a little more room than a narrow label has.
     for (Label* const label : {&Label1, &Label2}) label->setAutoSize(true);
     Label1.setText("Kessa");
@@ -38,45 +47,51 @@ Pong::Pong(Platform& platform, Zustand& zustand, Medien& medien, Pongbilder bild
     // Keys belong to the paddle: space must not start a new match, nor a P change the score.
     for (PushButton* const button : {&Command1, &Command2}) button->setTakesFocus(false);
     for (Field* const field : {&Text1, &Text2}) field->setReadOnly(true);
-    Command1.onClick = [this] { tut(&Pongspiel::neuess); };
+    Command1.onClick = [this] { neuess(); };
     Command2.onClick = [] { Queue::endProgram(); };
-    tut(&Pongspiel::neuess);
+    neuess();
 }
 
-void Pong::tut(void (Pongspiel::*was)()) {
-    (spiel_.*was)();
-    const Takte& takte = spiel_.stand().takte;
+Tasten Pong::CheckKeys() {
+    Tasten tasten = platform().backend.keys();
+    tasten_.Ergänzen(tasten);
+    return tasten;
+}
+
+void Pong::neuess() {
+    spiel_.neuess();
+    bild_.NeuesFeld(spiel_);
+    melden();
+}
+
+template <class Tick>
+void Pong::tun(Tick tick, void (Pongbild::*zeigen)(const Pongzug&)) {
+    const Pongspiel vorher = spiel_;
+    // Looked at in each phase, so that a tap of an earlier one is forgotten when play begins.
+    const Pongtick t = tick(CheckKeys());
+    (bild_.*zeigen)({vorher, t, spiel_});
+    for (const TextView klang : t.Klänge) medien_.SpieleWav(z_.PfadGames + Text(klang));
+    melden();
+}
+
+void Pong::melden() {
+    const Takte& takte = spiel_.takte;
     Timer1.setEnabled(takte.Timer1);
     Timer2.setEnabled(takte.Timer2);
     Timer3.setEnabled(takte.Timer3);
     Timer4.setEnabled(takte.Timer4);
     Timer5.setEnabled(takte.Timer5);
     Timer6.setEnabled(takte.Timer6);
-}
-
-void Pong::Klang(TextView datei) {
-    medien_.SpieleWav(z_.PfadGames + Text(datei));
-}
-
-void Pong::Titel(TextView text) {
-    if (text != title()) setTitle(text);
-}
-
-void Pong::Punkte(Seite seite, std::int32_t punkte) {
-    (seite == Seite::links ? Text1 : Text2).setText(" " + std::to_string(punkte));
+    if (title() != spiel_.titel) setTitle(spiel_.titel);
+    zeigePunkte(Text1, spiel_.punkteGegner);
+    zeigePunkte(Text2, spiel_.punkteSpieler);
+    if (spiel_.gesiegt) z_.Übergabe = true;
 }
 
 void PongZeigen(Platform& platform, Zustand& zustand, Medien& medien) {
-    std::optional<Pongbilder> bilder;
-    try {
-        bilder = PongbilderLaden(platform.files, zustand.PfadGames);
-    } catch (const DataError& fehler) {
-        showMessageBox(platform, {"Pong", fehler.message(), MessageBox::Icon::critical});
-        zustand.Übergabe = false;
-        return;
-    }
-    Pong(platform, zustand, medien, std::move(*bilder)).showModal();
-    if (!std::holds_alternative<bool>(zustand.Übergabe)) zustand.Übergabe = false;
+    auto bilder = Geladen(platform, "PONG", [&] { return PongbilderLaden(platform.files, zustand.PfadGames); });
+    if (bilder) Pong(platform, zustand, medien, std::move(*bilder)).showModal();
+    if (!bilder || !std::holds_alternative<bool>(zustand.Übergabe)) zustand.Übergabe = false;
 }
 
 }  // namespace zentrox

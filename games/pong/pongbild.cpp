@@ -87,9 +87,9 @@ void Pongbild::malen(const Bitmap& bild, double x, double y, Op op) {
     Picture1.copy(bild, bild.bounds(), gerundet(x, y), op);
 }
 
-// --- the field
+// --- the ticks
 
-void Pongbild::neuesFeld(const Pongstand& s) {
+void Pongbild::NeuesFeld(const Pongspiel& s) {
     Picture1.font.points = schriftNormal;
     Picture1.setBack(black);
     Picture1.clear();
@@ -99,37 +99,88 @@ void Pongbild::neuesFeld(const Pongstand& s) {
     schlagWeg = 0;
     schlagLaeuft = false;
     const float zeit2 = schlagZeit2;
-    treffer(Seite::links, s);
+    treffer(Seite::links, s.ballY);
     schlagZeit2 = zeit2;
     spurY = {s.ballY, s.ballY, s.ballY};
-    malen(bilder_.Image4, ruheGegner, s.gegnerY - halbeHöhe);
-    malen(bilder_.Image5, ruheSpieler, s.spielerY - halbeHöhe);
+    beideRuhen(s);
 }
 
-void Pongbild::feldLeeren() {
-    schwarz(0, 0, 640, 450);
+void Pongbild::Timer1_Timer(const Pongzug& zug) {
+    if (zug.tick.Flug) start(zug);
+    for (const auto& y : {zug.tick.Hoch, zug.tick.Runter})
+        if (y) spielerSetzen(*y);
+    spielerMalen(zug.jetzt.spielerY);
+    if (zug.jetzt.spielEnde) schwarz(0, 0, 640, 450);
 }
 
-void Pongbild::schrittBeginnt() {
+void Pongbild::start(const Pongzug& zug) {
+    const auto& [vorher, tick, jetzt] = zug;
     if (endZeit > 0) schwarz(feldBreite / 2 - 203, 212, feldBreite / 2 + 203, 278);
     endZeit = endzeitAnfang;
+    if (tick.Punkt) punkteZeigen(jetzt);
+    if (tick.Treffer) {
+        ballWeg({vorher.ballX, vorher.ballY});
+        treffer(*tick.Treffer, vorher.ballY);
+    }
+    schlag(tick.Flug->DX > 0 ? Seite::links : Seite::rechts, vorher);
+    bewegung(zug);
+}
+
+void Pongbild::bewegung(const Pongzug& zug) {
+    const auto& [vorher, tick, jetzt] = zug;
+    const Ballflug& flug = *tick.Flug;
+    ballLöschen(flug.von);
+    MoveBigPartikel1();
+    if (jetzt.takte.Timer3) punkteDrucken(jetzt);
+    if (!(schlagZeit >= 10 && schlagZeit <= 20)) spurLöschen();
+    spurBewegen(flug, jetzt.tempoBonus);
+    if (flug.Wand) spurY.fill(*flug.Wand);
+    ballMalen(flug.nach);
+    if (flug.GegnerSieht) {
+        schwarz(14, vorher.gegnerY - 58, 30, vorher.gegnerY + 58);
+        gegnerMalen(jetzt.gegnerY);
+    }
+    if (tick.Aufschlag) aufschlag(zug, flug.nach);
+    if (!schlagLaeuft) gegnerMalen(jetzt.gegnerY);
+}
+
+void Pongbild::Timer2_Timer(const Pongzug& zug) {
+    bewegung(zug);
+    beideRuhen(zug.jetzt);
+}
+
+void Pongbild::Timer3_Timer(const Pongzug& zug) {
+    if (zug.tick.Aufschlag) aufschlag(zug, {zug.vorher.ballX, zug.vorher.ballY});
+    punkteWeg();
+}
+
+void Pongbild::Timer6_Timer(const Pongzug& zug) {
+    const auto& [vorher, tick, jetzt] = zug;
+    schwarz(14, vorher.gegnerY - 53, 30, vorher.gegnerY + 53);
+    schwarz(607, vorher.spielerY - 53, 623, vorher.spielerY + 53);
+    fallLöschen(vorher.fallY, vorher.ballX);
+    beideRuhen(jetzt);
+    spielerYAlt = jetzt.spielerY;
+    constexpr std::array<std::size_t, 4> bild{0, 0, 1, 2};  // the older, the paler
+    for (std::size_t i = bild.size(); i-- > 0;) malen(bilder_.Image1[bild[i]], jetzt.ballX, tick.Fall[i]);
+    if (tick.FallEndet) fallLöschen(tick.Fall, jetzt.ballX);
 }
 
 // --- a hit
 
-void Pongbild::treffer(Seite seite, const Pongstand& s) {
+void Pongbild::treffer(Seite seite, float ballY) {
     if (schlagLaeuft) funkenLöschen();
     schlagLaeuft = true;
     funkenRichtung = seite == Seite::rechts ? richtungRechts : -richtungRechts;
     funkenX = seite == Seite::rechts ? 602.0F : 28.0F;
-    funkenY = {s.ballY, s.ballY, s.ballY};
+    funkenY.fill(ballY);
     funkenBreite = funkenHoehe = funkenSeite;
     schlagZeit = 0;
     if (seite == Seite::rechts) schlagZeit2 = 0;
 }
 
 // The paddle on the side from which the ball flies punches forward and draws back slowly.
-void Pongbild::schlag(Seite seite, const Pongstand& s) {
+void Pongbild::schlag(Seite seite, const Pongspiel& s) {
     if (!schlagLaeuft) return;
     schlagAus(seite, s);
     schlagWeg += schlagZeit < schlagVor ? 2.0F : -0.5F;
@@ -139,7 +190,7 @@ void Pongbild::schlag(Seite seite, const Pongstand& s) {
     if (schlagZeit == schlagEnde) schlagEndet(s);
 }
 
-void Pongbild::schlagAus(Seite seite, const Pongstand& s) {
+void Pongbild::schlagAus(Seite seite, const Pongspiel& s) {
     spielerX = ruheSpieler;
     if (seite == Seite::links) {
         schlägerLöschen(gegnerX, s.gegnerY);
@@ -148,7 +199,7 @@ void Pongbild::schlagAus(Seite seite, const Pongstand& s) {
     } else {
         schwarz(spielerX - 33, s.spielerY - 203, spielerX + 43, s.spielerY + 203);
         spielerX = ruheSpieler - schlagWeg;
-        spielerNachher(s);
+        spielerMalen(s.spielerY);
     }
 }
 
@@ -176,7 +227,7 @@ void Pongbild::funkenMalen(Seite seite) {
     for (const float y : funkenY) Picture1.stretch(bild, bild.bounds(), {gerundet(funkenX, y), größe});
 }
 
-void Pongbild::schlagEndet(const Pongstand& s) {
+void Pongbild::schlagEndet(const Pongspiel& s) {
     // A paddle that was hit while it still punched is further out than the boxes below reach.
     schlägerLöschen(gegnerX, s.gegnerY);
     spielerX = ruheSpieler;
@@ -191,72 +242,59 @@ void Pongbild::schlagEndet(const Pongstand& s) {
 
 // --- the ball
 
-void Pongbild::ballLöschen(double x, double y) {
-    schwarz(x - saum, y - saum, x + ballSeite + saum, y + ballSeite + saum);
+void Pongbild::ballLöschen(Ballort ort) {
+    schwarz(ort.X - saum, ort.Y - saum, ort.X + ballSeite + saum, ort.Y + ballSeite + saum);
 }
 
 void Pongbild::spurLöschen() {
-    for (std::size_t i = 0; i < spurX.size(); ++i) ballLöschen(spurX[i], spurY[i]);
+    for (std::size_t i = 0; i < spurX.size(); ++i) ballLöschen({spurX[i], spurY[i]});
 }
 
-void Pongbild::ballVorher(const Pongstand& s) {
-    ballLöschen(s.ballX, s.ballY);
-    MoveBigPartikel1();
-    if (s.takte.Timer3) punkteDrucken(s);
-    if (!(schlagZeit >= 10 && schlagZeit <= 20)) spurLöschen();
-    spurBewegen(s);
+void Pongbild::ballWeg(Ballort ort) {
+    ballLöschen(ort);
+    spurLöschen();
 }
 
-void Pongbild::spurBewegen(const Pongstand& s) {
-    const double k = double{s.ballDX} * (s.tempoBonus + 5) / 48;
+void Pongbild::spurBewegen(const Ballflug& flug, std::int32_t tempoBonus) {
+    const double k = double{flug.DX} * (tempoBonus + 5) / 48;
     const auto folge = [](double vorn, double hinten) { return einfach(vorn + 0.5 * (vorn - hinten)); };
-    spurY = {folge(s.ballY, spurY[0]), folge(spurY[0], spurY[1]), folge(spurY[1], spurY[2])};
-    spurX = {einfach(s.ballX + k), einfach(spurX[0] + k), einfach(spurX[1] + k)};
+    spurY = {folge(flug.von.Y, spurY[0]), folge(spurY[0], spurY[1]), folge(spurY[1], spurY[2])};
+    spurX = {einfach(flug.von.X + k), einfach(spurX[0] + k), einfach(spurX[1] + k)};
 }
 
-void Pongbild::ballNachher(const Pongstand& s) {
-    malen(bilder_.Image1[0], s.ballX, s.ballY, Op::bitOr);
+void Pongbild::ballMalen(Ballort ort) {
+    malen(bilder_.Image1[0], ort.X, ort.Y, Op::bitOr);
     if (schlagZeit <= spurAb) return;
     for (std::size_t i = spurX.size(); i-- > 0;) malen(bilder_.Image1[i + 1], spurX[i], spurY[i], Op::bitOr);
 }
 
-void Pongbild::ballWeg(const Pongstand& s) {
-    ballLöschen(s.ballX, s.ballY);
-    spurLöschen();
-}
-
-void Pongbild::aufschlagVon(Seite seite, const Pongstand& s) {
-    spurX = {s.ballX, s.ballX, s.ballX};
-    spurY = {s.ballY, s.ballY, s.ballY};
-    treffer(seite, s);
+// The ball leaves `ort` and comes up at a paddle's line.
+void Pongbild::aufschlag(const Pongzug& zug, Ballort ort) {
+    ballWeg(ort);
+    spurX.fill(zug.jetzt.ballX);
+    spurY.fill(zug.jetzt.ballY);
+    treffer(*zug.tick.Aufschlag, zug.jetzt.ballY);
     schlagZeit2 = 0;
 }
 
 // --- the paddles
 
-void Pongbild::gegnerVorher(const Pongstand& s) {
-    schwarz(14, s.gegnerY - 58, 30, s.gegnerY + 58);
+void Pongbild::gegnerMalen(float y) {
+    malen(bilder_.Image4, ruheGegner, y - halbeHöhe);
 }
 
-void Pongbild::gegnerNachher(const Pongstand& s) {
-    malen(bilder_.Image4, ruheGegner, s.gegnerY - halbeHöhe);
+void Pongbild::spielerMalen(float y) {
+    malen(bilder_.Image5, spielerX, y - halbeHöhe);
+    spielerYAlt = y;
 }
 
-void Pongbild::gegnerRuht(const Pongstand& s) {
-    if (!schlagLaeuft) gegnerNachher(s);
-}
-
-void Pongbild::spielerVorher(const Pongstand& /*s*/) {
+void Pongbild::spielerSetzen(float y) {
     schlägerLöschen(spielerX, spielerYAlt);
+    spielerMalen(y);
 }
 
-void Pongbild::spielerNachher(const Pongstand& s) {
-    malen(bilder_.Image5, spielerX, s.spielerY - halbeHöhe);
-    spielerYAlt = s.spielerY;
-}
-
-void Pongbild::beideRuhen(const Pongstand& s) {
-    malen(bilder_.Image4, ruheGegner, s.gegnerY - halbeHöhe);
+void Pongbild::beideRuhen(const Pongspiel& s) {
+    gegnerMalen(s.gegnerY);
     malen(bilder_.Image5, ruheSpieler, s.spielerY - halbeHöhe);
 }
 
@@ -268,7 +306,7 @@ void Pongbild::MoveBigPartikel1() {
     Picture1.currentY = Runden(feldHoehe / 2 - 2 * schrift);
 }
 
-void Pongbild::punkteZeigen(const Pongstand& s) {
+void Pongbild::punkteZeigen(const Pongspiel& s) {
     const int vorsprung = s.punkteGegner - s.punkteSpieler;
     for (const Punktestil& stil : punktestile) {
         if (stil.vorsprung != vorsprung) continue;
@@ -279,7 +317,7 @@ void Pongbild::punkteZeigen(const Pongstand& s) {
     punkteDrucken(s);
 }
 
-void Pongbild::punkteDrucken(const Pongstand& s) {
+void Pongbild::punkteDrucken(const Pongspiel& s) {
     Picture1.print(" " + std::to_string(s.punkteGegner) + " : " + std::to_string(s.punkteSpieler));
 }
 
@@ -289,32 +327,13 @@ void Pongbild::punkteWeg() {
     schwarz(at.x - 3, at.y - 3, at.x + 153, at.y + 53);
 }
 
-// --- the drop
-
-void Pongbild::fallLöschen(const Pongstand& s) {
-    for (const float y : s.fallY) schwarz(s.ballX, y, s.ballX + ballSeite, y + ballSeite);
-}
-
-void Pongbild::fallVorher(const Pongstand& s) {
-    schwarz(14, s.gegnerY - 53, 30, s.gegnerY + 53);
-    schwarz(607, s.spielerY - 53, 623, s.spielerY + 53);
-    fallLöschen(s);
-}
-
-void Pongbild::fallNachher(const Pongstand& s) {
-    beideRuhen(s);
-    spielerYAlt = s.spielerY;
-    constexpr std::array<std::size_t, 4> bild{0, 0, 1, 2};  // the older, the paler
-    for (std::size_t i = bild.size(); i-- > 0;) malen(bilder_.Image1[bild[i]], s.ballX, s.fallY[i]);
-}
-
-void Pongbild::fallEndet(const Pongstand& s) {
-    fallLöschen(s);
+void Pongbild::fallLöschen(const std::array<float, 4>& höhen, float x) {
+    for (const float y : höhen) schwarz(x, y, x + ballSeite, y + ballSeite);
 }
 
 // --- the end: the picture turns about its upright axis and wanders over the field
 
-void Pongbild::endbild(Seite sieger) {
+void Pongbild::Endbild(Seite sieger) {
     endbildLöschen(endMitte(endZeit));
     endZeit += endSchritt;
     endBreite = einfach(endWeite * std::sin(double{endZeit}));

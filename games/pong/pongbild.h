@@ -2,7 +2,6 @@
 // punch of a paddle with its sparks, the trail of the ball, the score and the picture at the end decide nothing.
 #pragma once
 
-#include "engine/state/zustand.h"
 #include "games/pong/pongspiel.h"
 #include "platform/machine/files.h"
 #include "platform/window/surface.h"
@@ -21,48 +20,55 @@ struct Pongbilder {
 // Reads them from a directory. Throws `DataError` that names the file that can't be read.
 Pongbilder PongbilderLaden(const Files& files, TextView pfad);
 
-class Pongbild : public Pongansicht {
+// From one state of a match to the next, and what happened between them.
+struct Pongzug {
+    const Pongspiel& vorher;
+    const Pongtick& tick;
+    const Pongspiel& jetzt;
+};
+
+class Pongbild {
 public:
     // The surface must outlive it.
     Pongbild(Surface& picture1, Pongbilder bilder);
 
-    void neuesFeld(const Pongstand& s) override;
-    void feldLeeren() override;
-    void schrittBeginnt() override;
-    void treffer(Seite seite, const Pongstand& s) override;
-    void schlag(Seite seite, const Pongstand& s) override;
-    void ballVorher(const Pongstand& s) override;
-    void spurAnWand(float y) override { spurY = {y, y, y}; }
-    void ballNachher(const Pongstand& s) override;
-    void ballWeg(const Pongstand& s) override;
-    void aufschlagVon(Seite seite, const Pongstand& s) override;
-    void gegnerVorher(const Pongstand& s) override;
-    void gegnerNachher(const Pongstand& s) override;
-    void gegnerRuht(const Pongstand& s) override;
-    void spielerVorher(const Pongstand& s) override;
-    void spielerNachher(const Pongstand& s) override;
-    void beideRuhen(const Pongstand& s) override;
-    void punkteZeigen(const Pongstand& s) override;
-    void punkteWeg() override;
-    void fallVorher(const Pongstand& s) override;
-    void fallNachher(const Pongstand& s) override;
-    void fallEndet(const Pongstand& s) override;
-    void endbild(Seite sieger) override;
+    // A black field with both paddles; all effects start anew.
+    void NeuesFeld(const Pongspiel& s);
+    // A tick of the timer of that number.
+    void Timer1_Timer(const Pongzug& zug);
+    void Timer2_Timer(const Pongzug& zug);
+    void Timer3_Timer(const Pongzug& zug);
+    void Timer6_Timer(const Pongzug& zug);
+    // One step of the picture at the end of a match; `sieger` has won.
+    void Endbild(Seite sieger);
 
 private:
+    void start(const Pongzug& zug);
+    void bewegung(const Pongzug& zug);
+    void schlag(Seite seite, const Pongspiel& s);
+    void treffer(Seite seite, float ballY);
     void schwarz(double x1, double y1, double x2, double y2);
     void schlägerLöschen(double x, double y);
     void malen(const Bitmap& bild, double x, double y, Op op = Op::plain);
-    void schlagAus(Seite seite, const Pongstand& s);
-    void schlagEndet(const Pongstand& s);
+    void schlagAus(Seite seite, const Pongspiel& s);
+    void schlagEndet(const Pongspiel& s);
     void funkenBewegen();
     void funkenLöschen();
     void funkenMalen(Seite seite);
-    void ballLöschen(double x, double y);
+    void ballLöschen(Ballort ort);
+    void ballWeg(Ballort ort);
+    void ballMalen(Ballort ort);
     void spurLöschen();
-    void spurBewegen(const Pongstand& s);
-    void fallLöschen(const Pongstand& s);
-    void punkteDrucken(const Pongstand& s);
+    void spurBewegen(const Ballflug& flug, std::int32_t tempoBonus);
+    void aufschlag(const Pongzug& zug, Ballort ort);
+    void gegnerMalen(float y);
+    void spielerMalen(float y);
+    void spielerSetzen(float y);
+    void beideRuhen(const Pongspiel& s);
+    void fallLöschen(const std::array<float, 4>& höhen, float x);
+    void punkteZeigen(const Pongspiel& s);
+    void punkteDrucken(const Pongspiel& s);
+    void punkteWeg();
     void MoveBigPartikel1();
     void endbildLöschen(double x0);
 

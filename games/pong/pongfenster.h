@@ -1,6 +1,7 @@
-// The window of Pong: it hands ticks, keys and buttons to the rules.
+// The window of Pong: it hands ticks, keys and buttons to the rules, and what comes of them to the picture.
 #pragma once
 
+#include "engine/state/zustand.h"
 #include "games/pong/pongbild.h"
 #include "media/medien.h"
 #include "platform/platform.h"
@@ -11,21 +12,21 @@
 
 namespace zentrox {
 
-class Pong : public Window, private Pongumgebung {
+class Pong : public Window {
 public:
     Pong(Platform& platform, Zustand& zustand, Medien& medien, Pongbilder bilder);
 
-    const Pongstand& stand() const { return spiel_.stand(); }
+    const Pongspiel& spiel() const { return spiel_; }
 
 private:
-    std::array<std::uint8_t, 256> Tastenstand() override { return platform().backend.keys(); }
-    void Klang(TextView datei) override;
-    void Titel(TextView text) override;
-    void Punkte(Seite seite, std::int32_t punkte) override;
-    void SpielerHatGewonnen() override { z_.Übergabe = true; }
-
-    // Runs a part of the rules and then sets the timers as they want them.
-    void tut(void (Pongspiel::*was)());
+    void onKeyDown(int code) override { tasten_.Nieder(code); }
+    Tasten CheckKeys();
+    void neuess();
+    // A tick of the rules, and what the picture makes of it.
+    template <class Tick>
+    void tun(Tick tick, void (Pongbild::*zeigen)(const Pongzug&));
+    // Shows and hands over what a tick has left in the rules.
+    void melden();
 
     Zustand& z_;
     Medien& medien_;
@@ -36,8 +37,9 @@ private:
     Field Text1;
     Label Label2;
     Field Text2;
-    Pongbild bild_;
+    Tastenwacht tasten_;
     Pongspiel spiel_;
+    Pongbild bild_;
     Timer Timer1;
     Timer Timer2;
     Timer Timer3;

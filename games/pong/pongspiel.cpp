@@ -26,7 +26,6 @@ constexpr float kleinsterSprung = 0.1F;
 constexpr double verlust = 10;
 constexpr double gewinn = 9;
 
-constexpr int gehalten = 126;
 constexpr int tasteO = 'O';
 constexpr int tasteP = 'P';
 constexpr double schlägerTempo = 2.5;
@@ -71,297 +70,279 @@ double krümmung(float ballX) {
 // --- the match
 
 void Pongspiel::neuess() {
-    umgebung_.Titel(titelAnfang);
-    s.spielEnde = false;
-    s.tempoBonus = 1;
-    s.tempoGrenze = Runden(100 - 5.0 * s.ballDX);
-    s.ballDX = grundTempo;
-    s.ballDY = 0;
-    s.ballX = startLinks;
-    s.ballY = anstoßHöhe;
-    s.tastenDauer = 0;
-    s.drall = aufschlagDrall;
-    s.spielerY = s.gegnerY = anstoßHöhe;
-    s.takte = {.Timer6 = true};
-    s.pause = false;
-    s.punkteGegner = s.punkteSpieler = 0;
-    umgebung_.Punkte(Seite::links, 0);
-    umgebung_.Punkte(Seite::rechts, 0);
-    bild_.neuesFeld(s);
+    titel = titelAnfang;
+    spielEnde = false;
+    tempoBonus = 1;
+    tempoGrenze = Runden(100 - 5.0 * ballDX);
+    ballDX = grundTempo;
+    ballDY = 0;
+    ballX = startLinks;
+    ballY = anstoßHöhe;
+    tastenDauer = 0;
+    drall = aufschlagDrall;
+    spielerY = gegnerY = anstoßHöhe;
+    takte = {.Timer6 = true};
+    pause = false;
+    punkteGegner = punkteSpieler = 0;
 }
 
-void Pongspiel::punkt() {
-    if (2 * s.punkteSpieler < s.tempoGrenze) s.tempoBonus = 2 * s.punkteSpieler;
-    s.tastenDauer = 0;
-    bild_.punkteZeigen(s);
-    s.takte.Timer3 = true;
+void Pongspiel::punkt(Pongtick& tick) {
+    if (2 * punkteSpieler < tempoGrenze) tempoBonus = 2 * punkteSpieler;
+    tastenDauer = 0;
+    tick.Punkt = true;
+    takte.Timer3 = true;
 }
 
 void Pongspiel::gewonnen(std::int16_t Ergebnis) {
     const bool spieler = Ergebnis == 1;
-    s.takte.Timer1 = s.takte.Timer2 = s.takte.Timer3 = false;
-    s.spielEnde = true;
-    if (spieler) umgebung_.SpielerHatGewonnen();
-    (spieler ? s.takte.Timer5 : s.takte.Timer4) = true;
-    umgebung_.Titel(spieler ? titelSieg : titelNiederlage);
+    takte = {.Timer4 = !spieler, .Timer5 = spieler};
+    spielEnde = true;
+    if (spieler) gesiegt = true;
+    titel = spieler ? titelSieg : titelNiederlage;
 }
 
 // --- play
 
-void Pongspiel::Timer1_Timer() {
-    CheckKeys();
-    if (s.pause) pausiert();
-    if (!s.pause) {
-        start();
-        hoch();
-        runter();
+Pongtick Pongspiel::Timer1_Timer(const Tasten& tasten) {
+    Pongtick tick;
+    if (pause) pausiert(tasten);
+    if (!pause) {
+        start(tick);
+        hoch(tasten, tick);
+        runter(tasten, tick);
     }
-    bild_.spielerNachher(s);
-    if (gedrückt(tasteP)) s.pause = true;
-    if (s.spielEnde) bild_.feldLeeren();
+    if (Gedrückt(tasten, tasteP)) pause = true;
+    return tick;
 }
 
-bool Pongspiel::gedrückt(int code) const {
-    return Tasten[static_cast<std::size_t>(code)] > gehalten;
+void Pongspiel::pausiert(const Tasten& tasten) {
+    titel = titelPause;
+    if (!Gedrückt(tasten, tasteO)) return;
+    pause = false;
+    titel = titelWeiter;
 }
 
-void Pongspiel::pausiert() {
-    umgebung_.Titel(titelPause);
-    if (!gedrückt(tasteO)) return;
-    s.pause = false;
-    umgebung_.Titel(titelWeiter);
-}
-
-void Pongspiel::hoch() {
-    if (!gedrückt(key::up)) {
-        if (s.tasteHoch) s.tastenDauer = 0;
-        s.tasteHoch = false;
+void Pongspiel::hoch(const Tasten& tasten, Pongtick& tick) {
+    if (!Gedrückt(tasten, key::up)) {
+        if (tasteHoch) tastenDauer = 0;
+        tasteHoch = false;
         return;
     }
-    bild_.spielerVorher(s);
-    if (s.tastenDauer > 0) s.tastenDauer = 0;
-    if (s.spielerY > 0) {
-        const double weg = schlägerTempo + schlägerZuwachs * std::sin(-s.tastenDauer / schlägerAnlauf);
-        s.spielerY = einfach(s.spielerY - weg);
-        s.tastenDauer -= 1;
+    if (tastenDauer > 0) tastenDauer = 0;
+    if (spielerY > 0) {
+        const double weg = schlägerTempo + schlägerZuwachs * std::sin(-tastenDauer / schlägerAnlauf);
+        spielerY = einfach(spielerY - weg);
+        tastenDauer -= 1;
     }
-    if (s.spielerY <= 0) s.tastenDauer = 0;
-    bild_.spielerNachher(s);
-    s.tasteHoch = true;
+    if (spielerY <= 0) tastenDauer = 0;
+    tick.Hoch = spielerY;
+    tasteHoch = true;
 }
 
-void Pongspiel::runter() {
-    if (!gedrückt(key::down)) {
-        if (s.tasteRunter) s.tastenDauer = 0;
-        s.tasteRunter = false;
+void Pongspiel::runter(const Tasten& tasten, Pongtick& tick) {
+    if (!Gedrückt(tasten, key::down)) {
+        if (tasteRunter) tastenDauer = 0;
+        tasteRunter = false;
         return;
     }
-    bild_.spielerVorher(s);
-    if (s.tastenDauer < 0) s.tastenDauer = 0;
-    if (s.spielerY < feldHoehe) {
-        const double weg = schlägerTempo + schlägerZuwachs * std::sin(s.tastenDauer / schlägerAnlauf);
-        s.spielerY = einfach(s.spielerY + weg);
-        s.tastenDauer += 1;
+    if (tastenDauer < 0) tastenDauer = 0;
+    if (spielerY < feldHoehe) {
+        const double weg = schlägerTempo + schlägerZuwachs * std::sin(tastenDauer / schlägerAnlauf);
+        spielerY = einfach(spielerY + weg);
+        tastenDauer += 1;
     }
-    if (s.spielerY >= feldHoehe) s.tastenDauer = 0;
-    bild_.spielerNachher(s);
-    s.tasteRunter = true;
+    if (spielerY >= feldHoehe) tastenDauer = 0;
+    tick.Runter = spielerY;
+    tasteRunter = true;
 }
 
-void Pongspiel::start() {
-    bild_.schrittBeginnt();
-    if (s.ballX > linieRechts) rechts();
-    if (s.ballX < linieLinks) links();
-    bild_.schlag(s.ballDX > 0 ? Seite::links : Seite::rechts, s);
-    bewegung();
+void Pongspiel::start(Pongtick& tick) {
+    if (ballX > linieRechts) rechts(tick);
+    if (ballX < linieLinks) links(tick);
+    bewegung(tick);
 }
 
 // --- the ball
 
-void Pongspiel::bewegung() {
-    bild_.ballVorher(s);
-    if (s.ballY < 0 || s.ballY > feldHoehe) wand();
-    const double c = krümmung(s.ballX);
-    s.ballY = einfach(double{s.ballY} + s.ballDY - s.drall * c);
-    s.ballX = einfach(double{s.ballX} + s.ballDX + vorzeichen(s.ballDX) * s.tempoBonus / 5);
-    bild_.ballNachher(s);
-    gegnerBewegen();
-    austritt();
-    bild_.gegnerRuht(s);
+void Pongspiel::bewegung(Pongtick& tick) {
+    Ballflug& flug = tick.Flug.emplace(Ballflug{.von = {ballX, ballY}, .DX = ballDX});
+    if (ballY < 0 || ballY > feldHoehe) wand(tick);
+    const double c = krümmung(ballX);
+    ballY = einfach(double{ballY} + ballDY - drall * c);
+    ballX = einfach(double{ballX} + ballDX + vorzeichen(ballDX) * tempoBonus / 5);
+    flug.nach = {ballX, ballY};
+    flug.GegnerSieht = gegnerBewegen();
+    austritt(tick);
 }
 
 // At a wall the ball trades curve against speed.
-void Pongspiel::wand() {
-    s.ballY = s.ballY > feldHoehe ? feldHoehe : 0;
-    bild_.spurAnWand(s.ballY);
-    s.ballDY = einfach(-double{s.ballDY} + s.drall * krümmung(s.ballX));
-    if (s.ballDY == 0) s.ballDY = kleinsterSprung;
-    if (double{s.drall} / s.ballDY < 0) {
-        s.drall = einfach(-double{s.drall} * std::abs(s.ballDY) / verlust);
-        s.ballDX = einfach(s.ballDX / (std::abs(double{s.drall}) + 1));
+void Pongspiel::wand(Pongtick& tick) {
+    ballY = ballY > feldHoehe ? feldHoehe : 0;
+    tick.Flug->Wand = ballY;
+    ballDY = einfach(-double{ballDY} + drall * krümmung(ballX));
+    if (ballDY == 0) ballDY = kleinsterSprung;
+    if (double{drall} / ballDY < 0) {
+        drall = einfach(-double{drall} * std::abs(ballDY) / verlust);
+        ballDX = einfach(ballDX / (std::abs(double{drall}) + 1));
     } else {
         wandGewinn();
     }
-    if (s.ballX > linieLinks && s.ballX < feldBreite - 46) umgebung_.Klang("wand.wav");
+    if (ballX > linieLinks && ballX < feldBreite - 46) tick.Klänge.emplace_back("wand.wav");
 }
 
 void Pongspiel::wandGewinn() {
-    s.drall = einfach(double{s.drall} * std::abs(s.ballDY) / gewinn);
-    s.ballDX = einfach(s.ballDX * (std::abs(double{s.drall}) / 4 + 1));
-    const double bonus = s.tempoBonus / 5.0;
-    const double grenze = s.tempoGrenze / 5.0 + grundTempo;
-    if (std::abs(s.ballDX) + bonus <= grenze) return;
+    drall = einfach(double{drall} * std::abs(ballDY) / gewinn);
+    ballDX = einfach(ballDX * (std::abs(double{drall}) / 4 + 1));
+    const double bonus = tempoBonus / 5.0;
+    const double grenze = tempoGrenze / 5.0 + grundTempo;
+    if (std::abs(ballDX) + bonus <= grenze) return;
     // After a match that ended at a fast ball the limit may be below zero: the ball then creeps, but never stands.
-    s.ballDX = einfach(vorzeichen(s.ballDX) * std::max<double>(grenze - bonus, kleinsterSprung));
+    ballDX = einfach(vorzeichen(ballDX) * std::max<double>(grenze - bonus, kleinsterSprung));
 }
 
 // Looked at in every step: a ball fast enough to fly past a paddle's line and out of the field in one leaves
 // uncounted.
-void Pongspiel::austritt() {
-    if (s.ballX < 0) ausgang(Seite::rechts);
-    if (s.ballX > feldBreite) ausgang(Seite::links);
+void Pongspiel::austritt(Pongtick& tick) {
+    if (ballX < 0) ausgang(Seite::rechts, tick);
+    if (ballX > feldBreite) ausgang(Seite::links, tick);
 }
 
 // The side that scored serves.
-void Pongspiel::ausgang(Seite aufschlag) {
+void Pongspiel::ausgang(Seite aufschlag, Pongtick& tick) {
     const bool vonRechts = aufschlag == Seite::rechts;
-    bild_.ballWeg(s);
-    s.ballDY = 0;
-    s.ballDX = vonRechts ? -grundTempo : grundTempo;
-    s.ballX = vonRechts ? startRechts : startLinks;
-    s.ballY = anstoßHöhe;
-    if (vonRechts) s.drall = 0;
-    s.takte.Timer2 = false;
-    if (vonRechts) s.takte.Timer1 = false;
+    ballDY = 0;
+    ballDX = vonRechts ? -grundTempo : grundTempo;
+    ballX = vonRechts ? startRechts : startLinks;
+    ballY = anstoßHöhe;
+    if (vonRechts) drall = 0;
+    takte.Timer2 = false;
+    if (vonRechts) takte.Timer1 = false;
     // A fast ball can leave in the very step that ended the match.
-    s.takte.Timer3 = !s.spielEnde;
-    bild_.aufschlagVon(aufschlag, s);
+    takte.Timer3 = !spielEnde;
+    tick.Aufschlag = aufschlag;
 }
 
 // --- the paddles
 
-void Pongspiel::gegnerBewegen() {
-    if (!(s.ballDX < 0 && s.ballX < feldBreite / 2 && s.ballX > blickGrenze)) return;
-    bild_.gegnerVorher(s);
-    const double weg = 4 + s.punkteSpieler / 4.0;
-    if (s.ballY < s.gegnerY)
-        s.gegnerY = einfach(s.gegnerY - weg);
-    else if (s.ballY > s.gegnerY)
-        s.gegnerY = einfach(s.gegnerY + weg);
+bool Pongspiel::gegnerBewegen() {
+    if (!(ballDX < 0 && ballX < feldBreite / 2 && ballX > blickGrenze)) return false;
+    const double weg = 4 + punkteSpieler / 4.0;
+    if (ballY < gegnerY)
+        gegnerY = einfach(gegnerY - weg);
+    else if (ballY > gegnerY)
+        gegnerY = einfach(gegnerY + weg);
     else
-        s.gegnerY += 1;
-    bild_.gegnerNachher(s);
+        gegnerY += 1;
+    return true;
 }
 
-void Pongspiel::rechts() {
-    const float abstand = einfach(double{s.spielerY} - s.ballY - 5);
-    if (!(std::abs(abstand) < halberSchläger)) return verfehlt(Seite::links);
-    getroffen();
+void Pongspiel::rechts(Pongtick& tick) {
+    const float abstand = einfach(double{spielerY} - ballY - 5);
+    if (!(std::abs(abstand) < halberSchläger)) return verfehlt(Seite::links, tick);
+    getroffen(Seite::rechts, tick);
     abprallen(abstand, grundTempo);
-    s.ballDX = -s.ballDX;
-    const double dauer = s.tastenDauer;
-    s.drall = einfach(dauer / std::abs(dauer + 0.1) + dauer / 10);
-    bild_.ballWeg(s);
-    s.ballX = startRechts;
-    bild_.treffer(Seite::rechts, s);
-    CheckKeys();
+    ballDX = -ballDX;
+    const double dauer = tastenDauer;
+    drall = einfach(dauer / std::abs(dauer + 0.1) + dauer / 10);
+    ballX = startRechts;
 }
 
-void Pongspiel::links() {
-    const float abstand = einfach(double{s.gegnerY} - s.ballY - 5);
-    if (!(std::abs(abstand) < halberSchläger)) return verfehlt(Seite::rechts);
-    getroffen();
+void Pongspiel::links(Pongtick& tick) {
+    const float abstand = einfach(double{gegnerY} - ballY - 5);
+    if (!(std::abs(abstand) < halberSchläger)) return verfehlt(Seite::rechts, tick);
+    getroffen(Seite::links, tick);
     abprallen(abstand, grundTempo / 2);
-    s.drall = 0;
-    bild_.ballWeg(s);
-    s.ballX = startLinks;
-    bild_.treffer(Seite::links, s);
+    drall = 0;
+    ballX = startLinks;
 }
 
-void Pongspiel::getroffen() {
-    if (s.tempoBonus < s.tempoGrenze) ++s.tempoBonus;
-    umgebung_.Klang("pong.wav");
+void Pongspiel::getroffen(Seite seite, Pongtick& tick) {
+    if (tempoBonus < tempoGrenze) ++tempoBonus;
+    tick.Klänge.emplace_back("pong.wav");
+    tick.Treffer = seite;
 }
 
 // The new speed, to the right. The further from the paddle's centre, the steeper the ball, by a cubic law.
 void Pongspiel::abprallen(float abstand, float grenze) {
     const double sinus = std::sin(abstand / schlägerWölbung);
-    s.ballDY = einfach(s.ballDY - 2 * sinus * sinus * sinus);
+    ballDY = einfach(ballDY - 2 * sinus * sinus * sinus);
     // Exactly at the base speed nothing would be left for the way across, so that is too steep as well.
-    const float steil = std::abs(s.ballDY);
-    if (steil > grenze || steil == grundTempo) s.ballDY = std::copysign(grenze - 0.5F, s.ballDY);
-    s.ballDX = einfach(std::sqrt(double{grundTempo} * grundTempo - double{s.ballDY} * s.ballDY));
+    const float steil = std::abs(ballDY);
+    if (steil > grenze || steil == grundTempo) ballDY = std::copysign(grenze - 0.5F, ballDY);
+    ballDX = einfach(std::sqrt(double{grundTempo} * grundTempo - double{ballDY} * ballDY));
 }
 
-void Pongspiel::verfehlt(Seite punktFür) {
+void Pongspiel::verfehlt(Seite punktFür, Pongtick& tick) {
     const bool spieler = punktFür == Seite::rechts;
-    std::int32_t& meine = spieler ? s.punkteSpieler : s.punkteGegner;
-    const std::int32_t& andere = spieler ? s.punkteGegner : s.punkteSpieler;
+    std::int32_t& meine = spieler ? punkteSpieler : punkteGegner;
+    const std::int32_t& andere = spieler ? punkteGegner : punkteSpieler;
     ++meine;
-    umgebung_.Klang(spieler ? "sisa1.wav" : "juhu2.wav");
-    umgebung_.Punkte(punktFür, meine);
+    tick.Klänge.emplace_back(spieler ? "sisa1.wav" : "juhu2.wav");
     if (meine - andere > vorsprung && meine > siegPunkte) {
-        umgebung_.Klang(spieler ? "dumm.wav" : "juhu.wav");
+        tick.Klänge.emplace_back(spieler ? "dumm.wav" : "juhu.wav");
         return gewonnen(spieler ? 1 : 0);
     }
-    if (!spieler) s.drall = aufschlagDrall;
-    s.takte.Timer1 = false;
-    s.takte.Timer2 = true;
-    punkt();
+    if (!spieler) drall = aufschlagDrall;
+    takte.Timer1 = false;
+    takte.Timer2 = true;
+    punkt(tick);
 }
 
 // --- between the points
 
-void Pongspiel::Timer2_Timer() {
-    bewegung();
-    bild_.beideRuhen(s);
+Pongtick Pongspiel::Timer2_Timer() {
+    Pongtick tick;
+    bewegung(tick);
+    return tick;
 }
 
-void Pongspiel::Timer3_Timer() {
+Pongtick Pongspiel::Timer3_Timer() {
+    Pongtick tick;
     // A ball too slow to have left the field by now is taken off it.
-    if (s.takte.Timer2) ausgang(s.ballX < feldBreite / 2 ? Seite::rechts : Seite::links);
-    bild_.punkteWeg();
-    s.takte.Timer3 = false;
-    s.ballY = anstoßHöhe;
-    s.takte.Timer6 = true;
+    if (takte.Timer2) ausgang(ballX < feldBreite / 2 ? Seite::rechts : Seite::links, tick);
+    takte.Timer3 = false;
+    ballY = anstoßHöhe;
+    takte.Timer6 = true;
+    return tick;
 }
 
-void Pongspiel::Timer6_Timer() {
-    bild_.fallVorher(s);
-    gleiten(s.spielerY);
-    gleiten(s.gegnerY);
-    fallen();
-    bild_.fallNachher(s);
-    const auto da = [this](float y) { return std::abs(double{y} - s.ballY) < gleitEnde; };
-    if (!(s.fallY[0] > fallTiefe && s.abgeprallt && da(s.spielerY) && da(s.gegnerY))) return;
-    bild_.fallEndet(s);
-    s.takte.Timer6 = false;
-    s.takte.Timer1 = true;
-    umgebung_.Klang("pong.wav");
-    s.fallY = {};
-    s.abgeprallt = false;
-    s.fallZeit = 0;
-    s.fallBasis = 0;
-    s.fallFaktor = fallFaktorFrei;
+Pongtick Pongspiel::Timer6_Timer() {
+    Pongtick tick;
+    gleiten(spielerY);
+    gleiten(gegnerY);
+    fallen(tick);
+    const auto da = [this](float y) { return std::abs(double{y} - ballY) < gleitEnde; };
+    tick.FallEndet = fallY[0] > fallTiefe && abgeprallt && da(spielerY) && da(gegnerY);
+    if (!tick.FallEndet) return tick;
+    takte.Timer6 = false;
+    takte.Timer1 = true;
+    tick.Klänge.emplace_back("pong.wav");
+    fallY = {};
+    abgeprallt = false;
+    fallZeit = 0;
+    fallBasis = 0;
+    fallFaktor = fallFaktorFrei;
+    return tick;
 }
 
 // Slower the nearer it is.
 void Pongspiel::gleiten(float& y) const {
-    if (y > s.ballY) y = einfach(y - gleitTempo * std::sin((double{y} - s.ballY) / gleitWeite));
-    if (y < s.ballY) y = einfach(y + gleitTempo * std::sin((double{s.ballY} - y) / gleitWeite));
+    if (y > ballY) y = einfach(y - gleitTempo * std::sin((double{y} - ballY) / gleitWeite));
+    if (y < ballY) y = einfach(y + gleitTempo * std::sin((double{ballY} - y) / gleitWeite));
 }
 
-void Pongspiel::fallen() {
-    const double zeit = s.fallZeit;
-    const float neu = einfach(zeit * zeit * s.fallFaktor + s.fallBasis);
-    s.fallY = {neu, neu, s.fallY[1], s.fallY[2]};
-    s.fallZeit = einfach(zeit + fallSchritt);
-    if (!(neu > fallBoden && s.fallFaktor == fallFaktorFrei)) return;
-    s.fallZeit = fallZeitPrall;
-    umgebung_.Klang("pong.wav");
-    s.fallBasis = fallBasisPrall;
-    s.fallFaktor = fallFaktorPrall;
-    s.abgeprallt = true;
+void Pongspiel::fallen(Pongtick& tick) {
+    const double zeit = fallZeit;
+    const float neu = einfach(zeit * zeit * fallFaktor + fallBasis);
+    fallY = {neu, neu, fallY[1], fallY[2]};
+    tick.Fall = fallY;
+    fallZeit = einfach(zeit + fallSchritt);
+    if (!(neu > fallBoden && fallFaktor == fallFaktorFrei)) return;
+    fallZeit = fallZeitPrall;
+    tick.Klänge.emplace_back("pong.wav");
+    fallBasis = fallBasisPrall;
+    fallFaktor = fallFaktorPrall;
+    abgeprallt = true;
 }
 
 }  // namespace zentrox

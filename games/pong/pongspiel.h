@@ -1,11 +1,14 @@
-// The rules of Pong: a ball whose curve depends on where it is, two paddles, a match to eleven. The left paddle is
-// the computer, Kessa, the right one the player, Velmix. All lengths are pixels of the field, all speeds per tick;
-// nothing here draws, and nothing depends on the clock.
+// The rules of Pong, a plain value: a ball whose curve depends on where it is, two paddles, a match to eleven. The
+// left paddle is the computer, Kessa, the right one the player, Velmix. All lengths are pixels of the field, all
+// speeds per tick.
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
+#include "games/base/tasten.h"
 #include "platform/values/text.h"
 
 namespace zentrox {
@@ -29,8 +32,35 @@ struct Takte {
 };
 constexpr int punkteDauer = 1500;  // milliseconds
 
-// All that a match knows.
-struct Pongstand {
+// The ball's upper left corner.
+struct Ballort {
+    float X = 0;
+    float Y = 0;
+};
+
+// A step of the ball.
+struct Ballflug {
+    Ballort von;
+    float DX = 0;  // across, at its start
+    Ballort nach;
+    std::optional<float> Wand;  // it has met a wall at this height
+    bool GegnerSieht = false;   // the computer's paddle has followed it
+};
+
+// What has happened in a tick, as far as the match before and after it doesn't show it.
+struct Pongtick {
+    std::vector<TextView> Klänge;    // effects
+    std::optional<Seite> Treffer;    // this paddle has hit the ball
+    bool Punkt = false;              // somebody has scored, and the match goes on
+    std::optional<Ballflug> Flug;    // the ball has moved
+    std::optional<Seite> Aufschlag;  // it has left the field, and this side serves
+    std::optional<float> Hoch;       // where the player's paddle stood after the key for up
+    std::optional<float> Runter;     // and after the one for down
+    std::array<float, 4> Fall{};     // the heights of the drop, the newest first
+    bool FallEndet = false;
+};
+
+struct Pongspiel {
     float ballX = 35;  // of the ball's upper left corner
     float ballY = anstoßHöhe;
     float ballDX = 0;  // without the bonus
@@ -47,7 +77,9 @@ struct Pongstand {
     bool tasteRunter = false;
     bool pause = false;
     bool spielEnde = false;
+    bool gesiegt = false;  // the player has won a match; the next one takes nothing back
     Takte takte;
+    TextView titel;  // of the window
 
     // The drop of the ball before a serve.
     float fallZeit = 0;
@@ -55,103 +87,36 @@ struct Pongstand {
     float fallFaktor = 0.8F;
     std::array<float, 4> fallY{};  // heights, the newest first
     bool abgeprallt = false;
-};
 
-// What a match shows, each call at its place within a step. What is not overridden shows nothing.
-class Pongansicht {
-public:
-    virtual ~Pongansicht() = default;
-    // A black field with both paddles; all effects start anew.
-    virtual void neuesFeld(const Pongstand& /*s*/) {}
-    virtual void feldLeeren() {}
-    virtual void schrittBeginnt() {}
-    // A paddle has hit the ball, or is about to serve it.
-    virtual void treffer(Seite /*seite*/, const Pongstand& /*s*/) {}
-    // One step of the hit animation, if one runs.
-    virtual void schlag(Seite /*seite*/, const Pongstand& /*s*/) {}
-    // Before the ball moves: it goes away, the trail moves up.
-    virtual void ballVorher(const Pongstand& /*s*/) {}
-    virtual void spurAnWand(float /*y*/) {}
-    virtual void ballNachher(const Pongstand& /*s*/) {}
-    // The ball will be put elsewhere: to a paddle's line, or for the serve from a side.
-    virtual void ballWeg(const Pongstand& /*s*/) {}
-    virtual void aufschlagVon(Seite /*seite*/, const Pongstand& /*s*/) {}
-    virtual void gegnerVorher(const Pongstand& /*s*/) {}
-    virtual void gegnerNachher(const Pongstand& /*s*/) {}
-    virtual void gegnerRuht(const Pongstand& /*s*/) {}
-    virtual void spielerVorher(const Pongstand& /*s*/) {}
-    virtual void spielerNachher(const Pongstand& /*s*/) {}
-    virtual void beideRuhen(const Pongstand& /*s*/) {}
-    virtual void punkteZeigen(const Pongstand& /*s*/) {}
-    virtual void punkteWeg() {}
-    // A step of the drop, and its end.
-    virtual void fallVorher(const Pongstand& /*s*/) {}
-    virtual void fallNachher(const Pongstand& /*s*/) {}
-    virtual void fallEndet(const Pongstand& /*s*/) {}
-    // One step of the picture at the end of a match; `sieger` has won.
-    virtual void endbild(Seite /*sieger*/) {}
-};
-
-// The rest of what a match asks for.
-class Pongumgebung {
-public:
-    virtual ~Pongumgebung() = default;
-    // All keys by their virtual code; a value above 126 is a held one.
-    virtual std::array<std::uint8_t, 256> Tastenstand() = 0;
-    virtual void Klang(TextView /*datei*/) {}
-    virtual void Titel(TextView /*text*/) {}
-    // The number of points of one side has changed.
-    virtual void Punkte(Seite /*seite*/, std::int32_t /*punkte*/) {}
-    virtual void SpielerHatGewonnen() {}
-};
-
-class Pongspiel {
-public:
-    // Both must outlive it. A match begins with `neuess`.
-    Pongspiel(Pongansicht& ansicht, Pongumgebung& umgebung) : bild_(ansicht), umgebung_(umgebung) {}
-
-    const Pongstand& stand() const { return s; }
-    // For tests and benchmarks: goes on from there.
-    void stellen(const Pongstand& stand) { s = stand; }
-
-    // Starts a match, at any moment.
+    // Starts a match, at any moment. The first of a window as well.
     void neuess();
 
-    // What the timers do.
-    void Timer1_Timer();
-    void Timer2_Timer();
-    void Timer3_Timer();
-    void Timer4_Timer() { bild_.endbild(Seite::links); }
-    void Timer5_Timer() { bild_.endbild(Seite::rechts); }
-    void Timer6_Timer();
+    // What the timers do. At the end of a match nothing is left to decide, so 4 and 5 have nothing to do here.
+    Pongtick Timer1_Timer(const Tasten& tasten);
+    Pongtick Timer2_Timer();
+    Pongtick Timer3_Timer();
+    Pongtick Timer6_Timer();
 
 private:
-    void start();
-    void bewegung();
-    void wand();
+    void start(Pongtick& tick);
+    void bewegung(Pongtick& tick);
+    void wand(Pongtick& tick);
     void wandGewinn();
-    void gegnerBewegen();
-    void austritt();
-    void ausgang(Seite aufschlag);
-    void rechts();
-    void links();
-    void getroffen();
+    bool gegnerBewegen();
+    void austritt(Pongtick& tick);
+    void ausgang(Seite aufschlag, Pongtick& tick);
+    void rechts(Pongtick& tick);
+    void links(Pongtick& tick);
+    void getroffen(Seite seite, Pongtick& tick);
     void abprallen(float abstand, float grenze);
-    void verfehlt(Seite punktFür);
-    void punkt();
+    void verfehlt(Seite punktFür, Pongtick& tick);
+    void punkt(Pongtick& tick);
     void gewonnen(std::int16_t Ergebnis);
-    void CheckKeys() { Tasten = umgebung_.Tastenstand(); }
-    bool gedrückt(int code) const;
-    void pausiert();
-    void hoch();
-    void runter();
+    void pausiert(const Tasten& tasten);
+    void hoch(const Tasten& tasten, Pongtick& tick);
+    void runter(const Tasten& tasten, Pongtick& tick);
     void gleiten(float& y) const;
-    void fallen();
-
-    Pongansicht& bild_;
-    Pongumgebung& umgebung_;
-    Pongstand s;
-    std::array<std::uint8_t, 256> Tasten{};
+    void fallen(Pongtick& tick);
 };
 
 }  // namespace zentrox

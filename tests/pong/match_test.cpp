@@ -8,7 +8,7 @@ namespace {
 
 // Puts the ball where one side misses it in the next step.
 void miss(Table& table, Seite who) {
-    table.set([&](Pongstand& s) {
+    table.set([&](Pongspiel& s) {
         s.ballX = who == Seite::rechts ? 597.0F : 33.0F;
         s.ballDX = who == Seite::rechts ? 5.0F : -5.0F;
         s.ballY = 10;
@@ -25,7 +25,7 @@ TEST(PongMatch, GoesThroughItsPhases) {
     table.serve();
     EXPECT_EQ(table.heard, (std::vector<Text>{"pong.wav", "pong.wav"})) << "the bounce and the end of the drop";
     EXPECT_EQ(table.s().takte, Takte{.Timer1 = true}) << "play";
-    table.set([](Pongstand& s) { s.tempoBonus = 9; });
+    table.set([](Pongspiel& s) { s.tempoBonus = 9; });
     table.heard.clear();
     miss(table, Seite::rechts);
     EXPECT_EQ(table.s().takte, (Takte{.Timer2 = true, .Timer3 = true})) << "fly-out";
@@ -42,7 +42,7 @@ TEST(PongMatch, GoesThroughItsPhases) {
     table.serve();
     EXPECT_LT(std::abs(table.s().spielerY - 215), 3) << "the paddles have come home";
     EXPECT_LT(std::abs(table.s().gegnerY - 215), 3);
-    table.set([](Pongstand& s) { s.punkteSpieler = 3; });
+    table.set([](Pongspiel& s) { s.punkteSpieler = 3; });
     miss(table, Seite::links);
     EXPECT_EQ(table.s().tempoBonus, 8) << "twice the player's points";
     table.until([&] { return !table.s().takte.Timer2; }, 20);
@@ -61,7 +61,7 @@ TEST(PongMatch, EndsAtElevenWithTwoAhead) {
                               Case{11, 10, true}, Case{20, 20, false}}) {
             Table table;
             table.serve();
-            table.set([&](Pongstand& s) {
+            table.set([&](Pongspiel& s) {
                 (scorer == Seite::links ? s.punkteGegner : s.punkteSpieler) = c.mine;
                 (scorer == Seite::links ? s.punkteSpieler : s.punkteGegner) = c.other;
             });
@@ -69,10 +69,10 @@ TEST(PongMatch, EndsAtElevenWithTwoAhead) {
             miss(table, scorer == Seite::links ? Seite::rechts : Seite::links);
             const bool player = scorer == Seite::rechts;
             EXPECT_EQ(table.s().spielEnde, c.ends) << c.mine + 1 << ":" << c.other;
-            EXPECT_EQ(table.won, c.ends && player);
+            EXPECT_EQ(table.s().gesiegt, c.ends && player);
             if (!c.ends) continue;
             EXPECT_EQ(table.s().takte, player ? Takte{.Timer5 = true} : Takte{.Timer4 = true});
-            EXPECT_EQ(table.title,
+            EXPECT_EQ(table.s().titel,
                       player ? " Freu dich nicht! Das war nur Glück."_t : " Wie kann man nur so schlecht sein?"_t);
             EXPECT_EQ(table.heard, player ? (std::vector<Text>{"sisa1.wav", "dumm.wav"})
                                           : (std::vector<Text>{"juhu2.wav", "juhu.wav"}));
@@ -83,7 +83,7 @@ TEST(PongMatch, StaysOverWhenTheBallLeavesInTheLastStep) {
     Table table;
     table.serve();
     table.set(
-        [](Pongstand& s) { s.ballX = 630, s.ballDX = 24, s.ballY = 10, s.spielerY = 300, s.punkteGegner = 10; });
+        [](Pongspiel& s) { s.ballX = 630, s.ballDX = 24, s.ballY = 10, s.spielerY = 300, s.punkteGegner = 10; });
     for (int i = 0; i < 400; ++i) table.tick();
     EXPECT_EQ(table.s().takte, Takte{.Timer4 = true});
 }
@@ -92,7 +92,7 @@ TEST(PongMatch, TakesACreepingBallOffTheField) {
     Table table;
     table.serve();
     miss(table, Seite::links);
-    table.set([](Pongstand& s) { s.ballDX = -0.01F, s.tempoBonus = 0; });
+    table.set([](Pongspiel& s) { s.ballDX = -0.01F, s.tempoBonus = 0; });
     table.until([&] { return table.s().takte.Timer6; }, 95);
     EXPECT_EQ(table.s().takte, Takte{.Timer6 = true});
     EXPECT_EQ(table.s().ballX, 595);
@@ -103,7 +103,7 @@ TEST(PongMatch, ServesABallAnewThatIsOutInOneStep) {
     for (const bool right : {true, false}) {
         Table table;
         table.serve();
-        table.set([&](Pongstand& s) {
+        table.set([&](Pongspiel& s) {
             s.ballX = right ? 590.0F : 40.0F, s.ballDX = right ? 60.0F : -60.0F, s.ballY = 215, s.drall = 1;
         });
         table.tick();
@@ -111,7 +111,7 @@ TEST(PongMatch, ServesABallAnewThatIsOutInOneStep) {
         EXPECT_EQ(table.s().ballDX, right ? 5 : -5);
         EXPECT_EQ(table.s().drall, right ? 1 : 0);
         EXPECT_EQ(table.s().takte, (Takte{.Timer1 = right, .Timer3 = true})) << "on the right, play goes on";
-        EXPECT_EQ(table.shown, (std::array<std::int32_t, 2>{0, 0}));
+        EXPECT_EQ(table.score(), (std::array<std::int32_t, 2>{0, 0}));
         table.until([&] { return table.s().takte.Timer6; }, 94);
         table.until([&] { return table.s().takte == Takte{.Timer1 = true}; }, 1000);
     }
@@ -124,7 +124,7 @@ TEST(PongMatch, BeginsAnewFromEveryPhase) {
     const auto second = [&](Table& t) { score(t), t.until([&] { return t.s().takte.Timer6; }, 100); };
     const auto over = [&](Table& t) {
         t.serve();
-        t.set([](Pongstand& s) { s.punkteGegner = 10; });
+        t.set([](Pongspiel& s) { s.punkteGegner = 10; });
         miss(t, Seite::rechts);
     };
     const auto paused = [&](Table& t) {
@@ -138,12 +138,12 @@ TEST(PongMatch, BeginsAnewFromEveryPhase) {
         Table table;
         phases[i](table);
         const float flying = table.s().ballDX;
-        table.game.neuess();
-        const Pongstand& s = table.s();
+        table.start();
+        const Pongspiel& s = table.s();
         EXPECT_EQ(s.takte, Takte{.Timer6 = true}) << i;
         EXPECT_EQ(s.tempoGrenze, 100 - 5 * static_cast<int>(flying)) << i;
-        EXPECT_EQ(table.shown, (std::array<std::int32_t, 2>{0, 0})) << i;
-        EXPECT_EQ(table.title, " Du hast keine Chance!!!   'p'=Pause") << i;
+        EXPECT_EQ(table.score(), (std::array<std::int32_t, 2>{0, 0})) << i;
+        EXPECT_EQ(table.s().titel, " Du hast keine Chance!!!   'p'=Pause") << i;
         EXPECT_TRUE(s.ballX == 35 && s.ballY == 215 && s.ballDX == 5 && s.ballDY == 0 && s.drall == 2) << i;
         EXPECT_TRUE(!s.spielEnde && !s.pause && s.tempoBonus == 1) << i;
         table.serve();
@@ -157,17 +157,17 @@ TEST(PongMatch, PausesAndGoesOn) {
     table.serve();
     table.held = {'P', key::up};
     table.tick();
-    const Pongstand before = table.s();
+    const Pongspiel before = table.s();
     EXPECT_NE(before.ballX, 35) << "the key counts from the next tick on";
     table.held = {key::up, key::down};
     for (int i = 0; i < 10; ++i) table.tick();
     EXPECT_EQ(table.s().ballX, before.ballX);
     EXPECT_EQ(table.s().spielerY, before.spielerY);
-    EXPECT_EQ(table.title, "     !Pause!    'O' drücken, um weiter zu spielen."_t);
+    EXPECT_EQ(table.s().titel, "     !Pause!    'O' drücken, um weiter zu spielen."_t);
     table.held = {'O'};
     table.tick();
     EXPECT_GT(table.s().ballX, before.ballX);
-    EXPECT_EQ(table.title, "Du hast keine Chance!!!   'p'=Pause");
+    EXPECT_EQ(table.s().titel, "Du hast keine Chance!!!   'p'=Pause");
     table.held = {'O', 'P'};
     const float x = table.s().ballX;
     for (int i = 0; i < 4; ++i) table.tick();
@@ -178,8 +178,8 @@ TEST(PongMatch, PausesAndGoesOn) {
 TEST(PongMatch, IsLostByWhoNeverMovesAndWonByWhoBendsTheBall) {
     Table idle;
     idle.until([&] { return idle.s().spielEnde; });
-    EXPECT_FALSE(idle.won);
-    EXPECT_EQ(idle.shown, (std::array<std::int32_t, 2>{11, 0}));
+    EXPECT_FALSE(idle.s().gesiegt);
+    EXPECT_EQ(idle.score(), (std::array<std::int32_t, 2>{11, 0}));
 
     Table played;
     const Swinger player;
@@ -187,8 +187,8 @@ TEST(PongMatch, IsLostByWhoNeverMovesAndWonByWhoBendsTheBall) {
         player.hold(played);
         played.tick();
     }
-    EXPECT_TRUE(played.won);
-    EXPECT_EQ(played.shown[1], 11);
+    EXPECT_TRUE(played.s().gesiegt);
+    EXPECT_EQ(played.score()[1], 11);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// A match without a window: keys that a test holds, notes of what would be heard and told, and a clock of ticks.
+// A match without a window: keys that a test holds, notes of what would be heard, and a clock of ticks. A picture
+// may watch.
 #pragma once
 
 #include <algorithm>
@@ -8,50 +9,47 @@
 #include <stdexcept>
 #include <vector>
 
-#include "games/pong/pongspiel.h"
+#include "games/pong/pongbild.h"
 #include "platform/values/keys.h"
-#include "platform/values/random.h"
 
 namespace zentrox::test {
 
-struct Table : Pongumgebung {
-    explicit Table(Pongansicht& view) : game(view, *this) { game.neuess(); }
-    Table() : Table(blind_) {}
+struct Table {
+    explicit Table(Pongbild* view = nullptr) : view_(view) { start(); }
 
+    Pongspiel game;
     std::set<int> held;
     std::vector<Text> heard;
-    Text title;
-    std::array<std::int32_t, 2> shown{-1, -1};
-    bool won = false;
 
-    std::array<std::uint8_t, 256> Tastenstand() override {
-        std::array<std::uint8_t, 256> keys{};
-        for (const int code : held) keys[static_cast<std::size_t>(code)] = 0x80;
-        return keys;
-    }
-    void Klang(TextView datei) override { heard.emplace_back(datei); }
-    void Titel(TextView text) override { title = text; }
-    void Punkte(Seite seite, std::int32_t punkte) override { shown[seite == Seite::links ? 0 : 1] = punkte; }
-    void SpielerHatGewonnen() override { won = true; }
-
-    const Pongstand& s() const { return game.stand(); }
+    const Pongspiel& s() const { return game; }
+    std::array<std::int32_t, 2> score() const { return {game.punkteGegner, game.punkteSpieler}; }
     // Changes the state as a test wants it.
     template <class Change>
     void set(Change change) {
-        Pongstand stand = s();
-        change(stand);
-        game.stellen(stand);
+        change(game);
+    }
+    void start() {
+        game.neuess();
+        if (view_ != nullptr) view_->NeuesFeld(game);
     }
     // 16 ms of the match: each running timer ticks once, `Timer3` when its time has come.
     void tick() {
-        const Takte before = s().takte;
-        if (before.Timer1) game.Timer1_Timer();
-        if (before.Timer2 && s().takte.Timer2) game.Timer2_Timer();
-        if (before.Timer4) game.Timer4_Timer();
-        if (before.Timer5) game.Timer5_Timer();
-        if (before.Timer6 && s().takte.Timer6) game.Timer6_Timer();
-        scoreTicks_ = s().takte.Timer3 ? scoreTicks_ + 1 : 0;
-        if (scoreTicks_ * 16 >= punkteDauer) game.Timer3_Timer();
+        const Takte before = game.takte;
+        if (before.Timer1) play();
+        if (before.Timer2 && game.takte.Timer2)
+            step([](Pongspiel& g) { return g.Timer2_Timer(); }, &Pongbild::Timer2_Timer);
+        if (view_ != nullptr && (before.Timer4 || before.Timer5))
+            view_->Endbild(before.Timer4 ? Seite::links : Seite::rechts);
+        if (before.Timer6 && game.takte.Timer6) drop();
+        scoreTicks_ = game.takte.Timer3 ? scoreTicks_ + 1 : 0;
+        if (scoreTicks_ * 16 >= punkteDauer)
+            step([](Pongspiel& g) { return g.Timer3_Timer(); }, &Pongbild::Timer3_Timer);
+    }
+    void play() {
+        step([this](Pongspiel& g) { return g.Timer1_Timer(keys()); }, &Pongbild::Timer1_Timer);
+    }
+    void drop() {
+        step([](Pongspiel& g) { return g.Timer6_Timer(); }, &Pongbild::Timer6_Timer);
     }
     // Ticks until `done`; throws if that does not come.
     template <class Done>
@@ -64,19 +62,27 @@ struct Table : Pongumgebung {
     }
 
 private:
-    Pongansicht blind_;
+    Tasten keys() const {
+        Tasten keys{};
+        for (const int code : held) keys[static_cast<std::size_t>(code)] = 0x80;
+        return keys;
+    }
+    template <class Tick>
+    void step(Tick tick, void (Pongbild::*show)(const Pongzug&)) {
+        const Pongspiel before = game;
+        const Pongtick t = tick(game);
+        for (const TextView sound : t.Klänge) heard.emplace_back(sound);
+        if (view_ != nullptr) (view_->*show)({before, t, game});
+    }
 
-public:
-    Pongspiel game;
-
-private:
+    Pongbild* view_;
     int scoreTicks_ = 0;
 };
 
 // A player who waits `reach` pixels off the ball and swings the paddle through it, so that the ball is bent.
 struct Swinger {
     int reach = 60;
-    std::set<int> keys(const Pongstand& s) const {
+    std::set<int> keys(const Pongspiel& s) const {
         if (s.ballDX <= 0) return {};
         const float steps = (596 - s.ballX) / (s.ballDX + static_cast<float>(s.tempoBonus) / 5);
         const float off = s.ballY + 5 + static_cast<float>(reach) - s.spielerY;

@@ -28,7 +28,7 @@ struct Field {
     FakeFonts fonts;
     Surface surface{fonts, {641, 449}};
     Pongbild view{surface, pictures()};
-    Table table{view};
+    Table table{&view};
 
     // The smallest rectangle that holds all that is not black, but for the paddles at rest; empty if there is
     // nothing.
@@ -76,9 +76,9 @@ TEST(PongView, ShowsNothingButBallAndTrailWhenAHitIsOver) {
                           Case{618, 430, 24, 215, 400}}) {
         Field f;
         f.table.serve();
-        f.table.set([&](Pongstand& s) { s.ballX = c.x + 60 * (c.dx < 0 ? 1.0F : -1.0F), s.ballDX = 0; });
+        f.table.set([&](Pongspiel& s) { s.ballX = c.x + 60 * (c.dx < 0 ? 1.0F : -1.0F), s.ballDX = 0; });
         for (int i = 0; i < 4; ++i) f.table.tick();
-        f.table.set([&](Pongstand& s) {
+        f.table.set([&](Pongspiel& s) {
             s.ballX = c.x, s.ballY = c.y, s.ballDX = c.dx, s.gegnerY = c.gegnerY, s.spielerY = c.spielerY,
             s.drall = 0;
         });
@@ -124,17 +124,18 @@ TEST(PongView, ColoursTheScoreByTheLead) {
           Case{3, 0xDB2528, 22}, Case{2, 0xB74C50, 22}, Case{1, 0x937078, 22}, Case{0, 0x818178, 22},
           Case{-1, 0x709378, 22}, Case{-2, 0x4CB750, 22}, Case{-3, 0x25DB28, 22}, Case{-5, 0x25DB28, 26},
           Case{-4, 0x00FF00, 22}}) {
-        Pongstand s;
+        Pongspiel s;
         s.punkteGegner = 7 + c.lead;
         s.punkteSpieler = 7;
-        f.view.punkteZeigen(s);
+        const Pongtick point{.Punkt = true, .Flug = Ballflug{.von = {300, 400}, .nach = {300, 400}}};
+        f.view.Timer1_Timer({s, point, s});
         EXPECT_EQ(f.surface.foreground.rgb, c.colour) << c.lead;
         EXPECT_EQ(f.surface.font.points, c.points) << c.lead;
         const int at = Runden(320 - 2 * c.points);
         const int top = Runden(220 - 2 * c.points);
         const int digit = at + FakeFont::advance + 1;
         EXPECT_EQ(f.surface.pixel({digit, top + 5}), std::int32_t(c.colour)) << "a blank, then the number";
-        f.view.punkteWeg();
+        f.view.Timer3_Timer({s, {}, s});
         EXPECT_EQ(f.surface.pixel({digit, top + 5}), 0);
     }
     EXPECT_TRUE(f.surface.shows(" 3 : 7"));
@@ -147,7 +148,7 @@ TEST(PongView, TurnsThePictureAtTheEndWithoutLeavingATrace) {
         f.table.tick();
         f.surface.clear();
         f.table.set(
-            [&](Pongstand& s) { s.takte = {.Timer4 = winner == Seite::links, .Timer5 = winner == Seite::rechts}; });
+            [&](Pongspiel& s) { s.takte = {.Timer4 = winner == Seite::links, .Timer5 = winner == Seite::rechts}; });
         int widest = 0;
         int narrowest = 640;
         for (int i = 0; i < 400; ++i) {

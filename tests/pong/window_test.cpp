@@ -29,7 +29,7 @@ struct Play : Stage {
         z.Übergabe = Text("7");
     }
     Pong& window() { return dynamic_cast<Pong&>(*platform.queue.active()); }
-    const Pongstand& s() { return window().stand(); }
+    const Pongspiel& s() { return window().spiel(); }
     void show() { Pong(platform, z, media, blank()).showModal(); }
     bool heard(TextView file) {
         return std::find(sound.notes.begin(), sound.notes.end(), "effect " + z.PfadGames + Text(file)) !=
@@ -58,6 +58,26 @@ TEST(PongWindow, HasItsControlsAndTicksByTheClock) {
     play.backend.closeBox();
     play.show();
     EXPECT_EQ(play.z.Übergabe, Übergabewert(Text("7"))) << "who has not won leaves it alone";
+}
+
+// Taps that are over before the game looks at the keys.
+TEST(PongWindow, PausesAndGoesOnByATap) {
+    Play play;
+    play.backend.wait(1000);
+    play.backend.key('P');
+    play.backend.wait(1500);
+    play.backend.then([&] {
+        EXPECT_TRUE(play.s().takte.Timer1);
+        EXPECT_FALSE(play.s().pause) << "a tap during the serve is forgotten";
+    });
+    play.backend.key('P');
+    play.backend.wait(100);
+    play.backend.then([&] { EXPECT_TRUE(play.s().pause); });
+    play.backend.key('O');
+    play.backend.wait(100);
+    play.backend.then([&] { EXPECT_FALSE(play.s().pause); });
+    play.backend.closeBox();
+    play.show();
 }
 
 TEST(PongWindow, ReadsTheKeysWhateverHasTheFocus) {
