@@ -1,5 +1,6 @@
 #include "main/spiel.h"
 
+#include "engine/files/titeldatei.h"
 #include "games/bruhks/bruhks.h"
 #include "games/fight/fight.h"
 #include "games/jump/jump.h"
@@ -54,6 +55,7 @@ int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beo
 
 int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
     try {
+        zustand.Titel = TitelLesen(platform.files);
         return fenster(platform, zustand, kommandozeile, beobachter);
     } catch (const DataError& error) {
         try {

@@ -67,7 +67,9 @@ constexpr TextView Bonus2 =
 
 }  // namespace
 
-Hilfetexte MenuTexteFür(bool bonus) {
+Hilfetexte MenuTexteFür(bool bonus, const Titel& titel) {
+    const Hilfetexte& eigene = bonus ? titel.Bonushilfe : titel.Hilfe;
+    if (!eigene.empty()) return eigene;
     if (bonus) return {Text(Bonus1), Text(Bonus2)};
     return {Text(Haupt1), Text(Haupt2)};
 }

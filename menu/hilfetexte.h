@@ -1,16 +1,15 @@
 // What types itself in the menu. In a page "|" ends a line; the two blanks at its start are skipped.
 #pragma once
 
-#include <array>
+#include <vector>
 
-#include "platform/values/text.h"
+#include "engine/state/titel.h"
 
 namespace zentrox {
 
-constexpr int Hilfeseiten = 2;
-using Hilfetexte = std::array<Text, Hilfeseiten>;
+using Hilfetexte = std::vector<Text>;
 
-// The pages beside the main screen, or beside the bonus screen.
-Hilfetexte MenuTexteFür(bool bonus);
+// The pages beside the main screen, or beside the bonus screen: the story's, or else the game's own.
+Hilfetexte MenuTexteFür(bool bonus, const Titel& titel);
 
 }  // namespace zentrox

@@ -6,6 +6,8 @@
 #include "menu/datensuche.h"
 #include "menu/titelbild.h"
 #include "menu/welle.h"
+#include "platform/codec/pictures.h"
+#include "platform/values/error.h"
 #include "platform/values/keys.h"
 
 namespace zentrox {
@@ -29,6 +31,24 @@ constexpr std::array<TextView, 4> Hauptseite{"Spiel beginnen", "Altes Spiel lade
 constexpr std::array<TextView, 4> Bonusseite{"Videos", "Bilder Sessions", "Mathe-Physik-LernCD", "Zurück"_t};
 constexpr std::array<TextView, 3> Bonusmaterial{"Videos", "Bilder\\index.html", "LernCD"};
 
+// The captions of a screen, where the story has none of its own.
+Text zeilentext(const Titel& titel, bool bonus, int zeile) {
+    const auto i = static_cast<std::size_t>(zeile);
+    if (bonus)
+        return i < titel.Bonuszeilen.size() ? angegebenOder(titel.Bonuszeilen[i], Bonusseite[i])
+                                            : Text(Bonusseite[i]);
+    return zeile == Bonuszeile ? angegebenOder(titel.Bonus, Hauptseite[i]) : Text(Hauptseite[i]);
+}
+
+Bitmap titelbildFür(const Files& files, const Titel& titel) {
+    if (titel.Titelbild.empty()) return unpacked(Titelbild);
+    try {
+        return loadPicture(files, files.programDirectory() + titel.Titelbild);
+    } catch (const DataError&) {
+        return unpacked(Titelbild);
+    }
+}
+
 FontSpec zeilenschrift(bool fett) {
     return {"MS Sans Serif", 12, fett};
 }
@@ -37,18 +57,21 @@ FontSpec zeilenschrift(bool fett) {
 
 Menu::Menu(Platform& platform, Zustand& zustand, const std::vector<std::filesystem::path>& wurzeln,
            std::function<void()> form1Zeigen)
-    : Window(platform, "Menu", "Zentrox - Menü"_t, Fläche, Frame::fixed),
+    : Window(platform, "Menu", angegebenOder(zustand.Titel.Name, "Zentrox") + Text(" - Menü"_t), Fläche,
+             Frame::fixed),
       z_(zustand),
       form1Zeigen_(std::move(form1Zeigen)),
       Image1(&root(), {0, 0, 501, 121}),
-      Label3(&root(), {360, 88, 36, 13}, "V. 1.3"),
-      Label2(&root(), {112, 88, 124, 13}, "www.zentrox.example"),
+      Label3(&root(), {360, 88, 36, 13}, "V. " + angegebenOder(zustand.Titel.Fassung, "1.3")),
+      Label2(&root(), {112, 88, 124, 13}, angegebenOder(zustand.Titel.Adresse, "www.zentrox.example")),
       Picture1(platform.fonts, &root(), {0, 120, 505, 281}),
-      Label1{Label(&Picture1, {0, 0, 0, 0}, Hauptseite[0]), Label(&Picture1, {0, 0, 0, 0}, Hauptseite[1]),
-             Label(&Picture1, {0, 0, 0, 0}, Hauptseite[2]), Label(&Picture1, {0, 0, 0, 0}, Hauptseite[3])},
+      Label1{Label(&Picture1, {0, 0, 0, 0}), Label(&Picture1, {0, 0, 0, 0}), Label(&Picture1, {0, 0, 0, 0}),
+             Label(&Picture1, {0, 0, 0, 0})},
       Picture2(platform.fonts, &Picture1, {184, 0, 257, 273}),
       Timer1(platform.queue, 10, false, [this] { Timer1_Timer(); }) {
-    Image1.setPicture(unpacked(Titelbild));
+    Image1.setPicture(titelbildFür(platform.files, z_.Titel));
+    Label3.setAutoSize(!z_.Titel.Fassung.empty());
+    Label2.setAutoSize(!z_.Titel.Adresse.empty());
     Label3.setColour(Grün);
     Label2.setColour(Dunkelgrün);
     Picture2.font = {"Fixedsys", 9, true};
@@ -57,6 +80,7 @@ Menu::Menu(Platform& platform, Zustand& zustand, const std::vector<std::filesyst
         zeile(i).setFont(zeilenschrift(false));
         zeile(i).setAlign(Label::Align::centre);
         zeile(i).setAutoSize(true);
+        zeile(i).setText(zeilentext(z_.Titel, false, i));
         zeile(i).onClick = [this, i] { LabelAusfuehren(i); };
         zeile(i).onMove = [this, i](const PointerEvent&) { Label1_MouseMove(i); };
     }
@@ -93,8 +117,7 @@ void Menu::LabelAufbau(int Index) {
 // The captions follow the screen that is left: the first setting finds them as they are.
 void Menu::MenuBonusSetzen(int Index) {
     if (MenuSeite != -1) {
-        const auto& texte = MenuSeite == 0 ? Bonusseite : Hauptseite;
-        for (int i = 0; i < Zeilen; ++i) zeile(i).setText(texte[static_cast<std::size_t>(i)]);
+        for (int i = 0; i < Zeilen; ++i) zeile(i).setText(zeilentext(z_.Titel, MenuSeite == 0, i));
         MenuPunkt = 0;
         LabelAufbau(0);
     }
@@ -167,7 +190,8 @@ void Menu::DoLoop() {
             ticks = 0;
             if (MenuSeite != letzteSeite) {
                 letzteSeite = MenuSeite;
-                MenuTexte = MenuTexteFür(MenuSeite == 1);
+                MenuTexte = MenuTexteFür(MenuSeite == 1, z_.Titel);
+                seite %= MenuTexte.size();
                 maschine.Anfangen();
             }
             if (maschine.Schritt(Picture2, MenuTexte[seite]) == Schreibmaschine::Ereignis::seitenende)

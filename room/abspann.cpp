@@ -82,7 +82,7 @@ public:
           z_(z),
           ziel_(ziel),
           quelle_(quelle),
-          seiten_(AbspannTexte(z.BösePunkte)) {
+          seiten_(AbspannTexte(z.BösePunkte, z.Titel)) {
         for (Text& seite : seiten_) seite.append(Nachlauf, ' ');
     }
 
@@ -116,7 +116,7 @@ private:
     const Zustand& z_;
     Surface& ziel_;
     Surface& quelle_;
-    std::array<Text, Abspannseiten> seiten_;
+    std::vector<Text> seiten_;
     Schreibmaschine maschine_;
     Auflösung auflösung_;
     std::size_t seite_ = 0;

@@ -54,9 +54,17 @@ constexpr TextView Schlusswort =
     "Macht es gut, und schaut ab und zu in den Keller.  | |"
     "Velmar, im Juli 2002  |"_t;
 
+std::vector<Text> mitPunkten(std::vector<Text> seiten, std::int32_t bösePunkte) {
+    for (Text& seite : seiten)
+        for (std::size_t i = seite.find(Bosheitsmarke); i != Text::npos; i = seite.find(Bosheitsmarke))
+            seite.replace(i, Bosheitsmarke.size(), std::to_string(bösePunkte));
+    return seiten;
+}
+
 }  // namespace
 
-std::array<Text, Abspannseiten> AbspannTexte(std::int32_t bösePunkte) {
+std::vector<Text> AbspannTexte(std::int32_t bösePunkte, const Titel& titel) {
+    if (!titel.Abspann.empty()) return mitPunkten(titel.Abspann, bösePunkte);
     return {Text(Glückwunsch), "  Du hast " + std::to_string(bösePunkte) + Text(Dank), Text(Mannschaft),
             Text(Schlusswort)};
 }

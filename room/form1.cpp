@@ -28,7 +28,7 @@ constexpr double strichfarben = 1231312312;
 
 Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile,
              Beobachter* beobachter)
-    : Window(platform, "Form1", "", kleinstes, Frame::sizable),
+    : Window(platform, "Form1", zustand.Titel.Name, kleinstes, Frame::sizable),
       platform_(platform),
       z_(zustand),
       medien_(medien),

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "engine/state/titel.h"
 #include "platform/values/text.h"
 
 namespace zentrox {
@@ -65,6 +66,7 @@ constexpr int MerkerAnzahl = 1001;
 constexpr int InventarPlätze = 51;
 
 struct Zustand {
+    zentrox::Titel Titel;  // what the story says of itself
     std::array<std::uint8_t, 256> Tastatur{};
     float MausX = 0;
     float MausY = 0;

@@ -85,9 +85,12 @@ Memory::Memory(Platform& platform, Zustand& zustand, Memorybilder bilder)
     : Window(platform, "Memory", "Memory", fensterfläche, Frame::fixed),
       z_(zustand),
       bilder_(std::move(bilder)),
-      Label1{{{&root(), {0, 416, 41, 17}, "Velmar:"}, {&root(), {0, 440, 41, 17}, "Tirsa:"}}},
+      Label1{{{&root(), {0, 416, 41, 17}, angegebenOder(zustand.Titel.Spieler, "Velmar") + ":"},
+              {&root(), {0, 440, 41, 17}, angegebenOder(zustand.Titel.Gegner, "Tirsa") + ":"}}},
       Timer1(platform.queue, soSchnellEsGeht, true, [this] { Timer1_Timer(); }) {
     z_.Übergabe = Text("L");
+    Label1[0].setAutoSize(!z_.Titel.Spieler.empty());
+    Label1[1].setAutoSize(!z_.Titel.Gegner.empty());
     for (std::int32_t i = 0; i < kartenAnzahl; ++i) karteAnlegen(i);
 }
 

@@ -50,6 +50,19 @@ private:
 
 using Lines = std::vector<Text>;
 
+TEST(Menu, IsCalledAsTheStoryIs) {
+    MenuPlay play;
+    play.z.Titel.Name = Text("Das Fundbüro"_t);
+    play.z.Titel.Bonus = "Fotos";
+    play.z.Titel.Titelbild = "graphics\\fehlt.jpg";
+    play.backend.then([&] {
+        EXPECT_EQ(play.platform.queue.active()->title(), "Das Fundbüro - Menü"_t);
+        EXPECT_EQ(play.lines()[2], "Fotos");
+        Queue::endProgram();
+    });
+    play.run();
+}
+
 TEST(Menu, HasItsLinesInTheirPlaces) {
     MenuPlay play;
     play.backend.then([&] {

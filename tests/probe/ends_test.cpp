@@ -42,8 +42,8 @@ bool endsAt(int turn, const Walk& walk, const Text& room, Fonts& fonts) {
     Impatient person(player, turn);
     backend.setPerson(&person);
     Recorder recorder(
-        WALK_DATA, [&] { return backend.clock(); }, [](Milliseconds, const Text&) {});
-    Platform platform(backend, fonts, recorder, WALK_DATA);
+        std::filesystem::path(WALK_DATA), [&] { return backend.clock(); }, [](Milliseconds, const Text&) {});
+    Platform platform(backend, fonts, recorder, std::filesystem::path(WALK_DATA));
     const auto zustand = std::make_unique<Zustand>();
     Story story(platform, *zustand, recorder);
     player.attach(&platform, &story);
