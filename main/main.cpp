@@ -1,26 +1,66 @@
 // zentrox: the game on the desktop.
 #include <iostream>
 
+#include "engine/files/titeldatei.h"
 #include "main/options.h"
 #include "main/spiel.h"
+#include "main/story.h"
+#include "platform/codec/zip.h"
 #include "platform/machine/roots.h"
 #include "platform/machine/system.h"
 #include "platform/sdl/desktop.h"
 #include "platform/sdl/sound.h"
+#include "platform/values/error.h"
 
 namespace {
 
 using namespace zentrox;
 
-int play(const Options& options) {
-    const Files files(options.directory);
+// The files of the story, its saved games in their place.
+Files filesOf(const Options& options) {
+    Files files = openStory(options.directory);
+    const std::string name = directoryNameOf(TitelLesen(files), files, options.directory);
+    const PlayersHome home = playersHome();
+    const PlacesAsked asked = placesAsked(options, programDirectory(), options.directory, name);
+    const Places places = placesFor(asked, home);
+    gatherSaves(places, asked, home);
+    files.keepSavesIn(places.saves);
+    return files;
+}
+
+int play(const Options& options, const Files& files) {
     sdl::Desktop desktop(files, restartCommand(programFile(), options));
     const auto fonts = makeFonts();
-    const auto sound = desktopSound(options.directory);
-    Platform platform(desktop, *fonts, *sound, options.directory);
+    const auto sound = desktopSound(files);
+    Platform platform(desktop, *fonts, *sound, files);
     platform.roots = rootsToSearch(options, searchRoots(options.directory));
     const auto zustand = std::make_unique<Zustand>();
     return Spielen(platform, *zustand, fromUtf8(options.commandLine));
+}
+
+// Who opened the story by a click has no terminal to be told in.
+int refuse(const Options& options, const DataError& error) {
+    const Files files(options.directory.parent_path());
+    sdl::Desktop desktop(files, {});
+    const auto fonts = makeFonts();
+    const auto sound = desktopSound(files);
+    Platform platform(desktop, *fonts, *sound, files);
+    try {
+        showMessageBox(platform, {"Zentrox", error.message(), MessageBox::Icon::critical});
+    } catch (const ProgramEnd&) {
+        std::cerr << "zentrox: " << toUtf8(error.message()) << '\n';
+    }
+    return 1;
+}
+
+int play(Options options) {
+    options.directory =
+        storyToPlay(options, programDirectory(), rootsToSearch(options, searchRoots(programDirectory())));
+    try {
+        return play(options, filesOf(options));
+    } catch (const DataError& error) {
+        return refuse(options, error);
+    }
 }
 
 }  // namespace

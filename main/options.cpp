@@ -15,6 +15,11 @@ fs::path whole(const fs::path& path) {
     return fs::absolute(path, error).lexically_normal();
 }
 
+bool isPackedStory(const fs::path& path) {
+    std::error_code error;
+    return path.extension() == ".zentrox" && fs::is_regular_file(path, error);
+}
+
 // Words that name no option are the game's, with blanks between them as they were typed.
 std::string joined(const std::vector<std::string>& words) {
     std::string line;
@@ -26,16 +31,19 @@ std::string joined(const std::vector<std::string>& words) {
 
 Call readOptions(int count, const char* const* words, const fs::path& programDirectory) {
     CLI::App app("Plays the story in the program's directory, or in DIR.", "zentrox");
-    std::string directory = programDirectory.string();
+    std::string directory;
+    std::string saves;
+    bool portable = false;
     std::vector<std::string> roots;
     std::vector<std::string> room;
     const CLI::Validator there = CLI::Validator(CLI::ExistingDirectory).description("");
+    const CLI::Validator story = CLI::Validator(CLI::ExistingPath).description("");
     app.set_help_flag("--help", "Shows this and ends");
     app.set_version_flag("--version", "zentrox " ZENTROX_VERSION, "Shows the version and ends");
-    app.add_option("--dir", directory, "Where the data directories and the saved games lie")
+    app.add_option("--dir", directory, "Where the data directories and the saved games lie; or a packed story")
         ->type_name("DIR")
         ->take_last()
-        ->check(there);
+        ->check(story);
     app.add_option("--root", roots,
                    "A directory to take for the CD, in place of one that is mounted; may be repeated")
         ->type_name("DIR")
@@ -43,7 +51,14 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         ->allow_extra_args(false)
         ->take_all()
         ->check(there);
-    app.add_option("ROOM", room, "The file name of a room; the game then begins there, without its menu")
+    app.add_option("--saves", saves, "Where the saved games lie, if not with the data or in the player's own place")
+        ->type_name("DIR")
+        ->take_last();
+    app.add_flag("--portable", portable, "Writes nothing outside of the directory that the story lies in");
+    app.add_option(
+           "ROOM", room,
+           "A packed story, FILE.zentrox, or the file name of a room; the game then begins there, without its "
+           "menu")
         ->type_name("");
     app.footer(
         "F11 or Alt+Enter switches to full screen and back.\n"
@@ -53,7 +68,16 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     } catch (const CLI::ParseError& error) {
         return {std::nullopt, app.exit(error) == 0 ? 0 : wrongCall};
     }
-    Options options{whole(directory), {}, joined(room)};
+    if (directory.empty() && !room.empty() && isPackedStory(room.front())) {
+        directory = room.front();
+        room.erase(room.begin());
+    }
+    Options options;
+    options.storyNamed = !directory.empty();
+    options.directory = options.storyNamed ? whole(directory) : programDirectory;
+    options.commandLine = joined(room);
+    if (!saves.empty()) options.saves = whole(saves);
+    options.portable = portable;
     for (const std::string& root : roots) options.roots.push_back(whole(root));
     return {options, 0};
 }
@@ -66,6 +90,8 @@ std::vector<fs::path> rootsToSearch(const Options& options, std::vector<fs::path
 std::vector<std::string> restartCommand(const fs::path& program, const Options& options) {
     std::vector<std::string> command{program.string(), "--dir", options.directory.string()};
     for (const fs::path& root : options.roots) command.insert(command.end(), {"--root", root.string()});
+    if (options.saves) command.insert(command.end(), {"--saves", options.saves->string()});
+    if (options.portable) command.emplace_back("--portable");
     return command;
 }
 

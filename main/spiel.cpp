@@ -51,11 +51,20 @@ int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beo
     }
 }
 
+// A CD that the story brings along gives way to all others, since the last one found counts.
+void titelÜbernehmen(Platform& platform, Zustand& zustand) {
+    zustand.Titel = TitelLesen(platform.files);
+    const Text& cd = zustand.Titel.CD;
+    if (!cd.empty())
+        platform.roots.insert(platform.roots.begin(),
+                              platform.files.systemPath(platform.files.programDirectory() + cd));
+}
+
 }  // namespace
 
 int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
     try {
-        zustand.Titel = TitelLesen(platform.files);
+        titelÜbernehmen(platform, zustand);
         return fenster(platform, zustand, kommandozeile, beobachter);
     } catch (const DataError& error) {
         try {

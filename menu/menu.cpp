@@ -91,7 +91,10 @@ void Menu::Form_Load(const std::vector<std::filesystem::path>& wurzeln) {
     platform().random.reseed(platform().backend.seed());
     z_.PI = 4 * std::atan(1.0F);
     CDLaufwerk = DatenSuchen(platform().files, wurzeln, z_);
-    zeile(Bonuszeile).setVisible(!CDLaufwerk.empty());
+    // What lies in a packed story can't be opened by another program.
+    std::error_code fehler;
+    const bool offen = std::filesystem::is_directory(platform().files.systemPath(CDLaufwerk), fehler);
+    zeile(Bonuszeile).setVisible(!CDLaufwerk.empty() && offen);
 
     MenuBonusSetzen(0);
     LabelAufbau(0);

@@ -99,6 +99,8 @@ private:
         const bool kennung = bekannt->name == "Kennung";
         if (kennung && !istKennung(wert))
             return mangel("Eine Kennung hat nur kleine Buchstaben, Ziffern und Striche, höchstens 40."_t);
+        if (bekannt->name == "CD" && !istKennung(wert))
+            return mangel("Das Verzeichnis der CD hat nur kleine Buchstaben, Ziffern und Striche."_t);
         if (wert.size() > längsterName) return mangel("Das ist zu lang."_t);
         bekannt->feld(titel_) = wert;
     }

@@ -57,6 +57,20 @@ TEST_F(TheCall, TakesARoomWithBlanksUnquoted) {
     EXPECT_EQ(call({"--", "--seltsam.lsd"}).options->commandLine, "--seltsam.lsd");
 }
 
+TEST_F(TheCall, TakesAPackedStoryWhereverItIsNamed) {
+    temp.write("muster.zentrox", "");
+    for (const auto& words :
+         std::vector<std::vector<std::string>>{{at("muster.zentrox")}, {"--dir", at("muster.zentrox")}}) {
+        const auto options = call(words).options;
+        EXPECT_EQ(options->directory, directory / "muster.zentrox");
+        EXPECT_EQ(options->commandLine, "");
+        EXPECT_TRUE(options->storyNamed);
+    }
+    EXPECT_EQ(call({at("muster.zentrox"), "Keller.lsd"}).options->commandLine, "Keller.lsd");
+    EXPECT_EQ(call({"fehlt.zentrox"}).options->commandLine, "fehlt.zentrox") << "a room, as any other word";
+    EXPECT_FALSE(call({}).options->storyNamed);
+}
+
 TEST_F(TheCall, EndsAfterHelpAndVersionAndAfterAWrongWord) {
     const auto status = [&](std::vector<std::string> words) {
         const Call made = call(std::move(words));
@@ -79,9 +93,12 @@ TEST_F(TheCall, EndsAfterHelpAndVersionAndAfterAWrongWord) {
 }
 
 TEST_F(TheCall, IsRepeatedByARestartWithoutItsRoom) {
-    const auto options = call({"--root", at("zweite cd"), "--dir", at("spiel"), "Keller.lsd"}).options;
+    const auto options =
+        call({"--root", at("zweite cd"), "--dir", at("spiel"), "Keller.lsd", "--saves", at("cd"), "--portable"})
+            .options;
     const auto again = restartCommand(directory / "zentrox", *options);
-    EXPECT_THAT(again, ElementsAre(at("zentrox"), "--dir", at("spiel"), "--root", at("zweite cd")));
+    EXPECT_THAT(again, ElementsAre(at("zentrox"), "--dir", at("spiel"), "--root", at("zweite cd"), "--saves",
+                                   at("cd"), "--portable"));
     const auto second = call({again.begin() + 1, again.end()}).options;
     EXPECT_EQ(second->directory, options->directory);
     EXPECT_EQ(second->roots, options->roots);
