@@ -138,7 +138,8 @@ void Events::takeDown(const SDL_MouseButtonEvent& event) {
     pending_.push_back({.kind = Input::Kind::press,
                         .at = screen_.inTop(at),
                         .button = buttonOf(event.button),
-                        .clicks = clicks % 2 == 0 ? 2 : 1});
+                        .clicks = clicks % 2 == 0 ? 2 : 1,
+                        .shift = (SDL_GetModState() & KMOD_SHIFT) != 0});
 }
 
 void Events::takeUp(const SDL_MouseButtonEvent& event) {

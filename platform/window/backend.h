@@ -25,7 +25,7 @@ struct Input {
     int clicks = 1;                // press
     int code = 0;                  // keyDown, keyUp: virtual code; wheel: lines, up positive
     bool repeat = false;           // keyDown: the keyboard repeats a held key
-    bool shift = false;            // keyDown
+    bool shift = false;            // press, keyDown
     bool control = false;          // keyDown
     char character = 0;            // keyPress
     Size size;                     // resize: the new client area of the bottommost window

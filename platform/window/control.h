@@ -19,7 +19,8 @@ struct PointerEvent {
     Button button = Button::none;  // the button pressed or released; of a move, the one held
     float x = 0;
     float y = 0;
-    int clicks = 1;  // of a press: 2 for the second one of a double click
+    int clicks = 1;      // of a press: 2 for the second one of a double click
+    bool shift = false;  // of a press: the shift key is held
 };
 
 class Control {

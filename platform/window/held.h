@@ -1,5 +1,5 @@
-// What is held down, and whose it is. An input belongs to the window and to the state of the game in which it began:
-// once either is over, neither its release nor a key's repeats reach anybody.
+// What is held down, and whose it is. An input belongs to the window and to the state of the game in which it
+// began: once either is over, neither its release nor a key's repeats reach anybody.
 #pragma once
 
 #include <cstdint>

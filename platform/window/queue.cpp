@@ -124,7 +124,9 @@ void Queue::deliver(const Input& input) {
             if (active() == window) toolTipDue_ = clock() + toolTipRest;
             return;
         }
-        case Kind::press: held_.press(input.button); return routing.down(input.at, input.button, input.clicks);
+        case Kind::press:
+            held_.press(input.button);
+            return routing.down(input.at, input.button, input.clicks, input.shift);
         case Kind::release:
             if (held_.release(input.button)) routing.up(input.at, input.button);
             return;

@@ -23,13 +23,14 @@ void collectFocusable(Control& control, std::vector<Control*>& into) {
 
 }  // namespace
 
-void Routing::down(Point at, Button button, int clicks) {
+void Routing::down(Point at, Button button, int clicks, bool shift) {
     Control& hit = captured_ != nullptr ? *captured_ : window_.controlAt(at);
     if (!hit.enabled()) return;
     captured_ = &hit;
     pressed_ |= static_cast<unsigned>(button);
     if (hit.takesFocus()) setFocus(&hit);
-    const PointerEvent event = inControl(hit, at, button, clicks);
+    PointerEvent event = inControl(hit, at, button, clicks);
+    event.shift = shift;
     hit.pointerDown(event);
     if (captured_ == &hit && hit.onDown) hit.onDown(event);
 }

@@ -12,7 +12,7 @@ public:
     explicit Routing(Window& window) : window_(window) {}
 
     // --- what the queue hands in; points are in pixels of the client area
-    void down(Point at, Button button, int clicks);
+    void down(Point at, Button button, int clicks, bool shift = false);
     void move(Point at, Button held);
     // Goes to the control that got the press of this button, if there is one.
     void up(Point at, Button button);

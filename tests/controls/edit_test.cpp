@@ -47,6 +47,17 @@ TEST(Field, UmlautsAreCharactersAndControlCodesAreNot) {
     EXPECT_EQ(play.field.text(), "Mü!"_t);
 }
 
+TEST(Field, AClickWithShiftSelectsUpToIt) {
+    FieldPlay play;
+    play.field.setText("eins zwei");
+    play.click(play.gap(5));
+    play.window.routing().down(play.gap(2), Button::left, 1, withShift);
+    play.release(play.gap(2));
+    EXPECT_EQ(play.field.selected(), "ns ");
+    play.click(play.gap(1));
+    EXPECT_EQ(play.field.selected(), "");
+}
+
 TEST(Field, KeysSelectAndWhatIsTypedReplacesIt) {
     FieldPlay play;
     play.field.setText("eins zwei, drei");

@@ -1,6 +1,6 @@
-// Preloaded into a program, it breaks one of the calls with which that writes into one directory. In the environment:
-// FAULT_DIRECTORY; FAULT_AT, the number of the call from 1 on; FAULT_KIND, the number of an error, or "short", which
-// writes a single byte, or "kill"; FAULT_SEEN, a file that is made when the fault has been done.
+// Preloaded into a program, it breaks one of the calls with which that writes into one directory. In the
+// environment: FAULT_DIRECTORY; FAULT_AT, the number of the call from 1 on; FAULT_KIND, the number of an error, or
+// "short", which writes a single byte, or "kill"; FAULT_SEEN, a file that is made when the fault has been done.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>

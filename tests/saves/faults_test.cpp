@@ -105,8 +105,8 @@ TEST_P(Faults, LeaveTheOldFileOrTheNewOne) {
     const std::string fresh = readFile(place / GetParam().file).value_or("");
     ASSERT_NE(fresh, "");
     int calls = 0;
-    for (const std::string& kind :
-         {std::string("kill"), std::string("short"), std::to_string(EINTR), std::to_string(EIO), std::to_string(ENOSPC)}) {
+    for (const std::string& kind : {std::string("kill"), std::string("short"), std::to_string(EINTR),
+                                    std::to_string(EIO), std::to_string(ENOSPC)}) {
         bool more = true;
         for (int at = 1; more && at < 100; ++at) {
             breakCall(at, kind, fresh, more);
@@ -121,7 +121,8 @@ INSTANTIATE_TEST_SUITE_P(Programs, Faults,
                          testing::Values(Written{"game", {SAVE_ONCE, "@"}, "saves/spiel.xtc", true},
                                          Written{"digits", {DIGITS, "500", "@/pi.txt"}, "pi.txt"},
                                          Written{"notes", {NOTES, SONG, "@/lied.mid"}, "lied.mid"},
-                                         Written{"story", {STORY, "build", ROOM, "--into", "@"}, "rooms/Klein.lsd"}),
+                                         Written{
+                                             "story", {STORY, "build", ROOM, "--into", "@"}, "rooms/Klein.lsd"}),
                          [](const auto& program) { return program.param.name; });
 
 }  // namespace

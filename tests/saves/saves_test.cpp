@@ -25,6 +25,24 @@ TEST(SpielSpeichern, WritesTheGameAndSaysSo) {
     EXPECT_EQ(play.bytes("Mein Spiel.xtc"), savedPart(play.z)) << "replaced without asking";
 }
 
+TEST(SpielSpeichern, AHeldEnterKeyDoesNotDismissTheBox) {
+    SavesPlay play;
+    const auto enter = [&](bool repeat) {
+        play.backend.input({.kind = Input::Kind::keyDown, .code = key::enter, .repeat = repeat});
+    };
+    play.backend.type("spiel");
+    enter(false);
+    for (int i = 0; i < 30; ++i) enter(true);
+    bool stands = false;
+    play.backend.then([&] {
+        stands = play.platform.queue.active()->name() == "MsgBox";
+        play.backend.input({.kind = Input::Kind::keyUp, .code = key::enter});
+        play.backend.key(key::enter);
+    });
+    SpielSpeichern(play.platform, play.z, play.room);
+    EXPECT_TRUE(stands);
+}
+
 TEST(SpielSpeichern, IsRefusedWhileTheCountDownRuns) {
     SavesPlay play;
     play.room.countDown = 5000;

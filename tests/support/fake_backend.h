@@ -83,6 +83,7 @@ public:
             const auto act = std::move(script_.front().act);
             script_.pop_front();
             if (auto given = act()) {
+                if (given->kind == Input::Kind::press) given->shift = held_[key::shift] != 0;
                 hold(*given);
                 return given;
             }

@@ -93,9 +93,13 @@ void List::pointerMove(const PointerEvent& event) {
 void List::pointerUp(const PointerEvent& event) {
     if (event.button != Button::left) return;
     const bool doubled = choosing_ && doubled_;
+    pointerLost();
+    if (const auto tell = onDoubleClick; doubled && tell) tell();
+}
+
+void List::pointerLost() {
     choosing_ = doubled_ = false;
     bar_.release();
-    if (const auto tell = onDoubleClick; doubled && tell) tell();
 }
 
 void List::wheel(int lines) {

@@ -37,6 +37,7 @@ public:
     void pointerDown(const PointerEvent& event) override;
     void pointerMove(const PointerEvent& event) override;
     void pointerUp(const PointerEvent& event) override;
+    void pointerLost() override;
     void wheel(int lines) override;
     bool keyDown(int code, bool shift, bool control) override;
     bool keyPress(char c) override;

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/platform.h"
 #include "platform/values/keys.h"
-#include "platform/window/window.h"
 
 namespace zentrox {
 
@@ -14,7 +12,7 @@ constexpr int margin = 2;  // pixels between the edge and the text
 
 }  // namespace
 
-TextBox::TextBox(Control* parent, const Rect& area, TextView text) : Control(parent, area) {
+TextBox::TextBox(Control* parent, const Rect& area, TextView text) : TextControl(parent, area, true) {
     setText(text);
 }
 
@@ -45,27 +43,6 @@ void TextBox::append(TextView text) {
     edit_.set(this->text() + Text(text));
     wrap();
     moved();
-}
-
-void TextBox::setFont(const FontSpec& font) {
-    font_ = font;
-    wrap();
-}
-
-void TextBox::setColours(Colour text, Colour ground) {
-    colour_ = text;
-    ground_ = ground;
-    changed();
-}
-
-void TextBox::setReadOnly(bool on) {
-    readOnly_ = on;
-    changed();
-}
-
-void TextBox::focusChanged(bool has) {
-    focused_ = has;
-    changed();
 }
 
 TextView TextBox::lineText(std::size_t line) const {
@@ -102,37 +79,29 @@ void TextBox::moved() {
     changed();
 }
 
-void TextBox::edited() {
+void TextBox::renewed() {
     wrap();
     moved();
-    if (const auto tell = onChange) tell();
 }
 
 void TextBox::pointerDown(const PointerEvent& event) {
-    if (event.button != Button::left) return;
     const Point at{static_cast<int>(event.x), static_cast<int>(event.y)};
-    if (bar_.area().contains(at)) return bar_.press(at);
-    const bool shift = (window()->platform().backend.keys()[key::shift] & 128U) != 0;
-    if (event.clicks == 2)
-        edit_.selectWord(gapAt(at));
-    else
-        edit_.moveTo(gapAt(at), shift);
-    selecting_ = event.clicks != 2;
-    moved();
+    if (!bar_.area().contains(at)) return TextControl::pointerDown(event);
+    if (event.button == Button::left) bar_.press(at);
 }
 
 void TextBox::pointerMove(const PointerEvent& event) {
-    const Point at{static_cast<int>(event.x), static_cast<int>(event.y)};
-    if (bar_.held()) bar_.move(at);
-    if (!selecting_) return;
-    edit_.moveTo(gapAt(at), true);
-    moved();
+    if (bar_.held()) return bar_.move({static_cast<int>(event.x), static_cast<int>(event.y)});
+    TextControl::pointerMove(event);
 }
 
 void TextBox::pointerUp(const PointerEvent& event) {
-    if (event.button != Button::left) return;
+    if (event.button == Button::left) pointerLost();
+}
+
+void TextBox::pointerLost() {
     bar_.release();
-    selecting_ = false;
+    TextControl::pointerLost();
 }
 
 void TextBox::wheel(int lines) {
@@ -181,54 +150,26 @@ bool TextBox::moveByLine(int code, bool shift, bool control) {
 }
 
 bool TextBox::keyDown(int code, bool shift, bool control) {
-    if (readOnly_ && !shift && scrollByKey(code)) return true;
+    if (readOnly() && !shift && scrollByKey(code)) return true;
     if (moveByLine(code, shift, control)) return true;
-    if (!readOnly_ && code == key::enter) {
-        if (edit_.insert("\r\n")) edited();
-        return true;
-    }
-    switch (edit_.key(window()->platform().backend, code, shift, control, readOnly_)) {
-        case EditText::Answer::unused: return false;
-        case EditText::Answer::moved: moved(); return true;
-        case EditText::Answer::changed: edited(); return true;
-    }
-    return false;
-}
-
-bool TextBox::keyPress(char c) {
-    if (readOnly_ || !isPrintable(c)) return false;
-    if (edit_.insert({&c, 1})) edited();
+    if (readOnly() || code != key::enter) return TextControl::keyDown(code, shift, control);
+    put("\r\n");
     return true;
 }
 
-void TextBox::paintLine(Bitmap& onto, Point at, std::size_t line) {
-    const TextView piece = lineText(line);
-    font().draw(onto, at, piece, enabled() ? colour_ : look::greyText);
-    const std::size_t begin = std::max(edit_.selectionBegin(), lines_[line].begin);
-    const std::size_t end = std::min(edit_.selectionEnd(), lines_[line].end);
-    if (begin < end) {
-        const int left = at.x + font().width(piece.substr(0, begin - lines_[line].begin));
-        const int right = at.x + font().width(piece.substr(0, end - lines_[line].begin));
-        const Rect chosen{left, at.y, right - left, font().lineHeight()};
-        const look::Clip part(onto, chosen);
-        onto.fill(chosen, look::selection);
-        font().draw(onto, at, piece, look::selectedText);
-    }
-    if (focused_ && !readOnly_ && lineOf(edit_.caret()) == line)
-        onto.fill({at.x + caretX(), at.y, 1, font().lineHeight()}, colour_);
-}
-
 void TextBox::paint(Bitmap& onto, Point at) {
-    const Rect whole{at, area().size()};
-    onto.fill(whole, ground_);
-    look::sunken(onto, whole);
+    paintGround(onto, at);
     bar_.paint(onto, at);
     const look::Clip clip(onto, {at + inside().at() - Point{1, 0}, {inside().w + 2, inside().h}});
     if (clip.empty()) return;
-    const auto end = std::min(lineCount(), bar_.position() + visibleLines());
-    for (int line = bar_.position(); line < end; ++line) {
-        const int y = at.y + inside().y + (line - bar_.position()) * font().lineHeight();
-        paintLine(onto, {at.x + inside().x, y}, static_cast<std::size_t>(line));
+    const int end = std::min(lineCount(), bar_.position() + visibleLines());
+    const std::size_t caretLine = lineOf(caret());
+    for (int row = bar_.position(); row < end; ++row) {
+        const auto line = static_cast<std::size_t>(row);
+        const Point corner{at.x + inside().x, at.y + inside().y + (row - bar_.position()) * font().lineHeight()};
+        paintText(onto, corner, lineText(line));
+        paintSelection(onto, corner, lines_[line].begin, lineText(line));
+        if (line == caretLine) paintCaret(onto, corner, lines_[line].begin, lineText(line));
     }
 }
 
