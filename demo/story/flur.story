@@ -7,8 +7,7 @@ Raum "Flur.lsd"
         WennMerker KELLER_OFFEN
             SetzeZeiger "Kellertreppe" "tuer1.ico"
         EndeWenn
-        WennMerker FLUR_GESEHEN
-        Sonst
+        WennMerker nicht FLUR_GESEHEN
             SetzeMerker FLUR_GESEHEN
             Text "Der Flur im Erdgeschoss. Frisch gewischt."
         EndeWenn
@@ -18,88 +17,59 @@ Raum "Flur.lsd"
         Fläche
             Vieleck 392 182, 436 182, 446 260, 440 378, 374 378, 378 230
         Rechts
-            Ton "velmix-flur-01.wav"
-            Text "Herr Grobbel, der Hausmeister."
-                 "An seinem Ring fehlt etwas: die Schlüssel."
+            Velmix: "Herr Grobbel, der Hausmeister."
+                    "An seinem Ring fehlt etwas: die Schlüssel."
         Links
-            RahmenAuf
-            WennMerker GROBBEL_KENNT
-                WennMerker KELLER_OFFEN
-                    Einbinden "gesicht/grobbel.teil"
-                    Ton "grobbel-flur-01.wav"
-                    Text "$BNa, Junge? Schon unten gewesen? Zieh den Kopf ein. Das Rohr ist von 1912."
+            Gespräch
+                WennMerker GROBBEL_KENNT
+                    WennMerker KELLER_OFFEN
+                        Grobbel: "Na, Junge? Schon unten gewesen? Zieh den Kopf ein. Das Rohr ist von 1912."
+                    Sonst
+                        Grobbel: "Der Schlüssel liegt im Gully im Hof. Da kommt man nicht mit der Hand hinein."
+                                 "Man müsste angeln. Mit etwas, das Eisen mag."
+                    EndeWenn
                 Sonst
-                    Einbinden "gesicht/grobbel.teil"
-                    Ton "grobbel-flur-02.wav"
-                    Text "$BDer Schlüssel liegt im Gully im Hof. Da kommt man nicht mit der Hand hinein."
-                         "$BMan müsste angeln. Mit etwas, das Eisen mag."
+                    SetzeMerker GROBBEL_KENNT
+                    Velmix: "Herr Grobbel, haben Sie eine CD gesehen?"
+                    Grobbel: "Heute Nacht hat es im Keller gebrummt. Bei dem alten Zentrox."
+                             "Der ist seit 1979 abgeschaltet. Ich habe selbst den Stecker gezogen."
+                    Velmix: "Dann lassen Sie mich in den Keller!"
+                    Grobbel: "Tät ich ja. Aber der Schlüssel ist mir in den Gully gefallen. Im Hof."
+                             "Und auf dem Gully liegt der Esel."
+                    Velmix: "Das klingt wie eine Ausrede."
+                    Grobbel: "Es ist eine gute Ausrede. Sie ist wahr."
                 EndeWenn
-            Sonst
-                SetzeMerker GROBBEL_KENNT
-                Einbinden "gesicht/grobbel.teil"
-                Ton "velmix-flur-02.wav"
-                Text "Herr Grobbel, haben Sie eine CD gesehen?"
-                Einbinden "gesicht/grobbel.teil"
-                Ton "grobbel-flur-03.wav"
-                Text "$BHeute Nacht hat es im Keller gebrummt. Bei dem alten Zentrox."
-                     "$BDer ist seit 1979 abgeschaltet. Ich habe selbst den Stecker gezogen."
-                Einbinden "gesicht/grobbel.teil"
-                Ton "velmix-flur-03.wav"
-                Text "Dann lassen Sie mich in den Keller!"
-                Einbinden "gesicht/grobbel.teil"
-                Ton "grobbel-flur-04.wav"
-                Text "$BTät ich ja. Aber der Schlüssel ist mir in den Gully gefallen. Im Hof."
-                     "$BUnd auf dem Gully liegt der Esel."
-                Einbinden "gesicht/grobbel.teil"
-                Ton "velmix-flur-04.wav"
-                Text "Das klingt wie eine Ausrede."
-                Einbinden "gesicht/grobbel.teil"
-                Ton "grobbel-flur-05.wav"
-                Text "$BEs ist eine gute Ausrede. Sie ist wahr."
-            EndeWenn
-            RahmenZu
+            EndeGespräch
         Ablegen
-            WennParameter KUCHEN
-                Ton "grobbel-flur-06.wav"
-                Text "$BLass mal. Ich esse nur, was ich nicht aufwischen muss."
-            Sonst
-                WennParameter SCHLUESSEL
-                    Ton "grobbel-flur-07.wav"
-                    Text "$BDa ist er ja! Behalt ihn. Ich bücke mich heute nicht mehr."
-                Sonst
-                    Fehlerton
-                EndeWenn
-            EndeWenn
+            Bei KUCHEN
+                Grobbel: "Lass mal. Ich esse nur, was ich nicht aufwischen muss."
+            Bei SCHLUESSEL
+                Grobbel: "Da ist er ja! Behalt ihn. Ich bücke mich heute nicht mehr."
 
     Objekt "Eimer"
         Zeiger "hand1.ico"
         Fläche
             Vieleck 306 334, 362 334, 358 400, 310 400
         Rechts
-            Ton "velmix-flur-05.wav"
-            Text "Wasser, ein Schuss Seife und das Gesicht von Herrn Grobbel, verkehrt herum."
+            Velmix: "Wasser, ein Schuss Seife und das Gesicht von Herrn Grobbel, verkehrt herum."
         Links
             WennMerker EIMER
-                Ton "velmix-flur-06.wav"
-                Text "Der Eimer und ich sind fertig miteinander."
+                Velmix: "Der Eimer und ich sind fertig miteinander."
             Sonst
                 Auswahl "Ein voller Eimer. Herr Grobbel dreht mir den Rücken zu."
-                Fall "Umtreten!"
-                    SetzeMerker EIMER
-                    BöseÄndern 1
-                    Ton "platsch.wav"
-                    Text "Platsch."
-                    Ton "grobbel-flur-08.wav"
-                    Text "$BJunge! Das war der ganze Vormittag!"
-                Fall "Wischen helfen."
-                    SetzeMerker EIMER
-                    BöseÄndern -1
-                    Text "Wisch. Wisch. Wring."
-                    Ton "grobbel-flur-09.wav"
-                    Text "$BNa so was. In dreißig Jahren der Erste. Das merk ich mir."
-                Fall "In Ruhe lassen."
-                    Ton "velmix-flur-07.wav"
-                    Text "Vorerst ist das ein Eimer und sonst nichts."
+                    Fall "Umtreten!"
+                        SetzeMerker EIMER
+                        BöseÄndern 1
+                        Ton "platsch.wav"
+                        Text "Platsch."
+                        Grobbel: "Junge! Das war der ganze Vormittag!"
+                    Fall "Wischen helfen."
+                        SetzeMerker EIMER
+                        BöseÄndern -1
+                        Text "Wisch. Wisch. Wring."
+                        Grobbel: "Na so was. In dreißig Jahren der Erste. Das merk ich mir."
+                    Fall "In Ruhe lassen."
+                        Velmix: "Vorerst ist das ein Eimer und sonst nichts."
                 EndeAuswahl
             EndeWenn
 
@@ -108,26 +78,22 @@ Raum "Flur.lsd"
         Fläche
             Vieleck 242 370, 262 370, 292 440, 282 454, 224 454
         Rechts
-            Ton "velmix-flur-08.wav"
-            Text "»NASS«. Ein Schild, das Wort hält."
+            Velmix: "»NASS«. Ein Schild, das Wort hält."
 
     Objekt "Schultasche"
         Zeiger "hand1.ico"
         Fläche
             Vieleck 56 414, 60 350, 84 338, 108 338, 132 352, 136 412
         Rechts
-            Ton "velmix-flur-09.wav"
-            Text "Meine alte Schultasche. Drei Jahre Oberstufe, davon zwei Kilo Krümel."
+            Velmix: "Meine alte Schultasche. Drei Jahre Oberstufe, davon zwei Kilo Krümel."
         Links
             WennMerker ZETTEL
-                Ton "velmix-flur-10.wav"
-                Text "Jetzt ist nur noch der Turnbeutel drin. Den fasse ich nicht an."
+                Velmix: "Jetzt ist nur noch der Turnbeutel drin. Den fasse ich nicht an."
             Sonst
                 SetzeMerker ZETTEL
                 NimmGegenstand "spickzettel.bmp"
-                Ton "velmix-flur-11.wav"
-                Text "Sieh an: mein Spickzettel aus der Zehnten. Pi, auf vierzig Stellen."
-                     "Ich habe ihn nie benutzt. Ehrlich."
+                Velmix: "Sieh an: mein Spickzettel aus der Zehnten. Pi, auf vierzig Stellen."
+                        "Ich habe ihn nie benutzt. Ehrlich."
             EndeWenn
 
     Objekt "Hefte"
@@ -135,28 +101,24 @@ Raum "Flur.lsd"
         Fläche
             Rechteck 138 388 176 420
         Rechts
-            Ton "velmix-flur-12.wav"
-            Text "Zwei Hefte. Das grüne ist Bio, das blaue ist auch Bio, aber abgeschrieben."
+            Velmix: "Zwei Hefte. Das grüne ist Bio, das blaue ist auch Bio, aber abgeschrieben."
 
     Objekt "Bank"
         Zeiger "auge1.ico"
         Fläche
             Vieleck 10 420, 26 402, 206 402, 214 420, 214 434, 188 476, 34 476
         Rechts
-            Ton "velmix-flur-13.wav"
-            Text "Auf dieser Bank habe ich die halbe Zehnte abgeschrieben."
-                 "Die andere Hälfte auf der nächsten."
+            Velmix: "Auf dieser Bank habe ich die halbe Zehnte abgeschrieben."
+                    "Die andere Hälfte auf der nächsten."
 
     Objekt "Spinde"
         Zeiger "auge1.ico"
         Fläche
             Rechteck 180 156 278 330
         Rechts
-            Ton "velmix-flur-14.wav"
-            Text "Drei Spinde. In einem wohnt angeblich ein Pausenbrot von 1996."
+            Velmix: "Drei Spinde. In einem wohnt angeblich ein Pausenbrot von 1996."
         Links
-            Ton "velmix-flur-15.wav"
-            Text "Abgeschlossen. Von innen, wie mir scheint."
+            Velmix: "Abgeschlossen. Von innen, wie mir scheint."
 
     Objekt "Schwarzes Brett"
         Zeiger "auge1.ico"
@@ -164,10 +126,8 @@ Raum "Flur.lsd"
             Rechteck 184 58 276 134
         Rechts
             ZoomIN 166 42 294 138
-            Ton "velmix-flur-16.wav"
-            Text "»Suche Mitfahrgelegenheit in die Zukunft. Biete Kekse.«"
-            Ton "velmix-flur-17.wav"
-            Text "»Bruhks entlaufen. Nicht füttern. Nicht ansprechen. Dr. Ampulla.«"
+            Velmix: "»Suche Mitfahrgelegenheit in die Zukunft. Biete Kekse.«"
+            Velmix: "»Bruhks entlaufen. Nicht füttern. Nicht ansprechen. Dr. Ampulla.«"
             ZoomOUT 166 42 294 138
 
     Objekt "Uhr"
@@ -175,25 +135,22 @@ Raum "Flur.lsd"
         Fläche
             Rechteck 320 58 358 94
         Rechts
-            Ton "velmix-flur-18.wav"
-            Text "Kurz nach zwölf. Oder kurz vor vier in der Aula. Such dir was aus."
+            Velmix: "Kurz nach zwölf. Oder kurz vor vier in der Aula. Such dir was aus."
 
     Objekt "Lautsprecher"
         Zeiger "auge1.ico"
         Fläche
             Rechteck 390 60 424 94
         Rechts
-            Ton "velmix-flur-19.wav"
-            Text "Aus diesem Kasten kam drei Jahre lang nur:"
-                 "»Der Besitzer des roten Fahrrads bitte.«"
+            Velmix: "Aus diesem Kasten kam drei Jahre lang nur:"
+                    "»Der Besitzer des roten Fahrrads bitte.«"
 
     Objekt "Chemietür"
         Zeiger "tuer1.ico"
         Fläche
             Rechteck 78 106 178 330
         Rechts
-            Ton "velmix-flur-20.wav"
-            Text "Chemie. Hinter der Tür zischt es. Wie immer."
+            Velmix: "Chemie. Hinter der Tür zischt es. Wie immer."
         Links
             Raumwechsel "Chemie.lsd"
 
@@ -202,8 +159,7 @@ Raum "Flur.lsd"
         Fläche
             Rechteck 290 106 390 330
         Rechts
-            Ton "velmix-flur-21.wav"
-            Text "Die Bibliothek. Selbst das Schild flüstert."
+            Velmix: "Die Bibliothek. Selbst das Schild flüstert."
         Links
             Raumwechsel "Bibliothek.lsd"
 
@@ -212,8 +168,7 @@ Raum "Flur.lsd"
         Fläche
             Rechteck 472 122 546 252
         Rechts
-            Ton "velmix-flur-22.wav"
-            Text "Die Tür zum Hof. Da hinten scheint das Leben weiterzugehen."
+            Velmix: "Die Tür zum Hof. Da hinten scheint das Leben weiterzugehen."
         Links
             Raumwechsel "Hof.lsd"
 
@@ -222,8 +177,7 @@ Raum "Flur.lsd"
         Fläche
             Vieleck 560 126, 602 108, 602 320, 560 264
         Rechts
-            Ton "velmix-flur-23.wav"
-            Text "Zur Sporthalle. Der Geruch kommt einem entgegen, um einen zu begrüßen."
+            Velmix: "Zur Sporthalle. Der Geruch kommt einem entgegen, um einen zu begrüßen."
         Links
             Raumwechsel "Sporthalle.lsd"
 
@@ -232,44 +186,36 @@ Raum "Flur.lsd"
         Fläche
             Rechteck 614 138 640 198
         Rechts
-            Ton "velmix-flur-24.wav"
-            Text "»Tischtennis-Turnier! Kessa gegen alle!« Alle haben abgesagt."
+            Velmix: "»Tischtennis-Turnier! Kessa gegen alle!« Alle haben abgesagt."
 
     Objekt "Kellertreppe"
         Zeiger "auge1.ico"
         Fläche
             Vieleck 486 332, 640 342, 640 480, 478 480
         Rechts
-            Ton "velmix-flur-25.wav"
-            Text "Die Treppe in den Keller. Von unten riecht es nach warmem Staub."
+            Velmix: "Die Treppe in den Keller. Von unten riecht es nach warmem Staub."
         Links
             WennMerker KELLER_OFFEN
                 Raumwechsel "Keller.lsd"
             Sonst
                 Ton "ruetteln.wav"
                 Text "Rüttel. Rüttel."
-                Ton "velmix-flur-26.wav"
-                Text "Am Fuß der Treppe ist ein Gitter. Abgeschlossen."
+                Velmix: "Am Fuß der Treppe ist ein Gitter. Abgeschlossen."
             EndeWenn
         Ablegen
-            WennParameter SCHLUESSEL
+            Bei SCHLUESSEL
                 GibGegenstand "schluessel.bmp"
                 SetzeMerker KELLER_OFFEN
                 SetzeZeiger "Kellertreppe" "tuer1.ico"
                 Ton "schloss.wav"
                 Text "Klack."
-                Ton "velmix-flur-27.wav"
-                Text "Offen! Es weht warm herauf. Und irgendetwas summt."
-            Sonst
-                Fehlerton
-            EndeWenn
+                Velmix: "Offen! Es weht warm herauf. Und irgendetwas summt."
 
     Objekt "Aulatür"
         Zeiger "tuer1.ico"
         Fläche
             Vieleck 6 92, 50 104, 50 336, 6 350
         Rechts
-            Ton "velmix-flur-28.wav"
-            Text "Zurück in die Aula."
+            Velmix: "Zurück in die Aula."
         Links
             Raumwechsel "Start.lsd"

@@ -14,20 +14,15 @@ Raum "Keller.lsd"
             WennMerker PI_FERTIG
                 SetzeZeiger "Stahltür" "tuer1.ico"
             EndeWenn
-        Sonst
-            WennMerker KELLER_GESEHEN
-            Sonst
-                SetzeMerker KELLER_GESEHEN
-                Ton "velmix-keller-01.wav"
-                Text "Dunkel. Da ist das Feuer vom Kessel, da leuchtet ein Schloss."
-                     "Und da leuchten Augen. Ich sehe lieber nicht hin."
-            EndeWenn
+        SonstWenn nicht KELLER_GESEHEN
+            SetzeMerker KELLER_GESEHEN
+            Velmix: "Dunkel. Da ist das Feuer vom Kessel, da leuchtet ein Schloss."
+                    "Und da leuchten Augen. Ich sehe lieber nicht hin."
         EndeWenn
         WennMerker HINAUSGEWORFEN
             LöscheMerker HINAUSGEWORFEN
-            Ton "velmix-keller-02.wav"
-            Text "Er hat mich hinausgeworfen! Zum Glück schafft er das Löschen nicht so schnell."
-                 "Ich muss ihn vorher besänftigen. Mit etwas, das er von früher kennt."
+            Velmix: "Er hat mich hinausgeworfen! Zum Glück schafft er das Löschen nicht so schnell."
+                    "Ich muss ihn vorher besänftigen. Mit etwas, das er von früher kennt."
         EndeWenn
 
     Objekt "Sicherungskasten"
@@ -37,23 +32,19 @@ Raum "Keller.lsd"
         Rechts
             ZoomIN 96 136 216 226
             WennMerker LICHT
-                Ton "velmix-keller-03.wav"
-                Text "Sechs Sicherungen, alle drin. Sie summen im Chor."
+                Velmix: "Sechs Sicherungen, alle drin. Sie summen im Chor."
             Sonst
-                Ton "velmix-keller-04.wav"
-                Text "Sechs Plätze, fünf Sicherungen. Neben dem leeren steht »Licht«."
+                Velmix: "Sechs Plätze, fünf Sicherungen. Neben dem leeren steht »Licht«."
             EndeWenn
             ZoomOUT 96 136 216 226
         Links
             WennMerker LICHT
-                Ton "velmix-keller-05.wav"
-                Text "Ich lasse ihn in Ruhe. Jetzt, wo er funktioniert."
+                Velmix: "Ich lasse ihn in Ruhe. Jetzt, wo er funktioniert."
             Sonst
-                Ton "velmix-keller-06.wav"
-                Text "Mit dem Finger? Ich bin jung, aber nicht so jung."
+                Velmix: "Mit dem Finger? Ich bin jung, aber nicht so jung."
             EndeWenn
         Ablegen
-            WennParameter SICHERUNG
+            Bei SICHERUNG
                 GibGegenstand "sicherung.bmp"
                 SetzeMerker LICHT
                 Ton "klick.wav"
@@ -61,16 +52,9 @@ Raum "Keller.lsd"
                 ObjektAn "Maus"
                 ObjektAn "Regal"
                 ObjektAn "Kiste"
-                Ton "velmix-keller-07.wav"
-                Text "Es werde Licht! Ach, die Augen waren gar keine. Das war der Staub."
-            Sonst
-                WennParameter SPICKZETTEL
-                    Ton "velmix-keller-08.wav"
-                    Text "Papier leitet nicht. Steht auf dem Zettel, hinten."
-                Sonst
-                    Fehlerton
-                EndeWenn
-            EndeWenn
+                Velmix: "Es werde Licht! Ach, die Augen waren gar keine. Das war der Staub."
+            Bei SPICKZETTEL
+                Velmix: "Papier leitet nicht. Steht auf dem Zettel, hinten."
 
     Objekt "Stahltür"
         Zeiger "hand1.ico"
@@ -78,39 +62,34 @@ Raum "Keller.lsd"
             Rechteck 236 70 406 302
         Rechts
             ZoomIN 240 90 400 210
-            Ton "velmix-keller-09.wav"
-            Text "»Rechenzentrum«. Und ein Schloss der Mathe-AG: Wer Pi tippen kann, darf hinein."
+            Velmix: "»Rechenzentrum«. Und ein Schloss der Mathe-AG: Wer Pi tippen kann, darf hinein."
             ZoomOUT 240 90 400 210
         Links
             WennMerker PI_FERTIG
                 Raumwechsel "Zentrox.lsd"
-            Sonst
-                WennMerker LICHT
-                    Marke PI
-                    Spiel PI PI_SIEG
-                    Musik "keller.mid"
-                    WennMerker PI_SIEG
-                        SetzeMerker PI_FERTIG
-                        SetzeZeiger "Stahltür" "tuer1.ico"
-                        Ton "schloss.wav"
-                        Text "Klack. Klack. Klack. Wusch."
-                        Ton "velmix-keller-10.wav"
-                        Text "Vierzig Stellen! Meine Finger sind jetzt irrational. Aber die Tür ist offen."
-                    Sonst
-                        SetzeMerker PI_VERLOREN
-                        Auswahl "»Falsch«, sagt das Schloss. Es klingt nach Frau Orlix."
+            SonstWenn LICHT
+                Marke PI
+                Spiel PI PI_SIEG
+                Musik "keller.mid"
+                WennMerker PI_SIEG
+                    SetzeMerker PI_FERTIG
+                    SetzeZeiger "Stahltür" "tuer1.ico"
+                    Ton "schloss.wav"
+                    Text "Klack. Klack. Klack. Wusch."
+                    Velmix: "Vierzig Stellen! Meine Finger sind jetzt irrational. Aber die Tür ist offen."
+                Sonst
+                    SetzeMerker PI_VERLOREN
+                    Auswahl "»Falsch«, sagt das Schloss. Es klingt nach Frau Orlix."
                         Fall "Noch einmal!"
                             Springe PI
                         Option "Durchatmen. Vielleicht habe ich noch einen Zettel."
-                        EndeAuswahl
-                    EndeWenn
-                Sonst
-                    Ton "velmix-keller-11.wav"
-                    Text "Ich sehe die Tasten nicht. Erst brauche ich Licht."
+                    EndeAuswahl
                 EndeWenn
+            Sonst
+                Velmix: "Ich sehe die Tasten nicht. Erst brauche ich Licht."
             EndeWenn
         Ablegen
-            WennParameter SPICKZETTEL
+            Bei SPICKZETTEL
                 WennMerker PI_VERLOREN
                     GibGegenstand "spickzettel.bmp"
                     BöseÄndern 1
@@ -118,43 +97,31 @@ Raum "Keller.lsd"
                     SetzeZeiger "Stahltür" "tuer1.ico"
                     Ton "schloss.wav"
                     Text "Klack. Klack. Klack."
-                    Ton "velmix-keller-12.wav"
-                    Text "Drei, Komma, eins, vier und so weiter, abgelesen bis zur vierzigsten."
-                         "Offen. Archimedes dreht sich im Kreis."
+                    Velmix: "Drei, Komma, eins, vier und so weiter, abgelesen bis zur vierzigsten."
+                            "Offen. Archimedes dreht sich im Kreis."
                 Sonst
-                    Ton "velmix-keller-13.wav"
-                    Text "Erst versuche ich es ehrlich. Das wäre das erste Mal."
+                    Velmix: "Erst versuche ich es ehrlich. Das wäre das erste Mal."
                 EndeWenn
-            Sonst
-                WennParameter MUENZE
-                    Ton "velmix-keller-14.wav"
-                    Text "Kein Münzschlitz. Kein Schlüsselloch. Nur Zahlen."
-                Sonst
-                    Fehlerton
-                EndeWenn
-            EndeWenn
+            Bei MUENZE
+                Velmix: "Kein Münzschlitz. Kein Schlüsselloch. Nur Zahlen."
 
     Objekt "Kessel"
         Zeiger "auge1.ico"
         Fläche
             Rechteck 546 100 640 416
         Rechts
-            Ton "velmix-keller-15.wav"
-            Text "Der Heizkessel. Er frisst Koks, Holz und alte Zeugnisse."
+            Velmix: "Der Heizkessel. Er frisst Koks, Holz und alte Zeugnisse."
         Links
-            Ton "velmix-keller-16.wav"
-            Text "Heiß! Auch ohne Sicherung."
+            Velmix: "Heiß! Auch ohne Sicherung."
 
     Objekt "Ventil"
         Zeiger "rad1.ico"
         Fläche
             Rechteck 478 368 528 442
         Rechts
-            Ton "velmix-keller-17.wav"
-            Text "Ein Ventil. Links steht »auf«, rechts steht »bloß nicht«."
+            Velmix: "Ein Ventil. Links steht »auf«, rechts steht »bloß nicht«."
         Links
-            Ton "velmix-keller-18.wav"
-            Text "Bloß nicht."
+            Velmix: "Bloß nicht."
 
     Objekt "Maus"
         Zeiger "auge1.ico"
@@ -162,8 +129,7 @@ Raum "Keller.lsd"
         Fläche
             Rechteck 164 406 250 444
         Rechts
-            Ton "velmix-keller-19.wav"
-            Text "Eine Maus. Sie hat keine Tasten, ist aber trotzdem praktisch."
+            Velmix: "Eine Maus. Sie hat keine Tasten, ist aber trotzdem praktisch."
         Links
             Ton "maus.wav"
             Text "Piep."
@@ -174,8 +140,7 @@ Raum "Keller.lsd"
         Fläche
             Rechteck 420 140 532 304
         Rechts
-            Ton "velmix-keller-20.wav"
-            Text "Was eine Schule vergisst: 1979, Kreide und eine Schachtel »Nie«."
+            Velmix: "Was eine Schule vergisst: 1979, Kreide und eine Schachtel »Nie«."
 
     Objekt "Kiste"
         Zeiger "auge1.ico"
@@ -183,16 +148,14 @@ Raum "Keller.lsd"
         Fläche
             Vieleck 0 372, 24 322, 98 322, 98 372, 132 372, 132 444, 112 458, 0 458
         Rechts
-            Ton "velmix-keller-21.wav"
-            Text "Zeugnisse seit 1901. Manche sind angesengt. Von den Besitzern."
+            Velmix: "Zeugnisse seit 1901. Manche sind angesengt. Von den Besitzern."
 
     Objekt "Rohre"
         Zeiger "auge1.ico"
         Fläche
             Rechteck 508 36 640 100
         Rechts
-            Ton "velmix-keller-22.wav"
-            Text "Das Rohr von 1912. Ich ziehe den Kopf ein."
+            Velmix: "Das Rohr von 1912. Ich ziehe den Kopf ein."
 
     Objekt "Glühbirne"
         Zeiger "auge1.ico"
@@ -200,11 +163,9 @@ Raum "Keller.lsd"
             Rechteck 306 0 334 66
         Rechts
             WennMerker LICHT
-                Ton "velmix-keller-23.wav"
-                Text "Vierzig Watt reine Zuversicht."
+                Velmix: "Vierzig Watt reine Zuversicht."
             Sonst
-                Ton "velmix-keller-24.wav"
-                Text "Eine Glühbirne. Sie hängt herum wie wir alle."
+                Velmix: "Eine Glühbirne. Sie hängt herum wie wir alle."
             EndeWenn
 
     Objekt "Pfütze"
@@ -212,23 +173,19 @@ Raum "Keller.lsd"
         Fläche
             Rechteck 232 390 364 428
         Rechts
-            Ton "velmix-keller-25.wav"
-            Text "Eine Pfütze. Herr Grobbel nennt sie »das Kellerprojekt«."
+            Velmix: "Eine Pfütze. Herr Grobbel nennt sie »das Kellerprojekt«."
 
     Objekt "Treppe"
         Zeiger "tuer1.ico"
         Fläche
             Vieleck 8 98, 80 96, 80 312, 8 320
         Rechts
-            Ton "velmix-keller-26.wav"
-            Text "Nach oben. Da ist Luft."
+            Velmix: "Nach oben. Da ist Luft."
         Links
             Raumwechsel "Flur.lsd"
 
 Gegenstand "spickzettel.bmp"
     Rechts
-        Ton "velmix-keller-27.wav"
-        Text "»3,1415926535 ...« Vierzig Stellen, Schriftgröße vier. Meine beste Arbeit."
+        Velmix: "»3,1415926535 ...« Vierzig Stellen, Schriftgröße vier. Meine beste Arbeit."
     Links
-        Ton "velmix-keller-28.wav"
-        Text "Ich könnte ihn auswendig lernen. Aber dann wäre es ja Lernen."
+        Velmix: "Ich könnte ihn auswendig lernen. Aber dann wäre es ja Lernen."

@@ -6,11 +6,11 @@ Raum "Laden.lsd"
         Marke SUCHEN
         System Open
         Auswahl "Mein Spind. Hier liegt alles, was ich einmal angefangen habe."
-        Fall "Noch einmal suchen."
-            Springe SUCHEN
-        Fall "Ganz von vorn beginnen."
-            Blende weiß
-            Raumwechsel "Start.lsd"
-        Fall "Zurück ins Menü."
-            System Ende
+            Fall "Noch einmal suchen."
+                Springe SUCHEN
+            Fall "Ganz von vorn beginnen."
+                Blende weiß
+                Raumwechsel "Start.lsd"
+            Fall "Zurück ins Menü."
+                System Ende
         EndeAuswahl

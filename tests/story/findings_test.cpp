@@ -408,7 +408,7 @@ TEST(FindingsOf, WhatIsMeantPerhaps) {
         return asLines(story, checked(story, findings, &data));
     };
     for (const auto& [lines, hint] : std::vector<std::pair<std::string, std::string>>{
-             {"Wenn X", "; gemeint ist vielleicht \"WennMerker\" oder \"WennParameter\"\n"},
+             {"Wenn X", "; gemeint ist vielleicht \"WennMerker\" oder \"WennParameter\" oder \"WennGegenstand\"\n"},
              {"SetzeMerkr X", "; gemeint ist vielleicht \"SetzeMerker\"\n"},
              {"Gehe X", "ist kein Befehl; alle Befehle zeigt"},
              {"# Kommentar", "; ein Kommentar beginnt mit //\n"},

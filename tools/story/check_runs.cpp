@@ -18,7 +18,7 @@ void checkReach(const ScriptView& view, const Flow& flow, Findings& findings) {
     bool told = false;  // one finding for a row of them
     for (std::size_t i = 0; i < commands.size(); ++i) {
         if (flow.reached[i]) told = false;
-        if (flow.reached[i] || isMark(commands[i]) || told) continue;
+        if (flow.reached[i] || isMark(commands[i]) || view.places.commands[i].made || told) continue;
         told = true;
         const Place place = view.places.commands[i].command;
         const std::int32_t before = i > 0 ? commands[i - 1] : "Marke"_op;

@@ -8,6 +8,7 @@
 #include "engine/state/felder.h"
 #include "tools/story/check.h"
 #include "tools/story/flow.h"
+#include "tools/story/names.h"
 
 namespace zentrox::story {
 
@@ -128,12 +129,16 @@ void checkFlags(const Story& story, const Story* rest, Findings& findings) {
     }
     const auto otherwise = [](const std::string& hint, const char* advice) { return hint.empty() ? advice : hint; };
     for (const auto& [name, use] : uses) {
-        if (name.empty()) continue;  // a finding of its own
-        if (use.firstTest && !use.set)
+        if (name.empty()) continue;          // a finding of its own
+        const auto item = itemOfFlag(name);  // a flag of the compiler's own
+        if (item && use.firstTest && !use.set)
+            findings.warning(*use.firstTest, "gegenstand-nie-genommen",
+                             "einen Gegenstand " + shown(*item) + " nimmt niemand, diese Bedingung ist nie wahr");
+        else if (use.firstTest && !use.set)
             findings.warning(*use.firstTest, "merker-nie-gesetzt",
                              "der Merker " + shown(name) + " wird geprüft, aber nirgends gesetzt" +
                                  otherwise(perhaps(name, set), "; das täten SetzeMerker oder Spiel"));
-        if (use.firstSet && !use.tested)
+        if (use.firstSet && !use.tested && !item)
             findings.warning(*use.firstSet, "merker-nie-geprueft",
                              "der Merker " + shown(name) + " wird gesetzt, aber nirgends geprüft" +
                                  otherwise(perhaps(name, tested), "; das täte WennMerker"));

@@ -51,11 +51,14 @@ std::unique_ptr<Fonts> fontsIfAny() {
 int build(const Options& options, const Streams& to) {
     Findings findings;
     SourceFiles files;
-    const Story story = parseSources(sourcesOf(options.words), files, findings);
+    const auto sources = sourcesOf(options.words);
+    const Story story = parseSources(sources, files, findings, neighboursOf(sources));
     checkForBuild(story, findings);
     findings.settle(story);
     to.err << asLines(story, findings);
     if (findings.hasErrors()) return hasFindings;
+    if (!story.voiceTable.path.empty() && writeIfChanged(story.voiceTable.path, story.voiceTable.text))
+        to.out << story.voiceTable.path.string() << "\n";
     for (const fs::path& path : writeStory(story, options.into)) to.out << path.string() << "\n";
     return clean;
 }
@@ -85,8 +88,9 @@ void readSources(const std::vector<std::string>& words, Checked& checked, Findin
     const auto sources = sourcesOf(words);
     SourceFiles files;
     Findings ignored;
-    checked.story = parseSources(sources, files, findings);
-    checked.rest = parseSources(neighboursOf(sources), files, ignored);
+    const auto neighbours = neighboursOf(sources);
+    checked.story = parseSources(sources, files, findings, neighbours);
+    checked.rest = parseSources(neighbours, files, ignored, sources);
     checked.wholeStory = !ignored.hasBroken();
     checked.root = dataRootOf(sources.front());
 }
@@ -154,7 +158,8 @@ int coverage(const Options& options, const Streams& to) {
     needAll(options.ran);
     Findings findings;
     SourceFiles files;
-    const Story story = parseSources(sourcesOf(options.words), files, findings);
+    const auto sources = sourcesOf(options.words);
+    const Story story = parseSources(sources, files, findings, neighboursOf(sources));
     findings.settle(story);
     if (findings.hasErrors()) {
         to.err << asLines(story, findings);

@@ -6,9 +6,12 @@
 
 #include "engine/language/limits.h"
 #include "engine/state/felder.h"
+#include "tools/story/lower.h"
 #include "tools/story/scriptbuilder.h"
 #include "tools/story/shapes.h"
+#include "tools/story/sourcereader.h"
 #include "tools/story/statements.h"
+#include "tools/story/voicetable.h"
 
 namespace zentrox::story {
 
@@ -16,8 +19,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t deepestInclude = 50;
-constexpr int mostIncludes = 10000;
+// Words of scripts that are no commands of the game.
+constexpr std::array formWords{
+    "Roh"_t,          "Option"_t, "WennGegenstand"_t, "SonstWenn"_t, "Bei"_t,       "EndeBei"_t, "Gespräch"_t,
+    "EndeGespräch"_t, "Frage"_t,  "Antwort"_t,        "Schluss"_t,   "EndeFrage"_t, "Rufe"_t};
 
 constexpr std::array<TextView, 3> shapeWords{"Rechteck", "Vieleck", "Maskenbild"};
 
@@ -26,69 +31,38 @@ constexpr std::string_view outsideScript =
 
 class Parser {
 public:
-    Parser(SourceFiles& files, Findings& findings) : files_(files), findings_(findings), builder_(findings) {}
+    Parser(SourceFiles& files, Story& story, const Names& names, Findings& findings)
+        : files_(files),
+          story_(story),
+          names_(names),
+          findings_(findings),
+          builder_(findings) {}
 
-    void source(const fs::path& path) {
-        const auto text = files_.read(path);
-        if (text) return source(path, *text);
-        findings_.broken({fileNumber(path), 1, 1}, "lesen",
-                         "diese Datei lässt sich nicht lesen; gibt es sie, und darf man sie lesen?");
-    }
-
-    void source(const fs::path& path, std::string_view utf8) {
-        open_ = {path};
-        statements(utf8, fileNumber(path));
+    void source(const std::vector<Statement>& statements) {
+        for (const Statement& statement : statements) take(statement);
         closeRoom();
         closeItem();
         level_ = Level::top;
     }
 
-    Story story() { return std::move(story_); }
+    // Items that can be combined and have no script of their own.
+    void combinations() {
+        std::set<Text> done;
+        for (const Combination& made : names_.combinations)
+            for (const Text& picture : {made.first, made.second}) {
+                const Text base = upper(itemName(picture));
+                if (!made.compiled || names_.dropped.contains(base) || !done.insert(base).second) continue;
+                StoryScript script;
+                script.file = itemScriptFile(picture, drop_);
+                script.places.head = made.head[0].place;
+                compile(withCombinations(names_, base, std::nullopt, findings_), script.script, script.places);
+                story_.scripts.push_back(std::move(script));
+            }
+    }
 
 private:
-    enum class Level { top, room, object, item };
+    enum class Level { top, room, object, item, part, person };
     using Handler = void (Parser::*)(const Statement&);
-
-    // --- files
-
-    int fileNumber(const fs::path& path) {
-        const auto [at, isNew] =
-            numbers_.emplace(path.lexically_normal().native(), static_cast<int>(story_.files.size()));
-        if (isNew) story_.files.push_back(path.lexically_normal().generic_string());
-        return at->second;
-    }
-
-    void statements(std::string_view utf8, int file) {
-        for (const Statement& statement : scan(utf8, file, findings_, story_.silences)) take(statement);
-    }
-
-    // A file that the open source names; directories may be told apart as in the game.
-    fs::path besideThis(const Token& name) const {
-        std::string path = toUtf8(name.value);
-        std::replace(path.begin(), path.end(), '\\', '/');
-        return (open_.back().parent_path() / fs::u8path(path)).lexically_normal();
-    }
-
-    void include(const Statement& s) {
-        if (!oneName(s, findings_)) return;
-        const fs::path path = besideThis(s[1]);
-        const bool circle = std::find(open_.begin(), open_.end(), path) != open_.end();
-        if (circle || open_.size() >= deepestInclude || ++includes_ > mostIncludes) {
-            findings_.broken(s[1].place, "einbinden",
-                             shown(s[1].value) + " bindet sich selbst wieder ein; so nähme die Quelle kein Ende");
-            return;
-        }
-        const auto text = files_.read(path);
-        if (!text) {
-            findings_.broken(
-                s[1].place, "einbinden",
-                "die Datei " + shown(s[1].value) + " lässt sich nicht lesen; gesucht wird sie neben dieser");
-            return;
-        }
-        open_.push_back(path);
-        statements(*text, fileNumber(path));
-        open_.pop_back();
-    }
 
     // --- statements
 
@@ -100,13 +74,34 @@ private:
         }
         const auto keyword = keywords().find(normalised(first.value));
         if (keyword != keywords().end()) return (this->*keyword->second)(s);
-        if (const Opcode* const opcode = commandNamed(first.value)) {
-            if (inScript(s)) builder_.command(*opcode, s);
-            return;
-        }
+        if (level_ == Level::person && commandNamed(first.value) && isPersonWord(first)) return;
+        if (speakerOf(s) && !isKeywordWithColon(first)) return toScript(s);
+        if (isScriptWord(first.value)) return toScript(s);
         const std::size_t end = first.value.find_last_not_of(':') + 1;
         if (end > 0 && end < first.value.size()) return takeWithoutColon(s, end);
         findings_.broken(first.place, "wort", unknownWord(first.value, allWords()));
+    }
+
+    void toScript(const Statement& s) {
+        if (level_ != Level::part && inScript(s)) script_.push_back(s);
+    }
+
+    static bool isPersonWord(const Token& first) { return normalised(first.value) == "portrait"; }
+
+    static bool isScriptWord(TextView word) {
+        static const std::set<Text> formed = [] {
+            std::set<Text> words;
+            for (const TextView w : formWords) words.insert(normalised(w));
+            return words;
+        }();
+        return commandNamed(word) || formed.contains(normalised(word));
+    }
+
+    bool isKeywordWithColon(const Token& first) const {
+        TextView word = first.value;
+        if (!word.ends_with(':')) return false;
+        while (word.ends_with(':')) word.remove_suffix(1);
+        return !names_.person(word) && (keywords().contains(normalised(word)) || isScriptWord(word));
     }
 
     // As other languages have it; what is meant is plain enough to go on with.
@@ -121,9 +116,8 @@ private:
         TextView name;
         Handler take;
     };
-    static constexpr std::array<Keyword, 20> keywordTable() {
-        return {{{"Einbinden", &Parser::include},
-                 {"Raum", &Parser::room},
+    static constexpr std::array<Keyword, 23> keywordTable() {
+        return {{{"Raum", &Parser::room},
                  {"Gegenstand", &Parser::item},
                  {"Skriptdatei", &Parser::scriptFile},
                  {"Bild", &Parser::picture},
@@ -140,8 +134,12 @@ private:
                  {"Rechts", &Parser::right},
                  {"Links", &Parser::left},
                  {"Ablegen", &Parser::drop},
-                 {"Roh", &Parser::rawCommand},
-                 {"Option", &Parser::option}}};
+                 {"Person", &Parser::person},
+                 {"Farbe", &Parser::personLine},
+                 {"Stimme", &Parser::personLine},
+                 {"Spieler", &Parser::personLine},
+                 {"Skriptteil", &Parser::part},
+                 {"Kombiniere", &Parser::part}}};
     }
 
     static const std::map<Text, Handler, std::less<>>& keywords() {
@@ -157,6 +155,8 @@ private:
         std::vector<Text> known;
         for (const Keyword& keyword : keywordTable()) known.emplace_back(keyword.name);
         for (const Opcode& opcode : opcodes()) known.emplace_back(opcode.name);
+        known.insert(known.end(), formWords.begin(), formWords.end());
+        known.emplace_back("Einbinden");
         return known;
     }
 
@@ -181,13 +181,6 @@ private:
         return false;
     }
 
-    void rawCommand(const Statement& s) {
-        if (inScript(s)) builder_.raw(s);
-    }
-    void option(const Statement& s) {
-        if (inScript(s)) builder_.option(s);
-    }
-
     void openScript(Skript& script, ScriptPlaces& places, Place head) {
         places.head = head;
         toScript_ = &script;
@@ -195,9 +188,21 @@ private:
     }
 
     void closeScript() {
-        if (toScript_) builder_.finish(*toScript_, *toPlaces_);
+        if (toScript_) {
+            Nodes nodes = readTree(script_, findings_);
+            if (!combined_.empty()) nodes = withCombinations(names_, combined_, std::move(nodes), findings_);
+            compile(nodes, *toScript_, *toPlaces_);
+        }
+        combined_.clear();
+        script_.clear();
         toScript_ = nullptr;
         complained_ = false;
+    }
+
+    void compile(const Nodes& nodes, Skript& script, ScriptPlaces& places) {
+        for (const PlainCommand& command : plainCommands(nodes, {where_}, names_, findings_))
+            builder_.take(command);
+        builder_.finish(script, places);
     }
 
     // --- rooms
@@ -229,10 +234,28 @@ private:
         room_.file = s[1].value;
         std::replace(room_.file.begin(), room_.file.end(), '/', '\\');
         keepRoom_ = isNew("raum ", {false, room_.file, s[1].place});
+        where_ = stemOf(room_.file);
+    }
+
+    // Things of the room that can be taken.
+    const std::vector<Takeable>& takeables() const {
+        static const std::vector<Takeable> none;
+        const auto found = names_.takeables.find(lower(room_.file));
+        return found == names_.takeables.end() ? none : found->second;
+    }
+
+    void putAbsences() {
+        for (const Takeable& thing : takeables())
+            for (Statement& s : absenceOf(thing)) script_.push_back(std::move(s));
     }
 
     void closeRoom() {
         closeObject();
+        if (level_ == Level::room && keepRoom_ && !takeables().empty() && !roomSeen_.contains("start")) {
+            openScript(room_.room.Startskript, room_.start, takeables().front().head[0].place);
+            putAbsences();
+            closeScript();
+        }
         if (level_ == Level::room && keepRoom_) {
             room_.room.LetztesObjekt = static_cast<std::int32_t>(room_.room.Objekte.size()) - 1;
             story_.rooms.push_back(std::move(room_));
@@ -259,13 +282,16 @@ private:
                                  " Zeichen und keine Leerzeichen am Rand");
     }
 
-    void start(const Statement& s) { roomScript(s, room_.room.Startskript, room_.start); }
+    void start(const Statement& s) {
+        if (roomScript(s, room_.room.Startskript, room_.start)) putAbsences();
+    }
     void countDown(const Statement& s) { roomScript(s, room_.room.CountDownSkript, room_.countDown); }
 
-    void roomScript(const Statement& s, Skript& script, ScriptPlaces& places) {
-        if (!inRoom(s) || !onceInRoom(s)) return;
+    bool roomScript(const Statement& s, Skript& script, ScriptPlaces& places) {
+        if (!inRoom(s) || !onceInRoom(s)) return false;
         noWords(s, findings_);
         openScript(script, places, s.front().place);
+        return true;
     }
 
     // --- objects
@@ -278,7 +304,11 @@ private:
         objectPlaces_ = {};
         object_.Aktiv = true;
         objectPlaces_.name = objectPlaces_.pointer = s.front().place;
-        if (!oneName(s, findings_)) return;
+        taking_ = nullptr;
+        for (const Takeable& thing : takeables())
+            if (thing.head[0].place == s.front().place) taking_ = &thing;
+        const bool takeable = s.size() > 2 && !s[2].quoted && normalised(s[2].value) == "einsteckbar";
+        if (!takeable && !oneName(s, findings_)) return;
         object_.Name = s[1].value;
         objectPlaces_.name = s[1].place;
     }
@@ -286,9 +316,19 @@ private:
     void closeObject() {
         closeScript();
         if (level_ != Level::object) return;
+        if (taking_ && !objectSeen_.contains("links")) {
+            object_.HatSkript[use_] = true;
+            openScript(object_.Aktion[use_], objectPlaces_.action[use_], objectPlaces_.name);
+            putTaking();
+            closeScript();
+        }
         room_.room.Objekte.push_back(std::move(object_));
         room_.objects.push_back(std::move(objectPlaces_));
         level_ = Level::room;
+    }
+
+    void putTaking() {
+        for (Statement& s : takingOf(*taking_)) script_.push_back(std::move(s));
     }
 
     bool inObjectHead(const Statement& s) {
@@ -335,22 +375,23 @@ private:
 
     void maskPicture(const Statement& s) {
         if (!inObjectHead(s) || !oneName(s, findings_)) return;
-        takePicture(s, files_.picture(besideThis(s[1])), object_.Maske, findings_);
+        takePicture(s, files_.picture(besideSource(story_, s[1])), object_.Maske, findings_);
     }
 
     void right(const Statement& s) { action(s, 0); }
-    void left(const Statement& s) { action(s, 1); }
-    void drop(const Statement& s) { action(s, 2); }
+    void left(const Statement& s) { action(s, use_); }
+    void drop(const Statement& s) { action(s, drop_); }
 
     void action(const Statement& s, std::size_t which) {
         closeScript();
-        if (level_ == Level::item) return itemScript(s, which);
+        if (level_ == Level::item) return openItemScript(s, which);
         if (level_ != Level::object) return void(misplaced(s, " gehört in ein Objekt oder einen Gegenstand"));
         if (!onceInObject(s, normalised(s.front().value))) return;
         const bool off = s.size() == 2 && normalised(s[1].value) == "aus";
         if (!off) noWords(s, findings_);
         object_.HatSkript[which] = !off;
         openScript(object_.Aktion[which], objectPlaces_.action[which], s.front().place);
+        if (taking_ && which == use_ && !off) putTaking();
     }
 
     // --- items
@@ -359,27 +400,33 @@ private:
         closeRoom();
         closeItem();
         level_ = Level::item;
-        keepItem_ = oneName(s, findings_) && isItemPicture(s[1], findings_);
+        const bool named = s.size() > 3 && !s[2].quoted && normalised(s[2].value) == "heisst";
+        keepItem_ = named || oneName(s, findings_);
         if (!keepItem_) return;
         item_ = s[1];
+        if (!item_.quoted) item_.value = names_.pictureOf(s[1]);
+        keepItem_ = isItemPicture(item_, findings_);
+        if (!keepItem_) return;
+        where_ = lower(itemName(item_.value));
         story_.items.push_back({item_.value, item_.place});
     }
 
     void closeItem() {
         closeScript();
-        if (level_ == Level::item && keepScript_) story_.scripts.push_back(std::move(script_));
+        if (level_ == Level::item && keepScript_) story_.scripts.push_back(std::move(itemScript_));
         keepScript_ = false;
         if (level_ == Level::item) level_ = Level::top;
     }
 
-    void itemScript(const Statement& s, std::size_t which) {
+    void openItemScript(const Statement& s, std::size_t which) {
         closeItem();
         level_ = Level::item;
         noWords(s, findings_);
-        script_ = {};
-        if (keepItem_) script_.file = itemScriptFile(item_.value, which);
-        keepScript_ = keepItem_ && isNew("skript ", {false, script_.file, s.front().place});
-        openScript(script_.script, script_.places, s.front().place);
+        itemScript_ = {};
+        if (keepItem_) itemScript_.file = itemScriptFile(item_.value, which);
+        keepScript_ = keepItem_ && isNew("skript ", {false, itemScript_.file, s.front().place});
+        openScript(itemScript_.script, itemScript_.places, s.front().place);
+        if (which == drop_ && keepItem_) combined_ = upper(itemName(item_.value));
     }
 
     // A script file under any name, for what is not named after an item.
@@ -388,50 +435,115 @@ private:
         closeItem();
         level_ = Level::item;
         keepItem_ = false;
-        script_ = {};
+        itemScript_ = {};
         keepScript_ = oneName(s, findings_) && isScriptFile(s[1], findings_) && isNew("skript ", s[1]);
-        if (keepScript_) script_.file = s[1].value;
-        openScript(script_.script, script_.places, s.front().place);
+        if (keepScript_) itemScript_.file = s[1].value;
+        if (keepScript_) where_ = stemOf(s[1].value);
+        openScript(itemScript_.script, itemScript_.places, s.front().place);
     }
 
+    // --- people and parts of scripts, which have been read already
+
+    void person(const Statement& /*s*/) {
+        closeRoom();
+        closeItem();
+        level_ = Level::person;
+    }
+
+    void personLine(const Statement& s) {
+        if (level_ != Level::person) misplaced(s, " gehört zu einer Person; davor fehlt Person NAME");
+    }
+
+    // What stands in it is compiled where it is called.
+    void part(const Statement& /*s*/) {
+        closeRoom();
+        closeItem();
+        level_ = Level::part;
+        where_.clear();
+    }
+
+    static constexpr std::size_t use_ = 1;
+    static constexpr std::size_t drop_ = 2;
+
     SourceFiles& files_;
+    Story& story_;
+    const Names& names_;
     Findings& findings_;
-    Story story_;
-    std::map<std::string, int> numbers_;
-    std::vector<fs::path> open_;  // the source that is read, and those that include it
     std::map<Text, Place> written_;
 
     ScriptBuilder builder_;
-    Skript* toScript_ = nullptr;  // where the open script goes
+    std::vector<Statement> script_;  // the open one
+    Skript* toScript_ = nullptr;     // where it goes
     ScriptPlaces* toPlaces_ = nullptr;
+    Text where_;     // after which its own flags are named
+    Text combined_;  // the item whose combinations belong to it
     StoryRoom room_;
     std::set<Text> roomSeen_;
     RaumObjekt object_;
     ObjectPlaces objectPlaces_;
     std::set<Text> objectSeen_;
+    const Takeable* taking_ = nullptr;  // if the object is one
     Token item_;
-    StoryScript script_;
+    StoryScript itemScript_;
 
     Level level_ = Level::top;
-    int includes_ = 0;
     bool complained_ = false;  // one finding is enough for a row of commands outside of scripts
     bool keepRoom_ = false;
     bool keepItem_ = false;
     bool keepScript_ = false;
 };
 
+// Reads and compiles in the order in which names are needed: those of all sources come first.
+class Compiler {
+public:
+    Compiler(SourceFiles& files, Findings& findings) : files_(files), findings_(findings), reader_(files, story_) {}
+
+    void read(const fs::path& path) { sources_.push_back({reader_.read(path, findings_), true}); }
+    void read(const fs::path& path, std::string_view utf8) {
+        sources_.push_back({reader_.read(path, utf8, findings_), true});
+    }
+    // A source that is not compiled, but whose names count.
+    void know(const fs::path& path) {
+        Findings ignored;
+        sources_.push_back({reader_.read(path, ignored), false});
+    }
+
+    Story compile(const fs::path& voices) {
+        Names names = readNames(sources_, findings_);
+        if (!names.spoken.empty()) {
+            VoiceTable table(files_.read(voices).value_or(""), reader_.fileNumber(voices), findings_);
+            names.voices = table.assign(names.spoken);
+            story_.voiceTable = {voices, table.written()};
+        }
+        Parser parser(files_, story_, names, findings_);
+        for (const Source& source : sources_)
+            if (source.compiled) parser.source(source.statements);
+        parser.combinations();
+        return std::move(story_);
+    }
+
+private:
+    SourceFiles& files_;
+    Findings& findings_;
+    Story story_;
+    SourceReader reader_;
+    std::vector<Source> sources_;
+};
+
 }  // namespace
 
-Story parseSources(const std::vector<fs::path>& sources, SourceFiles& files, Findings& findings) {
-    Parser parser(files, findings);
-    for (const fs::path& path : sources) parser.source(path);
-    return parser.story();
+Story parseSources(const std::vector<fs::path>& sources, SourceFiles& files, Findings& findings,
+                   const std::vector<fs::path>& known) {
+    Compiler compiler(files, findings);
+    for (const fs::path& path : sources) compiler.read(path);
+    for (const fs::path& path : known) compiler.know(path);
+    return compiler.compile(sources.empty() ? fs::path() : sources.front().parent_path() / voiceTableFile);
 }
 
 Story parseSource(std::string_view utf8, const std::string& name, SourceFiles& files, Findings& findings) {
-    Parser parser(files, findings);
-    parser.source(fs::u8path(name), utf8);
-    return parser.story();
+    Compiler compiler(files, findings);
+    compiler.read(fs::u8path(name), utf8);
+    return compiler.compile(fs::u8path(name).parent_path() / voiceTableFile);
 }
 
 }  // namespace zentrox::story

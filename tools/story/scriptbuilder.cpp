@@ -34,6 +34,22 @@ void ScriptBuilder::add(std::int32_t number, Text argument, Place command, std::
     places_.commands.push_back({command, std::move(argumentPlaces), raw});
 }
 
+void ScriptBuilder::take(const PlainCommand& plain) {
+    const std::size_t before = places_.commands.size();
+    const Token& first = plain.words.front();
+    const Opcode* const opcode = commandNamed(first.value);
+    if (opcode)
+        command(*opcode, plain.words);
+    else if (normalised(first.value) == "roh")
+        raw(plain.words);
+    else if (normalised(first.value) == "option")
+        option(plain.words);
+    for (std::size_t i = before; i < places_.commands.size(); ++i) {
+        places_.commands[i].made = plain.made;
+        places_.commands[i].speaker = plain.speaker;
+    }
+}
+
 void ScriptBuilder::command(const Opcode& opcode, const Statement& statement) {
     const Place place = statement.front().place;
     const auto words = std::span(statement).subspan(1);

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "tools/story/grammar.h"
+#include "tools/story/lower.h"
 
 namespace zentrox::story {
 
@@ -12,17 +13,20 @@ class ScriptBuilder {
 public:
     explicit ScriptBuilder(Findings& findings) : findings_(findings) {}
 
-    // Takes one statement whose first word is the name of this command.
+    // Takes one plain command.
+    void take(const PlainCommand& command);
+
+    // Ends the script and gives it away.
+    void finish(Skript& script, ScriptPlaces& places);
+
+private:
+    // One statement whose first word is the name of this command.
     void command(const Opcode& opcode, const Statement& statement);
     // `Option "TEXT"`: an option of the open choice that has no case of its own.
     void option(const Statement& statement);
     // `Roh NAME-OR-NUMBER "ARGUMENT"`: one instruction just as it is.
     void raw(const Statement& statement);
 
-    // Ends the script and gives it away.
-    void finish(Skript& script, ScriptPlaces& places);
-
-private:
     struct Choice {
         std::size_t index = 0;  // of its instruction
         Text question;

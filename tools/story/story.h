@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,8 @@ struct CommandPlace {
     std::vector<Place> argument;  // where its argument stands; of a shown text one for each line; may be empty
     bool raw = false;             // written with `Roh`: the author takes it as it is
     bool broken = false;          // it could not be compiled, which is a finding already
+    bool made = false;            // by the compiler alone, so that nobody is told that it is superfluous
+    Text speaker;                 // who says it, if it is a line of a person
 };
 
 struct ScriptPlaces {
@@ -75,6 +78,13 @@ struct Story {
         Place place;
     };
     std::vector<Item> items;
+
+    // The table of spoken lines beside the sources, and what it has to hold now; no path if nobody speaks.
+    struct VoiceTable {
+        std::filesystem::path path;
+        std::string text;
+    };
+    VoiceTable voiceTable;
 };
 
 // One script of a story and where it belongs.

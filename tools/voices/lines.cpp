@@ -96,7 +96,10 @@ private:
 
     void lookAtText(const story::ScriptView& view, int index) {
         if (is(view, index - 1, "Ton"_op)) return;
-        if (colourOf(argument(view, index)) != '-' || is(view, index - 1, "Portrait"_op))
+        // In a talk the compiler shows the faces while a narrator speaks, too.
+        const bool face =
+            is(view, index - 1, "Portrait"_op) && !view.places.commands[static_cast<std::size_t>(index) - 1].made;
+        if (colourOf(argument(view, index)) != '-' || face)
             findings_.error(placeOf(view, index), "text-ohne-ton",
                             "Hier spricht jemand, aber kein „Ton“ geht voraus.");
     }
