@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/codec/memoryfiles.h"
 #include "platform/values/error.h"
 
 namespace zentrox {
@@ -100,6 +101,12 @@ public:
         return whole ? std::optional(std::move(bytes)) : std::nullopt;
     }
 
+    fs::path open(std::size_t entry) override {
+        if (fs::path kept = memory_.find(entry); !kept.empty()) return kept;
+        const auto bytes = read(entry);
+        return bytes ? memory_.add(entry, *bytes) : fs::path();
+    }
+
 private:
     struct Entry {
         std::uint64_t index;
@@ -133,6 +140,7 @@ private:
     std::vector<std::string> names_;
     std::vector<Entry> entries_;
     std::set<Text> taken_;
+    MemoryFiles memory_;
     std::uint64_t total_ = 0;
 };
 

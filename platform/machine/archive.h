@@ -3,12 +3,10 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <list>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/values/text.h"
@@ -23,6 +21,9 @@ public:
     virtual const std::vector<std::string>& names() const = 0;
     // Nothing if the entry is damaged.
     virtual std::optional<std::string> read(std::size_t entry) = 0;
+    // A path of the system under which this process can open the entry's bytes. They lie in memory that goes when
+    // nothing has it open and some other entries have been asked for. Empty if the entry is damaged.
+    virtual std::filesystem::path open(std::size_t entry) = 0;
 };
 
 // Paths are those of the game, from the top of the archive on, in any case.
@@ -36,18 +37,12 @@ public:
     // The names of the files directly in a directory.
     std::vector<Text> list(TextView directory) const;
     std::optional<std::string> read(std::size_t entry) { return archive_->read(entry); }
-    // A path of the system under which the entry's bytes can be opened by this process. They lie in memory that
-    // goes when nothing has it open and some other entries have been asked for. Empty if the entry is damaged.
-    std::filesystem::path open(std::size_t entry);
+    std::filesystem::path open(std::size_t entry) { return archive_->open(entry); }
 
 private:
-    class Memory;
-    static constexpr std::size_t keptOpen = 16;
-
     std::unique_ptr<Archive> archive_;
     std::vector<Text> spelled_;
-    std::map<Text, std::size_t> byName_;                               // in upper case
-    std::list<std::pair<std::size_t, std::shared_ptr<Memory>>> open_;  // what was asked for last is in front
+    std::map<Text, std::size_t> byName_;  // in upper case
 };
 
 }  // namespace zentrox
