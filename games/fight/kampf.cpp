@@ -126,31 +126,26 @@ bool Energie::Nachzählen() {
     return true;
 }
 
-Kampf::Kampf(Random& random, const Techniken6& angriff, const Techniken6& abwehr)
-    : random_(random),
-      angriff_(angriff),
-      abwehr_(abwehr) {}
-
-Folge Kampf::Weiter() {
-    switch (stand_) {
-        case Stand::vorspiel: stand_ = Stand::Velmix; return vorspiel();
-        case Stand::Velmix:
-            if (EnergieS.wert == 0) return Ende(niederlage());
-            if (runde_ == angriff_.size()) return Ende(letzterAngriff());
-            return ZugVelmix();
-        case Stand::Brokan: gewonnen_ = EnergieJ.wert == 0; return gewonnen_ ? Ende(sieg()) : ZugBrokan();
-        case Stand::vorbei: break;
+Folge Kampf::Weiter(Random& zufall) {
+    switch (Stand) {
+        case Kampfstand::vorspiel: Stand = Kampfstand::Velmix; return vorspiel();
+        case Kampfstand::Velmix:
+            if (EnergieS.wert == 0) return ende(niederlage());
+            if (Runde == Angriff.size()) return ende(letzterAngriff());
+            return zugVelmix(zufall);
+        case Kampfstand::Brokan: Gewonnen = EnergieJ.wert == 0; return Gewonnen ? ende(sieg()) : zugBrokan(zufall);
+        case Kampfstand::vorbei: break;
     }
     return {};
 }
 
-Folge Kampf::Ende(Folge ende) {
-    stand_ = Stand::vorbei;
+Folge Kampf::ende(Folge ende) {
+    Stand = Kampfstand::vorbei;
     return ende;
 }
 
-Folge Kampf::Treffer(const Schlag& schlag) {
-    const std::int32_t schaden = Runden(random_.draw() * streuung + schlag.grund);
+Folge Kampf::treffer(const Schlag& schlag, Random& zufall) {
+    const std::int32_t schaden = Runden(zufall.draw() * streuung + schlag.grund);
     const bool vonVelmix = schlag.wer == Kämpfer::Velmix;
     std::int32_t& getroffen = (vonVelmix ? EnergieJ : EnergieS).wert;
     getroffen = std::max(getroffen - schaden, 0);
@@ -158,24 +153,24 @@ Folge Kampf::Treffer(const Schlag& schlag) {
             energie(vonVelmix ? Kämpfer::Brokan : Kämpfer::Velmix)};
 }
 
-Folge Kampf::ZugVelmix() {
-    stand_ = Stand::Brokan;
-    const std::int32_t a = angriff_[runde_];
-    trankBenutzt_ = a == Trank;
+Folge Kampf::zugVelmix(Random& zufall) {
+    Stand = Kampfstand::Brokan;
+    const std::int32_t a = Angriff[Runde];
+    TrankBenutzt = a == Trank;
     Folge zug{bild(ruhe), warten(2000)};
-    if (trankBenutzt_) {
-        anhängen(zug, Zaubertrank());
-    } else if (random_.draw() < blockChance) {
+    if (TrankBenutzt) {
+        anhängen(zug, zaubertrank(zufall));
+    } else if (zufall.draw() < blockChance) {
         anhängen(zug, deckung(a + 1, Kämpfer::Velmix));
     } else {
         anhängen(zug, {angriffsbild(a + 1, gelandet), klang("schlag2.wav"), warten(2000), bild("KampfT.jpg"),
                        klang("BrokanF22a.wav")});
-        anhängen(zug, Treffer(schlagVelmix));
+        anhängen(zug, treffer(schlagVelmix, zufall));
     }
     return zug;
 }
 
-Folge Kampf::Zaubertrank() {
+Folge Kampf::zaubertrank(Random& zufall) {
     constexpr std::int32_t schlucke = 10;
     Folge zug{schrift("Zaubertrank", Kämpfer::Velmix), warten(2000)};
     for (std::int32_t n = 0; n < schlucke; ++n) {
@@ -184,24 +179,24 @@ Folge Kampf::Zaubertrank() {
         if (n == 7) zug.push_back(klang("bionic.wav"));
     }
     anhängen(zug, {bild("KampfSS" + std::to_string(schlucke) + ".jpg"), klang("schlag2.wav")});
-    anhängen(zug, Treffer(trankschlag));
+    anhängen(zug, treffer(trankschlag, zufall));
     return zug;
 }
 
-Folge Kampf::ZugBrokan() {
-    stand_ = Stand::Velmix;
+Folge Kampf::zugBrokan(Random& zufall) {
+    Stand = Kampfstand::Velmix;
     Folge zug{bild(ruhe), warten(2000)};
-    if (EnergieS.wert - EnergieJ.wert > großerVorsprung || trankBenutzt_)
-        anhängen(zug, Feuerball());
-    else if (random_.draw() < unaufhaltsamChance)
-        anhängen(zug, Unaufhaltsam());
+    if (EnergieS.wert - EnergieJ.wert > großerVorsprung || TrankBenutzt)
+        anhängen(zug, feuerball(zufall));
+    else if (zufall.draw() < unaufhaltsamChance)
+        anhängen(zug, unaufhaltsam(zufall));
     else
-        anhängen(zug, Angriff(random_.below(Techniken)));
-    ++runde_;
+        anhängen(zug, angriffBrokan(zufall));
+    ++Runde;
     return zug;
 }
 
-Folge Kampf::Feuerball() {
+Folge Kampf::feuerball(Random& zufall) {
     Folge zug{
         schrift("Fireball", Kämpfer::Brokan),
         warten(2000),
@@ -212,26 +207,27 @@ Folge Kampf::Feuerball() {
         bild("KampfH.jpg"),
         klang("s_kampf1.wav"),
     };
-    anhängen(zug, Treffer(feuerballschlag));
+    anhängen(zug, treffer(feuerballschlag, zufall));
     return zug;
 }
 
-Folge Kampf::Unaufhaltsam() {
+Folge Kampf::unaufhaltsam(Random& zufall) {
     Folge zug{schrift("Unblockable", Kämpfer::Brokan), warten(2000)};
-    const bool stark = random_.draw() < starkChance;
+    const bool stark = zufall.draw() < starkChance;
     if (stark)
         anhängen(zug, {bild("KampfJS20.jpg"), warten(2000), bild("KampfJS21.jpg"), klang("schlag.wav")});
     else
         anhängen(zug, {bild("KampfJS1.jpg"), klang("boing.wav")});
     anhängen(zug, {warten(2000), klang("s_kampf1.wav")});
-    anhängen(zug, Treffer(stark ? starkerSchlag : schwacherSchlag));
+    anhängen(zug, treffer(stark ? starkerSchlag : schwacherSchlag, zufall));
     zug.push_back(warten(stark ? 1200 : 1800));
     return zug;
 }
 
-Folge Kampf::Angriff(std::int32_t t) {
+Folge Kampf::angriffBrokan(Random& zufall) {
+    const std::int32_t t = zufall.below(Techniken);
     const std::int32_t nummer = t + 4;
-    if (t == abwehr_[runde_]) return deckung(nummer, Kämpfer::Brokan);
+    if (t == Abwehr[Runde]) return deckung(nummer, Kämpfer::Brokan);
     Folge zug;
     if (t == 2)
         zug = {angriffsbild(nummer, "00"), warten(1000), angriffsbild(nummer, "01"), klang("Schlag.wav"),
@@ -239,7 +235,7 @@ Folge Kampf::Angriff(std::int32_t t) {
     else
         zug = {angriffsbild(nummer, gelandet), klang("Schlag.wav"), warten(2000), bild("KampfH.jpg")};
     zug.push_back(klang("s_kampf1.wav"));
-    anhängen(zug, Treffer(schlagBrokan));
+    anhängen(zug, treffer(schlagBrokan, zufall));
     return zug;
 }
 

@@ -1,4 +1,5 @@
-// The rules of the fight, and its course as steps: pictures, sounds, texts and waits that somebody else shows.
+// The rules of the fight, a plain value. A turn gives back what happens in it as steps: pictures, sounds, texts and
+// waits that somebody else shows.
 #pragma once
 
 #include <vector>
@@ -47,37 +48,32 @@ struct Schlag {
     TextView ausruf;  // stands before the number
 };
 
-class Kampf {
-public:
-    Kampf(Random& random, const Techniken6& angriff, const Techniken6& abwehr);
+enum class Kampfstand { vorspiel, Velmix, Brokan, vorbei };
+
+struct Kampf {
+    Techniken6 Angriff = NichtsGewählt;
+    Techniken6 Abwehr = NichtsGewählt;
+    Energie EnergieJ{2434, 2284};             // of Brokan; the labels count up to it in the prelude
+    Energie EnergieS{1467, 1317};             // of Velmix
+    Kampfstand Stand = Kampfstand::vorspiel;  // whose turn is next
+    std::size_t Runde = 0;
+    bool TrankBenutzt = false;  // in this round
+    bool Gewonnen = false;
 
     // The next piece: the prelude, then turn after turn, the end, and then nothing. A blow counts as soon as its
     // piece is given; the step `energie` says when to show it.
-    Folge Weiter();
-    bool Gewonnen() const { return gewonnen_; }
-    Energie EnergieJ{2434, 2284};  // of Brokan; the labels count up to it in the prelude
-    Energie EnergieS{1467, 1317};  // of Velmix
+    Folge Weiter(Random& zufall);
 
 private:
-    enum class Stand { vorspiel, Velmix, Brokan, vorbei };
-
-    Folge ZugVelmix();
-    Folge ZugBrokan();
-    Folge Zaubertrank();
-    Folge Feuerball();
-    Folge Unaufhaltsam();
-    Folge Angriff(std::int32_t t);
-    Folge Ende(Folge ende);
+    Folge zugVelmix(Random& zufall);
+    Folge zugBrokan(Random& zufall);
+    Folge zaubertrank(Random& zufall);
+    Folge feuerball(Random& zufall);
+    Folge unaufhaltsam(Random& zufall);
+    Folge angriffBrokan(Random& zufall);
+    Folge ende(Folge ende);
     // Draws the damage: a text that tells it, then the counting.
-    Folge Treffer(const Schlag& schlag);
-
-    Random& random_;
-    Techniken6 angriff_;
-    Techniken6 abwehr_;
-    Stand stand_ = Stand::vorspiel;
-    std::size_t runde_ = 0;
-    bool trankBenutzt_ = false;  // in this round
-    bool gewonnen_ = false;
+    Folge treffer(const Schlag& schlag, Random& zufall);
 };
 
 }  // namespace zentrox

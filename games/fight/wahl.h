@@ -1,4 +1,4 @@
-// The choice of techniques that comes before the fight: six attacks, then six defences.
+// The choice of techniques that comes before the fight, a plain value: six attacks, then six defences.
 #pragma once
 
 #include <array>
@@ -15,31 +15,23 @@ constexpr std::int32_t KeineWahl = -1;
 
 using Techniken6 = std::array<std::int32_t, Kampfrunden>;
 
-class Technikwahl {
-public:
-    explicit Technikwahl(bool zaubertrank) : Zaubertrank_(zaubertrank) {
-        Angriff_.fill(KeineWahl);
-        Abwehr_.fill(KeineWahl);
-    }
+constexpr Techniken6 NichtsGewählt{KeineWahl, KeineWahl, KeineWahl, KeineWahl, KeineWahl, KeineWahl};
+
+struct Technikwahl {
+    bool Zaubertrank = false;  // it can still be chosen
+    Techniken6 Angriff = NichtsGewählt;
+    Techniken6 Abwehr = NichtsGewählt;
+    std::int32_t Wahlen = 0;
 
     // A click on an icon, 0 to 4.
     void Klick(std::int32_t Index);
 
-    const Techniken6& Angriff() const { return Angriff_; }
-    const Techniken6& Abwehr() const { return Abwehr_; }
-    std::int32_t Wahlen() const { return Wahlen_; }
-    bool Zaubertrank() const { return Zaubertrank_; }  // it can still be chosen
-    bool BeimAngriff() const { return Wahlen_ < Kampfrunden; }
-    bool Fertig() const { return Wahlen_ == AlleWahlen; }
+    bool BeimAngriff() const { return Wahlen < Kampfrunden; }
+    bool Fertig() const { return Wahlen == AlleWahlen; }
 
 private:
     // Where the choice of this number is kept.
-    std::int32_t& Platz(std::int32_t wahl);
-
-    Techniken6 Angriff_{};
-    Techniken6 Abwehr_{};
-    std::int32_t Wahlen_ = 0;
-    bool Zaubertrank_;
+    std::int32_t& platz(std::int32_t wahl);
 };
 
 }  // namespace zentrox

@@ -136,9 +136,9 @@ constexpr Milliseconds flickerTakes = 10 * Milliseconds{100};
 // The whole course of a fight by the rules, in milliseconds from the click on.
 Milliseconds length(std::uint64_t seed, bool& won) {
     Random random(seed);
-    Kampf kampf(random, {0, 1, 2, 0, 1, 2}, {0, 1, 2, 0, 1, 2});
+    Kampf kampf{.Angriff = {0, 1, 2, 0, 1, 2}, .Abwehr = {0, 1, 2, 0, 1, 2}};
     Milliseconds all = 0;
-    for (Folge piece = kampf.Weiter(); !piece.empty(); piece = kampf.Weiter())
+    for (Folge piece = kampf.Weiter(random); !piece.empty(); piece = kampf.Weiter(random))
         for (const Schritt& step : piece) switch (step.art) {
                 case Schritt::Art::warten: all += step.zahl; break;
                 case Schritt::Art::energie: {
@@ -151,7 +151,7 @@ Milliseconds length(std::uint64_t seed, bool& won) {
                 case Schritt::Art::flackern: all += flickerTakes; break;
                 default: break;
             }
-    won = kampf.Gewonnen();
+    won = kampf.Gewonnen;
     return all;
 }
 
@@ -226,20 +226,28 @@ TEST(FightWindow, LetsTheEndOfTheProgramPass) {
     EXPECT_THROW(fight.show(), ProgramEnd);
 }
 
-TEST(FightWindow, NamesTheMissingPicture) {
-    for (const char* const name : {"prügels2.bmp", "prügelb3.bmp", "Kampfs1.jpg"}) {
-        Fight fight;
-        std::filesystem::remove(fight.directory.path() / "games" / name);
-        fight.start();
-        fight.backend.wait(5000);
-        fight.backend.key(key::enter);
-        fight.show();
-        ASSERT_EQ(fight.backend.boxes.size(), 1U) << name;
-        EXPECT_NE(fight.backend.boxes[0].text.find(fromUtf8(name)), Text::npos) << fight.backend.boxes[0].text;
-        EXPECT_EQ(fight.z.Übergabe, Übergabewert(false));
-        EXPECT_TRUE(fight.sound.song.empty());
-        EXPECT_TRUE(fight.platform.queue.windows().empty());
-    }
+// The song of the room plays on until the fight begins its own.
+TEST(FightWindow, NamesThePictureThatCannotBeUsedAndIsLost) {
+    for (const TextView name : {"prügels1.bmp"_t, "prügels5.bmp"_t, "prügelb3.bmp"_t, "Kampfs1.jpg"_t})
+        for (const bool damaged : {false, true}) {
+            Fight fight;
+            const std::string file = "games/" + toUtf8(name);
+            damaged ? void(fight.directory.write(file, "BM and no more"))
+                    : void(std::filesystem::remove(fight.directory.path() / file));
+            fight.directory.write("musics/raum.mid", "a song");
+            fight.media.SongStart(fight.platform.files.programDirectory() + "musics\\raum.mid");
+            const bool fights = name.starts_with("Kampf");
+            if (fights) fight.start();
+            fight.backend.wait(5000);
+            fight.backend.then([&] { EXPECT_EQ(fight.sound.song.ends_with("raum.mid"), !fights) << name; });
+            fight.backend.key(key::enter);
+            fight.show();
+            ASSERT_EQ(fight.backend.boxes.size(), 1U) << name;
+            EXPECT_NE(fight.backend.boxes[0].text.find(name), Text::npos) << fight.backend.boxes[0].text;
+            EXPECT_EQ(fight.z.Übergabe, Übergabewert(false));
+            EXPECT_EQ(fight.sound.song.empty(), fights) << name;
+            EXPECT_TRUE(fight.platform.queue.windows().empty());
+        }
 }
 
 // --- the drawing over the picture
