@@ -2,8 +2,7 @@
 // reckoning of the digits.
 #include <benchmark/benchmark.h>
 
-#include "games/pi/pispiel.h"
-#include "platform/window/surface.h"
+#include "games/pi/pibild.h"
 #include "platform/window/window.h"
 #include "tests/support/stage.h"
 #include "tools/digits/pi.h"
@@ -35,15 +34,11 @@ BENCHMARK(circleFrame);
 void characterShown(benchmark::State& state) {
     Scene scene;
     Random chance(1);
+    PIspiel game{.Zeichen = Text(100, '4')};
+    PIbild picture(scene.surface);
     for (auto _ : state) {
-        Surface& surface = scene.surface;
-        surface.clear();
-        surface.foreground = PiFarbe(60, chance);
-        surface.font = {"Times New Roman", PiSchrift(60, chance), true};
-        const Point at = PiOrt(60, area, surface.measure("4"), chance);
-        surface.currentX = at.x;
-        surface.currentY = at.y;
-        surface.print("4");
+        game.anzahl = 59;
+        picture.Frage(game.Weiter(chance));
         benchmark::DoNotOptimize(scene.window.compose());
     }
 }

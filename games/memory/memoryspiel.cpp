@@ -13,7 +13,7 @@ constexpr int tauschen = 101;
 
 void Memoryspiel::Init(Random& zufall) {
     for (std::size_t i = 0; i < Karten.size(); ++i) Karten[i] = static_cast<std::int32_t>(i / 2);
-    tisch_.fill(true);
+    Tisch.fill(true);
     Gedaechtnis.fill(keine);
     for (int i = 0; i < tauschen; ++i) {
         const int p = zufall.below(kartenAnzahl);
@@ -64,7 +64,7 @@ std::int32_t Memoryspiel::ziehen(Random& zufall, std::int32_t nicht) const {
 }
 
 void Memoryspiel::gewonnen(Zug zug, Wer wer) {
-    tisch_[static_cast<std::size_t>(zug.a)] = tisch_[static_cast<std::size_t>(zug.b)] = false;
+    Tisch[static_cast<std::size_t>(zug.a)] = Tisch[static_cast<std::size_t>(zug.b)] = false;
     ++Punkte[static_cast<std::size_t>(wer)];
 }
 

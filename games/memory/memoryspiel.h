@@ -1,4 +1,5 @@
-// The rules of Memory: the deal, the table, and Tirsa, who remembers the cards of the last three failed turns.
+// The rules of Memory, a plain value: the deal, the table, and Tirsa, who remembers the cards of the last three
+// failed turns.
 #pragma once
 
 #include <array>
@@ -15,8 +16,7 @@ constexpr std::int32_t keine = -1;
 
 enum class Wer { spieler = 0, gegner = 1 };
 
-class Memoryspiel {
-public:
+struct Memoryspiel {
     struct Zug {
         std::int32_t a = keine;  // positions
         std::int32_t b = keine;
@@ -26,11 +26,12 @@ public:
     std::array<std::int32_t, kartenAnzahl> Karten{};  // 0 to 7 by position
     std::array<std::int32_t, 6> Gedaechtnis{};        // positions
     std::array<std::int32_t, 2> Punkte{};             // pairs
+    std::array<bool, kartenAnzahl> Tisch{};           // by position: it has not been won yet
 
     // Deals a new match: 101 swaps of two random positions.
     void Init(Random& zufall);
 
-    bool aufTisch(std::int32_t position) const { return tisch_[static_cast<std::size_t>(position)]; }
+    bool aufTisch(std::int32_t position) const { return Tisch[static_cast<std::size_t>(position)]; }
     bool gleich(std::int32_t a, std::int32_t b) const { return wert(a) == wert(b); }
     std::int32_t wert(std::int32_t position) const { return Karten[static_cast<std::size_t>(position)]; }
 
@@ -50,8 +51,6 @@ private:
     Zug bekanntesPaar() const;
     std::int32_t partner(std::int32_t a) const;
     std::int32_t ziehen(Random& zufall, std::int32_t nicht) const;
-
-    std::array<bool, kartenAnzahl> tisch_{};
 };
 
 }  // namespace zentrox

@@ -1,49 +1,56 @@
 #include "games/pi/pi.h"
 
-#include <cmath>
-#include <numbers>
-
-#include "engine/state/felder.h"
 #include "engine/state/warten.h"
-#include "games/pi/pifenster.h"
-#include "games/pi/pispiel.h"
-#include "platform/values/error.h"
+#include "games/base/geladen.h"
+#include "games/pi/pibild.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 
 namespace {
 
-constexpr Size fläche{369, 273};
 constexpr Milliseconds soSchnellEsGeht = 1;
-
-constexpr Colour hellgrün{64, 255, 64};
-constexpr Colour kreisgrün{0, 255, 0};
-constexpr Colour hellzyan{0, 255, 255};
-
-constexpr float schriftTitel = 72;
-constexpr float schriftAnsage = 48;
-constexpr float schriftNummer = 8;
-constexpr float schriftSchluss = 12;
-
-constexpr int kreisSchritt = 4;  // degrees
-constexpr int kreisRadius = 100;
 constexpr std::int32_t kreisTakt = 16;
-
 constexpr std::int32_t titelZeit = 500;
 constexpr std::int32_t blitz = 10;
 constexpr Milliseconds schlussZeit = 10'000;
 
-}  // namespace
+// A game is one long call that waits for keys and for the clock.
+class PISpiel : public Window {
+public:
+    PISpiel(Platform& platform, Zustand& zustand, Medien& medien, Text zeichen)
+        : Window(platform, "PISpiel", "PI-Spiel", PIfläche, Frame::fixed),
+          z_(zustand),
+          medien_(medien),
+          spiel_{.Zeichen = std::move(zeichen)},
+          Picture1(platform.fonts, &root(), {{0, 0}, PIfläche}),
+          bild_(Picture1),
+          Timer1(platform.queue, soSchnellEsGeht, true, [this] { Timer1_Timer(); }) {}
 
-PISpiel::PISpiel(Platform& platform, Zustand& zustand, Medien& medien, Text zeichen)
-    : Window(platform, "PISpiel", "PI-Spiel", fläche, Frame::fixed),
-      z_(zustand),
-      medien_(medien),
-      zeichen_(std::move(zeichen)),
-      Picture1(platform.fonts, &root(), {{0, 0}, fläche}),
-      Timer1(platform.queue, soSchnellEsGeht, true, [this] { Timer1_Timer(); }) {
-    Picture1.font = {"Times New Roman", schriftTitel, true};
-}
+private:
+    bool onQueryClose() override { return Form_QueryUnload(); }
+    void onKeyPress(char c) override { Form_KeyPress(static_cast<unsigned char>(c)); }
+    void Form_KeyPress(std::int16_t KeyAscii) { taste = KeyAscii; }
+    bool Form_QueryUnload();
+    void Timer1_Timer();
+
+    // Each returns false once the window is being closed.
+    bool vorspann();
+    bool kreis();
+    bool abfragen();
+    bool schluss();
+    bool warten(std::int32_t ms);
+    bool warten(const std::function<bool()>& bis, Milliseconds ms);
+
+    Zustand& z_;
+    Medien& medien_;
+    PIspiel spiel_;
+    Surface Picture1;
+    PIbild bild_;
+    Timer Timer1;
+    bool spielLaeuft = false;
+    std::int16_t taste = 0;
+};
 
 bool PISpiel::Form_QueryUnload() {
     medien_.SongStop();
@@ -66,105 +73,58 @@ bool PISpiel::warten(std::int32_t ms) {
     return spielLaeuft;
 }
 
-// --- before the game
-
-bool PISpiel::vorspann() {
-    Picture1.clear();
-    gedruckt(PiMitte(fläche, Picture1.measure("PI")), "PI", hellgrün);
-    if (!warten(0) || !warten(titelZeit) || !kreis()) return false;
-    Picture1.font.points = schriftAnsage;
-    return ansage("Ready") && ansage("GO!");
+bool PISpiel::warten(const std::function<bool()>& bis, Milliseconds ms) {
+    Queue& queue = platform().queue;
+    queue.waitUntil(
+        "PISpiel", [&] { return !spielLaeuft || bis(); }, queue.clock() + ms);
+    return spielLaeuft;
 }
 
-bool PISpiel::ansage(TextView text) {
-    Picture1.clear();
-    gedruckt(PiMitte(fläche, Picture1.measure(text)), text, hellgrün);
+bool PISpiel::vorspann() {
+    bild_.Titel("PI");
+    if (!warten(0) || !warten(titelZeit) || !kreis()) return false;
+    bild_.Ansage("Ready");
+    if (!kreis()) return false;
+    bild_.Ansage("GO!");
     return kreis();
 }
 
 // Draws itself over the text in a second and a half.
 bool PISpiel::kreis() {
-    constexpr Point mitte{fläche.w / 2, fläche.h / 2};
-    for (int a = 0; a <= 360; a += kreisSchritt) {
-        const double winkel = std::numbers::pi * a / 180;
-        const Point ort{Runden(mitte.x + kreisRadius * std::sin(winkel)),
-                        Runden(mitte.y + kreisRadius * std::cos(winkel))};
-        Picture1.setPixel(ort, kreisgrün);
+    for (int winkel = 0; winkel <= 360; winkel += PIkreisSchritt) {
+        bild_.Kreispunkt(winkel);
         if (!warten(kreisTakt)) return false;
     }
     return true;
 }
 
-// --- the game
-
 // Goes on until a wrong key, a time-out or the last character.
 bool PISpiel::abfragen() {
-    const auto letztes = static_cast<std::int32_t>(zeichen_.size());
-    Queue& queue = platform().queue;
-    for (anzahl = 1;; ++anzahl) {
-        const char zeichen = zeichen_[static_cast<std::size_t>(anzahl - 1)];
-        zeigen(zeichen);
+    do {
+        bild_.Frage(spiel_.Weiter(platform().random));
         taste = 0;
-        queue.waitUntil(
-            "PISpiel", [this] { return !spielLaeuft || taste != 0; }, queue.clock() + PiFrist(anzahl));
-        if (!spielLaeuft) return false;
-        if (!PiRichtig(taste, zeichen) || anzahl == letztes) return true;
-    }
+        if (!warten([this] { return taste != 0; }, spiel_.Frist())) return false;
+    } while (spiel_.Antwort(taste));
+    return true;
 }
-
-void PISpiel::zeigen(char zeichen) {
-    Random& zufall = platform().random;
-    Picture1.clear();
-    Picture1.font.points = schriftNummer;
-    const Text nummer = "#" + std::to_string(anzahl);
-    gedruckt({fläche.w - Picture1.textWidth(nummer), 0}, nummer, hellgrün);
-    const Colour farbe = PiFarbe(anzahl, zufall);
-    Picture1.font.points = PiSchrift(anzahl, zufall);
-    const TextView text(&zeichen, 1);
-    gedruckt(PiOrt(anzahl, fläche, Picture1.measure(text), zufall), text, farbe);
-}
-
-void PISpiel::gedruckt(Point ort, TextView text, Colour farbe) {
-    Picture1.foreground = farbe;
-    Picture1.currentX = ort.x;
-    Picture1.currentY = ort.y;
-    Picture1.print(text);
-}
-
-// --- after the game
 
 bool PISpiel::schluss() {
-    // A key pressed from now on changes nothing.
-    const TextView urteil = PiUrteil(anzahl, static_cast<std::int32_t>(zeichen_.size()), taste);
     medien_.SongStop();
-    Picture1.setBack(white);
-    Picture1.clear();
+    bild_.Blitz();
     if (!warten(0) || !warten(blitz)) return false;
     medien_.SpieleWav(z_.PfadGames + "JINGLE.WAV");
-    Picture1.setBack(black);
-    Picture1.clear();
-    Picture1.font.points = schriftSchluss;
-    gedruckt({PiMitte(fläche, Picture1.measure("Game Over")).x, 0}, "Game Over", hellzyan);
-    Picture1.print("");
-    Picture1.print(urteil);
-    Picture1.print(std::to_string(anzahl) + " Zeichen von PI geschafft!");
-    if (anzahl >= piBestanden) z_.Übergabe = true;
-    Queue& queue = platform().queue;
-    queue.waitUntil(
-        "PISpiel", [this] { return !spielLaeuft; }, queue.clock() + schlussZeit);
-    return spielLaeuft;
+    bild_.Schluss(spiel_);
+    if (spiel_.Bestanden()) z_.Übergabe = true;
+    return warten([] { return false; }, schlussZeit);
 }
+
+}  // namespace
 
 void PIZeigen(Platform& platform, Zustand& zustand, Medien& medien) {
     zustand.Übergabe = false;
-    Text zeichen;
-    try {
-        zeichen = PiLesen(platform.files, zustand.PfadGames + "Pi10000.txt");
-    } catch (const DataError& fehler) {
-        showMessageBox(platform, {"PI-Spiel", fehler.message(), MessageBox::Icon::critical});
-        return;
-    }
-    PISpiel(platform, zustand, medien, std::move(zeichen)).showModal();
+    auto zeichen =
+        Geladen(platform, "PI", [&] { return PiLesen(platform.files, zustand.PfadGames + "Pi10000.txt"); });
+    if (zeichen) PISpiel(platform, zustand, medien, std::move(*zeichen)).showModal();
 }
 
 }  // namespace zentrox

@@ -24,6 +24,26 @@ int farbteil(Random& zufall) {
     return std::min(Runden(zufall.draw() * farbeSpanne + farbeDunkelste), hellstes);
 }
 
+Colour farbe(std::int32_t anzahl, Random& zufall) {
+    if (anzahl <= farbeNach) return white;
+    const int rot = farbteil(zufall);
+    const int grün = farbteil(zufall);
+    const int blau = farbteil(zufall);
+    return {rot, grün, blau};
+}
+
+float schrift(std::int32_t anzahl, Random& zufall) {
+    if (anzahl <= größeNach) return schriftNormal;
+    return static_cast<float>(schriftKleinste + zufall.draw() * schriftSpanne);
+}
+
+std::optional<Pifrage::Anteil> ort(std::int32_t anzahl, Random& zufall) {
+    if (anzahl < überallAb) return std::nullopt;
+    const double x = zufall.draw();
+    const double y = zufall.draw();
+    return Pifrage::Anteil{x, y};
+}
+
 bool tippbar(char c) {
     return static_cast<unsigned char>(c) >= ' ';
 }
@@ -38,41 +58,28 @@ Text PiLesen(const Files& files, TextView pfad) {
     return zeichen;
 }
 
-std::int64_t PiFrist(std::int32_t anzahl) {
+// The colour is drawn first, then the size, then the place.
+Pifrage PIspiel::Weiter(Random& zufall) {
+    ++anzahl;
+    taste = 0;
+    Pifrage frage{.nummer = anzahl, .zeichen = Zeichen[static_cast<std::size_t>(anzahl - 1)]};
+    frage.farbe = farbe(anzahl, zufall);
+    frage.schrift = schrift(anzahl, zufall);
+    frage.ort = ort(anzahl, zufall);
+    return frage;
+}
+
+std::int64_t PIspiel::Frist() const {
     return std::max<std::int64_t>(2000 - 10 * std::int64_t{anzahl}, 0);
 }
 
-bool PiRichtig(std::int16_t taste, char zeichen) {
-    if (taste == ',') taste = '.';
-    return taste == static_cast<unsigned char>(zeichen);
+bool PIspiel::Antwort(std::int16_t antwort) {
+    taste = antwort == ',' ? '.' : antwort;
+    return taste == static_cast<unsigned char>(Zeichen[static_cast<std::size_t>(anzahl - 1)]) && !alle();
 }
 
-Colour PiFarbe(std::int32_t anzahl, Random& zufall) {
-    if (anzahl <= farbeNach) return white;
-    const int rot = farbteil(zufall);
-    const int grün = farbteil(zufall);
-    const int blau = farbteil(zufall);
-    return {rot, grün, blau};
-}
-
-float PiSchrift(std::int32_t anzahl, Random& zufall) {
-    if (anzahl <= größeNach) return schriftNormal;
-    return static_cast<float>(schriftKleinste + zufall.draw() * schriftSpanne);
-}
-
-Point PiOrt(std::int32_t anzahl, Size fläche, Size zeichen, Random& zufall) {
-    if (anzahl < überallAb) return PiMitte(fläche, zeichen);
-    const int x = Runden(zufall.draw() * (fläche.w - zeichen.w));
-    const int y = Runden(zufall.draw() * (fläche.h - zeichen.h));
-    return {x, y};
-}
-
-Point PiMitte(Size fläche, Size text) {
-    return {fläche.w / 2 - text.w / 2, fläche.h / 2 - text.h / 2};
-}
-
-TextView PiUrteil(std::int32_t anzahl, std::int32_t letztes, std::int16_t taste) {
-    if (anzahl == letztes) return "Ich glaub du hast geschummelt, denn du hast alle";
+TextView PIspiel::Urteil() const {
+    if (alle()) return "Ich glaub du hast geschummelt, denn du hast alle";
     if (taste == 0) return "Das war leider zu langsam... Du hast";
     return "Da hast du dich wohl vertippt, aber du hast";
 }

@@ -25,7 +25,7 @@ public:
         Text1.setFont(schrift);
         Text1.setColours(hellrot, black);
         Text1.setReadOnly(true);
-        Text1.setText(Rätselgeschichte());
+        Text1.setText(spiel_.Verlauf);
         Text2.setFont(schrift);
         Text2.onEnter = [this] { Eingabe(); };
         setFocus(&Text2);
@@ -34,12 +34,12 @@ public:
 private:
     void Eingabe() {
         const Text eingabe = Text2.text();
-        const auto [ausgang, antwort] = RätselAntworten(eingabe, platform().random);
-        if (ausgang != Rätselantwort::Ausgang::weiter) {
-            z_.Übergabe = ausgang == Rätselantwort::Ausgang::gelöst;
+        const Rätselantwort runde = spiel_.Versuch(eingabe, platform().random);
+        if (runde.ausgang != Rätselantwort::Ausgang::weiter) {
+            z_.Übergabe = runde.ausgang == Rätselantwort::Ausgang::gelöst;
             return close();
         }
-        Text1.append(Rätselrunde(eingabe, antwort));
+        Text1.append(runde.zuwachs);
         Text2.setText("");
     }
 
@@ -56,6 +56,7 @@ private:
     }
 
     Zustand& z_;
+    Rätsel spiel_;
     TextBox Text1;
     Label Label1;
     Label Label2;

@@ -89,30 +89,32 @@ bool trifft(const Stichwort& stichwort, TextView text) {
     return enthältEins(text, stichwort.wörter) && (stichwort.dazu[0].empty() || enthältEins(text, stichwort.dazu));
 }
 
-}  // namespace
-
-Text Rätselgeschichte() {
-    return Text(titel) + Text(geschichte) + Text(frage) + Text(anleitung);
-}
-
-Rätselantwort RätselAntworten(TextView eingabe, Random& random) {
-    using Ausgang = Rätselantwort::Ausgang;
-    const Text klein = lower(eingabe);
-    if (Getrimmt(klein) == "aufgeben") return {.ausgang = Ausgang::aufgegeben, .antwort = {}};
-    if (enthält(klein, "auf") && enthält(klein, "gab")) return {.ausgang = Ausgang::gelöst, .antwort = {}};
-
+Text antwortAuf(TextView eingabe, TextView klein, Random& zufall) {
     Text antwort;
     if (klein.find_first_of(selbstlaute) == Text::npos)
         antwort = "Gib mal ein deutsches Wort ein, nicht " + Trim(eingabe) + "...";
     for (const Stichwort& stichwort : Stichwörter)
         if (trifft(stichwort, klein)) antwort = stichwort.antwort;
     if (antwort.empty())
-        antwort = Ausreden[static_cast<std::size_t>(random.below(static_cast<int>(Ausreden.size())))];
-    return {.ausgang = Ausgang::weiter, .antwort = antwort};
+        antwort = Ausreden[static_cast<std::size_t>(zufall.below(static_cast<int>(Ausreden.size())))];
+    return antwort;
 }
 
-Text Rätselrunde(TextView eingabe, TextView antwort) {
-    return "\r\n\r\nEr " + Trim(eingabe) + "\r\n" + Text(antwort);
+}  // namespace
+
+Text Rätsel::Geschichte() {
+    return Text(titel) + Text(geschichte) + Text(frage) + Text(anleitung);
+}
+
+Rätselantwort Rätsel::Versuch(TextView eingabe, Random& zufall) {
+    using Ausgang = Rätselantwort::Ausgang;
+    const Text klein = lower(eingabe);
+    if (Getrimmt(klein) == "aufgeben") return {.ausgang = Ausgang::aufgegeben};
+    if (enthält(klein, "auf") && enthält(klein, "gab")) return {.ausgang = Ausgang::gelöst};
+    Rätselantwort runde{.antwort = antwortAuf(eingabe, klein, zufall)};
+    runde.zuwachs = "\r\n\r\nEr " + Trim(eingabe) + "\r\n" + runde.antwort;
+    Verlauf += runde.zuwachs;
+    return runde;
 }
 
 }  // namespace zentrox

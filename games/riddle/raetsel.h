@@ -1,4 +1,4 @@
-// The words of the riddle: its story, and what it answers to an attempt.
+// The riddle, a plain value: its transcript, which begins with the story, and what it answers to an attempt.
 #pragma once
 
 #include "platform/values/random.h"
@@ -6,19 +6,20 @@
 
 namespace zentrox {
 
-// The transcript at the beginning.
-Text Rätselgeschichte();
-
+// What an attempt has led to.
 struct Rätselantwort {
     enum class Ausgang { weiter, gelöst, aufgegeben };
     Ausgang ausgang = Ausgang::weiter;
     Text antwort;  // of `weiter`
+    Text zuwachs;  // of the transcript
 };
 
-// What is said to an attempt, as it was typed. Chance is asked only where no word of it is known.
-Rätselantwort RätselAntworten(TextView eingabe, Random& random);
+struct Rätsel {
+    Text Verlauf = Geschichte();
 
-// What the transcript then grows by.
-Text Rätselrunde(TextView eingabe, TextView antwort);
+    static Text Geschichte();
+    // An attempt, as it was typed. Chance is asked only where no word of it is known.
+    Rätselantwort Versuch(TextView eingabe, Random& zufall);
+};
 
 }  // namespace zentrox

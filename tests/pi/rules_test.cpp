@@ -42,22 +42,26 @@ TEST(PiFile, KeepsWhatCanBeTyped) {
 }
 
 TEST(PiRules, AskFasterAndFaster) {
-    EXPECT_EQ(PiFrist(1), 1990);
-    EXPECT_EQ(PiFrist(40), 1600);
-    EXPECT_EQ(PiFrist(100), 1000);
-    EXPECT_EQ(PiFrist(199), 10);
-    EXPECT_EQ(PiFrist(200), 0);
-    EXPECT_EQ(PiFrist(10'000), 0);
+    const auto limit = [](std::int32_t number) { return PIspiel{.Zeichen = "3", .anzahl = number}.Frist(); };
+    EXPECT_EQ(limit(1), 1990);
+    EXPECT_EQ(limit(40), 1600);
+    EXPECT_EQ(limit(199), 10);
+    EXPECT_EQ(limit(200), 0);
+    EXPECT_EQ(limit(10'000), 0);
 }
 
 TEST(PiRules, TakeTheCommaForThePoint) {
-    EXPECT_TRUE(PiRichtig('.', '.'));
-    EXPECT_TRUE(PiRichtig(',', '.'));
-    EXPECT_TRUE(PiRichtig('3', '3'));
-    EXPECT_FALSE(PiRichtig('4', '3'));
-    EXPECT_FALSE(PiRichtig(0, '3'));
-    EXPECT_TRUE(PiRichtig(0xE4, "ä"_t[0]));
-    EXPECT_FALSE(PiRichtig('a', 'A'));
+    const auto goesOn = [](char asked, std::int16_t key) {
+        PIspiel game{.Zeichen = Text(1, asked) + "x", .anzahl = 1};
+        return game.Antwort(key);
+    };
+    EXPECT_TRUE(goesOn('.', '.'));
+    EXPECT_TRUE(goesOn('.', ','));
+    EXPECT_TRUE(goesOn('3', '3'));
+    EXPECT_FALSE(goesOn('3', '4'));
+    EXPECT_FALSE(goesOn('3', 0));
+    EXPECT_TRUE(goesOn("ä"_t[0], 0xE4));
+    EXPECT_FALSE(goesOn('A', 'a'));
 }
 
 // How many draws a character takes: three for its colour, one for its size, two for its place.
@@ -66,24 +70,25 @@ TEST(PiRules, LeaveMoreAndMoreToChance) {
         int number;
         int draws;
     };
+    const auto ask = [](int number, Random& chance) {
+        return PIspiel{.Zeichen = Text(100, '7'), .anzahl = number - 1}.Weiter(chance);
+    };
     for (const Case& c :
          {Case{1, 0}, Case{11, 0}, Case{12, 2}, Case{25, 2}, Case{26, 3}, Case{50, 3}, Case{51, 6}}) {
         Random chance(9);
-        const Colour colour = PiFarbe(c.number, chance);
-        const float points = PiSchrift(c.number, chance);
-        const Point at = PiOrt(c.number, {369, 273}, {40, 80}, chance);
+        const Pifrage shown = ask(c.number, chance);
         Random same(9);
         for (int i = 0; i < c.draws; ++i) same.draw();
         EXPECT_EQ(chance.draw(), same.draw()) << c.number;
-        EXPECT_TRUE(c.number > 50 || colour == white) << c.number;
-        EXPECT_TRUE(c.number > 25 || points == 72) << c.number;
-        EXPECT_TRUE(c.number >= 12 || at == (Point{164, 96})) << c.number;
-        EXPECT_TRUE(at.x >= 0 && at.x <= 329 && at.y >= 0 && at.y <= 193) << c.number;
-        EXPECT_TRUE(points >= 8 && points <= 96) << c.number;
+        EXPECT_EQ(shown.nummer, c.number);
+        EXPECT_TRUE(c.number > 50 || shown.farbe == white) << c.number;
+        EXPECT_TRUE(c.number > 25 || shown.schrift == 72) << c.number;
+        EXPECT_EQ(shown.ort.has_value(), c.number >= 12) << c.number;
+        EXPECT_TRUE(shown.schrift >= 8 && shown.schrift <= 96) << c.number;
     }
     Random chance(1);
     for (int i = 0; i < 1000; ++i) {
-        const Colour colour = PiFarbe(51, chance);
+        const Colour colour = ask(51, chance).farbe;
         EXPECT_TRUE((colour.rgb & 0xFF) >= 64 && (colour.rgb >> 8 & 0xFF) >= 64 && colour.rgb >> 16 >= 64);
     }
 }

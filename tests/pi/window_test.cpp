@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "games/pi/pi.h"
-#include "games/pi/pifenster.h"
 #include "platform/values/error.h"
 #include "tests/support/stage.h"
 #include "tools/digits/pi.h"

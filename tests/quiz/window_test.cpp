@@ -1,7 +1,6 @@
 // The window of the quiz: won, lost, closed, and without questions.
 #include <gtest/gtest.h>
 
-#include "games/quiz/hdw.h"
 #include "games/quiz/quiz.h"
 #include "tests/support/stage.h"
 

@@ -57,7 +57,7 @@ TEST(Riddle, KnowsItsWordsInTheirOrder) {
              Case{"fällt"_t, "Gib mal ein deutsches Wort ein, nicht fällt..."_t},
          }) {
         Random random(1);
-        const auto [outcome, reply] = RätselAntworten(c.attempt, random);
+        const auto [outcome, reply, growth] = Rätsel().Versuch(c.attempt, random);
         EXPECT_EQ(outcome, Ausgang::weiter) << c.attempt;
         EXPECT_TRUE(reply.starts_with(c.reply)) << c.attempt << ": " << reply;
     }
@@ -67,11 +67,11 @@ TEST(Riddle, IsSolvedOrGivenUpWhateverElseIsSaid) {
     for (const TextView solved : {"gab auf"_t, "aufgab"_t, "Gab es AUF"_t, " gab nach langem kiffen auf"_t,
                                   "gab aufgeben"_t, "begab sich auf den weg"_t}) {
         Random random(1);
-        EXPECT_EQ(RätselAntworten(solved, random).ausgang, Ausgang::gelöst) << solved;
+        EXPECT_EQ(Rätsel().Versuch(solved, random).ausgang, Ausgang::gelöst) << solved;
     }
     for (const TextView lost : {"aufgeben"_t, "  AufGeben "_t}) {
         Random random(1);
-        EXPECT_EQ(RätselAntworten(lost, random).ausgang, Ausgang::aufgegeben) << lost;
+        EXPECT_EQ(Rätsel().Versuch(lost, random).ausgang, Ausgang::aufgegeben) << lost;
     }
 }
 
@@ -81,7 +81,7 @@ TEST(Riddle, SaysAnythingWhereItKnowsNoWord) {
         for (unsigned seed = 0; seed < 60; ++seed) {
             Random random(seed);
             Random same(seed);
-            const auto [outcome, reply] = RätselAntworten(unknown, random);
+            const auto [outcome, reply, growth] = Rätsel().Versuch(unknown, random);
             EXPECT_EQ(outcome, Ausgang::weiter) << unknown;
             Text& before = said[static_cast<std::size_t>(same.below(6))];
             if (before.empty()) before = reply;
