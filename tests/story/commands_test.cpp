@@ -132,4 +132,75 @@ TEST(Commands, WrongCallsAndDamagedFiles) {
     EXPECT_EQ(call({"build", cut, "--into", empty + "/rooms/a.lsd"}).status, hasFindings);  // no source at all
 }
 
+// Authors read German; a word of English would come from the library that reads the command line.
+TEST(Commands, SpeaksGerman) {
+    const zentrox::test::TempDirectory directory;
+    directory.write("a.story", "Raum r.lsd");
+    directory.write("leer/x.txt", "");
+    const std::string story = (directory.path() / "a.story").string();
+    const std::string empty = (directory.path() / "leer").string();
+    std::string said;
+    for (const char* command : {"build", "check", "lines", "source", "coverage"}) {
+        for (const auto& words : std::vector<std::vector<std::string>>{
+                 {command, "--help"}, {command}, {command, "--was"}, {command, "gibt-es-nicht"}, {command, empty}})
+            said += call(words).out + call(words).err;
+    }
+    for (const auto& words :
+         std::vector<std::vector<std::string>>{{"--help"},
+                                               {},
+                                               {"nix"},
+                                               {"opcodes", "--was"},
+                                               {"new", "--help"},
+                                               {"new", empty},
+                                               {"opcodes", "--was"},
+                                               {"build", story, "--into"},
+                                               {"coverage", story, "--ran", story, "--least", "200"},
+                                               {"coverage", story, "--ran", story},
+                                               {"source", story},
+                                               {"check", story}})
+        said += call(words).out + call(words).err;
+    for (const char* german :
+         {"Aufruf", "Optionen", "Angaben", "nötig", "gibt es nicht", "hier fehlt", "unbekannt ist"})
+        EXPECT_NE(said.find(german), std::string::npos) << german;
+    for (const char* english :
+         {"Usage", "Options", "OPTIONS", "Positional", "REQUIRED", "required", "TEXT", "FLOAT", "the ", " not ",
+          " of ", " is ", "Print", "file", "director", "argument", "subcommand"})
+        EXPECT_EQ(said.find(english), std::string::npos)
+            << english << ": " << said.substr(std::max<std::size_t>(said.find(english), 60) - 60, 120);
+}
+
+TEST(Commands, LinesGoOutAndComeBack) {
+    const zentrox::test::TempDirectory directory;
+    const auto at = [&](const char* name) { return (directory.path() / name).string(); };
+    directory.write(
+        "a.story",
+        "Person Kai\nFarbe 7\nStimme \"kai\"\nRaum \"Hof.lsd\"\nStart\nKai: \"Grüß Gott.\" \"Ja?\"\n"
+        "Text \"Nein.\"\nText \"Nein.\"\nAuswahl \"Wie?\"\nFall \"So.\"\nOption \"Anders.\"\nEndeAuswahl\n");
+    const std::string table = call({"lines", at("a.story")}).out;
+    std::vector<std::string> rows;
+    std::istringstream in(table);
+    for (std::string row; std::getline(in, row);) rows.push_back(row);
+    ASSERT_EQ(rows.size(), 6U) << table;
+    EXPECT_NE(rows[1].find(":6:6\tKai\tkai-hof-01.wav\t14\tGrüß Gott.#Ja?"), std::string::npos) << rows[1];
+    EXPECT_NE(rows[2].find(":7:6\t\t\t5\tNein."), std::string::npos) << rows[2];
+    EXPECT_NE(rows[5].find(":11:8\t\t\t7\tAnders."), std::string::npos) << rows[5];
+    EXPECT_NE(call({"lines", at("a.story"), "--json"}).out.find("\"voice\": \"kai-hof-01.wav\""),
+              std::string::npos);
+
+    // The table as it is changes nothing; other texts keep marks, counts and voices.
+    ASSERT_EQ(call({"build", at("a.story"), "--into", at("eins")}).status, clean);
+    directory.write("t.tsv", table);
+    ASSERT_EQ(call({"build", at("a.story"), "--into", at("zwei"), "--with", at("t.tsv")}).err, "");
+    EXPECT_EQ(contents(at("eins/rooms/Hof.lsd")), contents(at("zwei/rooms/Hof.lsd")));
+    const auto key = [&](std::size_t row) { return rows[row].substr(0, rows[row].find('\t')); };
+    directory.write("t.tsv", key(1) + "\tHello.#Yes?#Well\n" + key(4) + "\tLike this.\n" + "weg-00000000\tx\n");
+    const Result other = call({"build", at("a.story"), "--into", at("zwei"), "--with", at("t.tsv")});
+    EXPECT_NE(other.err.find("t.tsv:3:1: warning [text-ohne-ort]"), std::string::npos) << other.err;
+    const std::string room = contents(at("zwei/rooms/Hof.lsd"));
+    EXPECT_NE(room.find("\"kai-hof-01.wav\"\r\n2,\"$7Hello.#$7Yes?#$7Well\""), std::string::npos) << room;
+    EXPECT_NE(room.find("\"2|Wie?|Like this.|Anders.\""), std::string::npos) << room;
+    directory.write("t.tsv", "ohne Tabulator\n" + key(1) + "\tein | darin\n");
+    EXPECT_EQ(call({"build", at("a.story"), "--into", at("zwei"), "--with", at("t.tsv")}).status, hasFindings);
+}
+
 }  // namespace zentrox::story::test

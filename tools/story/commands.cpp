@@ -10,7 +10,9 @@
 #include "tools/story/coverage.h"
 #include "tools/story/data.h"
 #include "tools/story/fresh.h"
+#include "tools/story/german.h"
 #include "tools/story/inputs.h"
+#include "tools/story/lines.h"
 #include "tools/story/parser.h"
 #include "tools/story/reference.h"
 #include "tools/story/source.h"
@@ -25,6 +27,7 @@ struct Options {
     std::vector<std::string> words;
     std::string into;
     std::string data;
+    std::string with;
     bool json = false;
     std::vector<std::string> ran;
     double least = 0;
@@ -52,7 +55,13 @@ int build(const Options& options, const Streams& to) {
     Findings findings;
     SourceFiles files;
     const auto sources = sourcesOf(options.words);
-    const Story story = parseSources(sources, files, findings, neighboursOf(sources));
+    Story story = parseSources(sources, files, findings, neighboursOf(sources));
+    if (!options.with.empty()) {
+        needAll({options.with});
+        story.files.push_back(options.with);
+        replaceTexts(story, files.read(options.with).value_or(""), static_cast<int>(story.files.size()) - 1,
+                     findings);
+    }
     checkForBuild(story, findings);
     findings.settle(story);
     to.err << asLines(story, findings);
@@ -72,7 +81,8 @@ struct Checked {
 };
 
 void readData(const DataInputs& data, Checked& checked, Findings& findings) {
-    if (data.directories.size() + (data.files.empty() ? 0 : 1) > 1) throw WrongCall{"one data directory at a time"};
+    if (data.directories.size() + (data.files.empty() ? 0 : 1) > 1)
+        throw WrongCall{"nur ein Datenverzeichnis auf einmal"};
     if (data.files.empty()) {
         checked.root = data.directories.front();
         return readDataDirectory(checked.root, checked.story, findings);
@@ -108,8 +118,9 @@ int check(const Options& options, const Streams& to) {
     const fs::path root = options.data.empty() ? checked.root : fs::path(options.data);
     const auto data = root.empty() ? nullptr : std::make_unique<DataFiles>(root);
     if (!data)
-        to.err << "zentrox-story: no data lies beside " << options.words.front()
-               << ", so no pictures and sounds were looked for; --data DIR tells where they are\n";
+        to.err
+            << "zentrox-story: neben " << options.words.front()
+            << " liegen keine Daten, darum wurden keine Bilder und Töne gesucht; wo sie liegen, sagt --data DIR\n";
     const auto fonts = fontsIfAny();
     Surroundings around{&checked.rest, data.get(), fonts.get()};
     around.wholeGame = inputs.files.empty();
@@ -121,10 +132,25 @@ int check(const Options& options, const Streams& to) {
     return findings.empty() ? clean : hasFindings;
 }
 
+int lines(const Options& options, const Streams& to) {
+    Findings findings;
+    Checked checked;
+    const DataInputs inputs = dataOf(options.words);
+    if (inputs.directories.empty() && inputs.files.empty())
+        readSources(options.words, checked, findings);
+    else
+        readData(inputs, checked, findings);
+    findings.settle(checked.story);
+    to.err << asLines(checked.story, findings);
+    const auto texts = textsOf(checked.story);
+    to.out << (options.json ? linesAsJson(checked.story, texts) : asTable(checked.story, texts));
+    return findings.hasErrors() ? hasFindings : clean;
+}
+
 int source(const Options& options, const Streams& to) {
     const DataInputs data = dataOf(options.words);
     if (data.directories.empty() && data.files.empty())
-        throw WrongCall{options.words.front() + " is no compiled room (.lsd) and no script (.skp)"};
+        throw WrongCall{options.words.front() + " ist kein übersetzter Raum (.lsd) und kein Skript (.skp)"};
     Story story;
     Findings findings;
     std::vector<Text> pictures;
@@ -168,7 +194,7 @@ int coverage(const Options& options, const Streams& to) {
     Coverage coverage(story);
     for (const std::string& name : options.ran)
         if (!coverage.add(files.read(name).value_or("")))
-            throw WrongCall{name + " was not written by a walk through this story as it stands"};
+            throw WrongCall{name + " stammt von keinem Gang durch diese Geschichte, wie sie jetzt dasteht"};
     to.out << coverage.report(files);
     return coverage.percent() < options.least ? hasFindings : clean;
 }
@@ -201,42 +227,60 @@ struct Chosen {
 
 void describe(CLI::App& app, Chosen& chosen) {
     Options& options = chosen.options;
-    app.set_version_flag("--version", "zentrox-story " ZENTROX_VERSION);
+    speakGerman(app);
+    app.set_version_flag("--version", "zentrox-story " ZENTROX_VERSION, "zeigt die Version und endet");
     app.require_subcommand(1);
     const auto add = [&](const char* name, const char* text, Command command) {
         CLI::App* const sub = app.add_subcommand(name, text);
+        sub->group("Befehle");
+        speakGerman(*sub);
         sub->callback([&chosen, command] { chosen.command = command; });
         return sub;
     };
-    CLI::App* sub = add("build", "compile sources into rooms/*.lsd and items/*.skp", build);
-    sub->add_option("SOURCE", options.words, "source files, or directories of *.story")->required();
-    sub->add_option("--into", options.into, "the data directory to write to")->required();
-
-    sub = add("check", "tell what is wrong with sources or compiled data", check);
-    sub->add_option("SOURCE-or-DIR", options.words, "source files, a directory of them, or a data directory")
+    CLI::App* sub =
+        add("lines", "schreibt jeden Text einmal, als Tabelle: zum Sprechen, Prüfen, Übertragen", lines);
+    sub->add_option("QUELLE-oder-DIR", options.words,
+                    "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
         ->required();
-    sub->add_option("--data", options.data, "where the pictures, sounds and so on lie, if not beside the sources");
-    sub->add_flag("--json", options.json, "findings for machines");
+    sub->add_flag("--json", options.json, "eine Liste für Maschinen");
 
-    sub = add("source", "turn compiled rooms and scripts into sources", source);
-    sub->add_option("DIR-or-FILE", options.words, "data directories, rooms, scripts")->required();
-    sub->add_option("--into", options.into, "write one .story file a room and one for the items to this directory");
+    sub = add("build", "übersetzt Quellen in rooms/*.lsd und items/*.skp", build);
+    sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
+    sub->add_option("--into", options.into, "das Datenverzeichnis, in das geschrieben wird")->required();
+    sub->add_option("--with", options.with, "eine Tabelle von lines, deren Texte an die Stelle der eigenen treten");
 
-    sub = add("coverage", "tell which lines of a story no walk has run", coverage);
-    sub->add_option("SOURCE", options.words, "source files, or directories of *.story")->required();
-    sub->add_option("--ran", options.ran, "what zentrox-probe --ran has written, of each walk a file")->required();
-    sub->add_option("--least", options.least, "percent of the lines that have to run")->check(CLI::Range(0, 100));
+    sub = add("check", "sagt, was an Quellen oder übersetzten Daten nicht stimmt", check);
+    sub->add_option("QUELLE-oder-DIR", options.words,
+                    "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
+        ->required();
+    sub->add_option("--data", options.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
+    sub->add_flag("--json", options.json, "Befunde für Maschinen");
 
-    sub = add("new", "make a small story to begin with", fresh);
-    sub->add_option("DIR", options.words, "a directory that is empty or not there yet")->required()->expected(1);
+    sub = add("source", "macht aus übersetzten Räumen und Skripten Quellen", source);
+    sub->add_option("DIR-oder-DATEI", options.words, "Datenverzeichnisse, Räume, Skripte")->required();
+    sub->add_option("--into", options.into,
+                    "schreibt in dieses Verzeichnis: je Raum eine Quelle, für die Gegenstände eine");
 
-    add("opcodes", "print the reference page of the commands", reference);
+    sub = add("coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage);
+    sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
+    sub->add_option("--ran", options.ran, "was zentrox-probe --ran geschrieben hat, von jedem Gang eine Datei")
+        ->required();
+    sub->add_option("--least", options.least, "so viel Prozent der Zeilen müssen laufen")
+        ->check(CLI::Validator(CLI::Range(0, 100)).description("von 0 bis 100"))
+        ->type_name("ZAHL");
+
+    sub = add("new", "legt eine kleine Geschichte an, zum Anfangen", fresh);
+    sub->add_option("DIR", options.words, "ein Verzeichnis, das leer ist oder noch nicht da")
+        ->required()
+        ->expected(1);
+
+    add("opcodes", "druckt die Seite mit allen Befehlen", reference);
 }
 
 }  // namespace
 
 int run(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    CLI::App app("Makes the data files of a story from readable sources, checks them, and reads them back.",
+    CLI::App app("Macht aus lesbaren Quellen die Datendateien einer Geschichte, prüft sie und liest sie zurück.",
                  "zentrox-story");
     Chosen chosen;
     describe(app, chosen);
@@ -245,11 +289,12 @@ int run(std::vector<std::string> arguments, std::ostream& out, std::ostream& err
         app.parse(arguments);
         return chosen.command(chosen.options, {out, err});
     } catch (const CLI::ParseError& error) {
-        return app.exit(error, out, err) == 0 ? clean : wrongCall;
+        if (error.get_exit_code() == 0) return app.exit(error, out, err) == 0 ? clean : wrongCall;
+        err << "zentrox-story: " << inGerman(error) << "; mehr sagt zentrox-story --help\n";
     } catch (const WrongCall& call) {
         err << "zentrox-story: " << call.why << "\n";
     } catch (const fs::filesystem_error& error) {
-        err << "zentrox-story: " << error.path1().string() << ": " << error.code().message() << "\n";
+        err << "zentrox-story: " << error.path1().string() << ": " << inGerman(error.code()) << "\n";
     }
     return wrongCall;
 }

@@ -4,116 +4,13 @@
 #include "tools/story/build.h"
 #include "tools/story/imagefiles.h"
 #include "tools/story/parser.h"
+#include "tools/story/template.h"
 
 namespace zentrox::story {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr const char* sourceText = R"(// Eine Stube, eine Tür, ein Schlüssel: der Anfang einer Geschichte.
-// Übersetzen:  zentrox-story build story --into .
-// Spielen:     zentrox --dir .
-
-// Ihn öffnet das Menü mit "Altes Spiel laden"; wer keines wählt, kehrt dorthin zurück.
-Raum "Laden.lsd"
-    Start
-        System Open
-        System Ende
-
-Raum "Start.lsd"
-    Bild "stube.bmp"
-
-    Start
-        WennMerker SCHLÜSSEL_GENOMMEN
-            ZeigBild "stube_ohne_schluessel.bmp"
-            ObjektAus "Schlüssel"
-        EndeWenn
-        WennMerker BEGRÜSST
-        Sonst
-            SetzeMerker BEGRÜSST
-            Text "Eine stille Stube."
-                 "Die Tür ist zu."
-        EndeWenn
-
-    Objekt "Schlüssel"
-        Zeiger "hand1.ico"
-        Fläche
-            Rechteck 380 270 460 310
-        Rechts
-            Text "Ein Schlüssel."
-                 "Er sieht aus, als passte er zur Tür."
-        Links
-            NimmGegenstand "schluessel.bmp"
-            SetzeMerker SCHLÜSSEL_GENOMMEN
-            ObjektAus "Schlüssel"
-            ZeigBild "stube_ohne_schluessel.bmp"
-
-    Objekt "Tür"
-        Zeiger "hand1.ico"
-        Fläche
-            Rechteck 100 120 220 400
-        Rechts
-            Text "Eine Tür aus Eichenholz."
-        Links
-            WennMerker TÜR_OFFEN
-                Auswahl "Die Tür steht offen. Gehst du hinaus?"
-                    Fall "Ja."
-                        Text "$EHier beginnt deine Geschichte."
-                        System Ende
-                    Fall "Noch nicht."
-                        Text "Drinnen ist es auch schön."
-                EndeAuswahl
-            Sonst
-                Text "Sie ist abgeschlossen."
-            EndeWenn
-        Ablegen
-            WennParameter SCHLUESSEL
-                GibGegenstand "schluessel.bmp"
-                SetzeMerker TÜR_OFFEN
-                Text "Der Schlüssel dreht sich."
-                     "Die Tür ist offen."
-            Sonst
-                Text "Damit geht sie nicht auf."
-            EndeWenn
-
-Gegenstand "schluessel.bmp"
-    Rechts
-        Text "Er ist klein und aus Messing."
-    Links
-        Text "Womit soll ich ihn benutzen?"
-)";
-
-constexpr const char* walkText =
-    R"(# Einmal durch die Geschichte. Abspielen:  zentrox-probe --dir . walks/start.walk
-until window Menu
-key enter
-until text "Eine stille Stube."
-key space
-until idle
-
-use Tür
-until text "abgeschlossen"
-key space
-until idle
-
-use Schlüssel
-until item schluessel
-until idle
-give schluessel Tür
-until text "Die Tür ist offen."
-key space
-until idle
-expect flag TÜR_OFFEN
-expect not item schluessel
-
-use Tür
-until choice
-choose 2
-until text "Drinnen"
-key space
-until idle
-)";
 
 // --- pictures, each drawn at half the size of the room
 
@@ -208,8 +105,11 @@ void writeFreshStory(const fs::path& directory) {
     if (fs::exists(directory, error) && !fs::is_empty(directory, error))
         throw fs::filesystem_error("neu", directory, std::make_error_code(std::errc::directory_not_empty));
     const auto write = [&](const char* name, const std::string& bytes) { writeIfChanged(directory / name, bytes); };
-    write("story/start.story", sourceText);
-    write("walks/start.walk", walkText);
+    std::vector<fs::path> sources;
+    for (const TemplateFile& file : templateFiles()) {
+        write(file.path, std::string(file.text));
+        if (fs::path(file.path).extension() == ".story") sources.push_back(directory / file.path);
+    }
     write("graphics/stube.bmp", bmpFile(room(true)));
     write("graphics/stube_ohne_schluessel.bmp", bmpFile(room(false)));
     write("items/schluessel.bmp", bmpFile(itemPicture()));
@@ -220,7 +120,7 @@ void writeFreshStory(const fs::path& directory) {
     write("cursors/hand1.ico", iconFile(handPointer(white), clear));
     Findings findings;
     SourceFiles files;
-    writeStory(parseSources({directory / "story/start.story"}, files, findings), directory);
+    writeStory(parseSources(sources, files, findings), directory);
 }
 
 }  // namespace zentrox::story

@@ -5,6 +5,7 @@
 
 #include "platform/values/text.h"
 #include "tools/story/data.h"
+#include "tools/story/german.h"
 
 namespace zentrox::story {
 
@@ -30,7 +31,7 @@ std::vector<fs::path> filesIn(const fs::path& directory, bool (*wanted)(const fs
     std::vector<fs::path> inside;
     std::error_code error;
     fs::directory_iterator entries(directory, error);
-    if (error) throw WrongCall{directory.string() + " can't be read: " + error.message()};
+    if (error) throw WrongCall{directory.string() + " lässt sich nicht lesen: " + inGerman(error)};
     for (const auto& entry : entries)
         if (wanted(entry.path()) && entry.is_regular_file(error)) inside.push_back(entry.path());
     std::sort(inside.begin(), inside.end());
@@ -42,7 +43,7 @@ std::vector<fs::path> filesIn(const fs::path& directory, bool (*wanted)(const fs
 void needAll(const std::vector<std::string>& words) {
     std::error_code error;
     for (const std::string& word : words)
-        if (!fs::exists(word, error)) throw WrongCall{"there is no " + word};
+        if (!fs::exists(word, error)) throw WrongCall{word + " gibt es nicht"};
 }
 
 std::vector<fs::path> sourcesOf(const std::vector<std::string>& words) {
@@ -54,7 +55,7 @@ std::vector<fs::path> sourcesOf(const std::vector<std::string>& words) {
             continue;
         }
         const auto inside = filesIn(word, isSource);
-        if (inside.empty()) throw WrongCall{"there is no source (*.story) in " + word};
+        if (inside.empty()) throw WrongCall{"in " + word + " liegt keine Quelle (*.story)"};
         sources.insert(sources.end(), inside.begin(), inside.end());
     }
     return sources;
@@ -88,11 +89,14 @@ DataInputs dataOf(const std::vector<std::string>& words) {
             data.directories.emplace_back(word);
         } else {
             const auto inside = filesIn(word, isDataFile);
-            if (inside.empty()) throw WrongCall{"there is neither a source nor a compiled room or item in " + word};
+            if (inside.empty())
+                throw WrongCall{"in " + word +
+                                " liegt weder eine Quelle noch ein übersetzter Raum oder Gegenstand"};
             data.files.insert(data.files.end(), inside.begin(), inside.end());
         }
     }
-    if (sources > 0 && sources < words.size()) throw WrongCall{"sources and compiled data can't be mixed"};
+    if (sources > 0 && sources < words.size())
+        throw WrongCall{"Quellen und übersetzte Daten gehen nicht in einem Aufruf"};
     return data;
 }
 

@@ -1,5 +1,5 @@
-// What a text field and a text box share: a text that is edited, its looks, and what pointer and keys do to it. Where
-// its characters stand is theirs to know.
+// What a text field and a text box share: a text that is edited, its looks, and what pointer and keys do to it.
+// Where its characters stand is theirs to know.
 #pragma once
 
 #include "platform/window/controls/edittext.h"
