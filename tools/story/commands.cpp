@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "platform/values/error.h"
+#include "tools/prove/command.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
 #include "tools/story/coverage.h"
@@ -31,6 +32,7 @@ struct Options {
     bool json = false;
     std::vector<std::string> ran;
     double least = 0;
+    prove::Call prove;
 };
 
 struct Streams {
@@ -199,6 +201,26 @@ int coverage(const Options& options, const Streams& to) {
     return coverage.percent() < options.least ? hasFindings : clean;
 }
 
+int prove(const Options& options, const Streams& to) {
+    Findings findings;
+    Story story;
+    const DataInputs inputs = dataOf(options.words);
+    if (inputs.directories.empty() && inputs.files.empty()) {
+        SourceFiles files;
+        const auto sources = sourcesOf(options.words);
+        story = parseSources(sources, files, findings, neighboursOf(sources));
+        checkForBuild(story, findings);
+    } else {
+        Checked checked;
+        readData(inputs, checked, findings);
+        story = std::move(checked.story);
+    }
+    findings.settle(story);
+    prove::Call call = options.prove;
+    call.json = options.json;
+    return prove::run(story, findings, call, to.out, to.err);
+}
+
 int fresh(const Options& options, const Streams& to) {
     const fs::path directory = options.words.front();
     writeFreshStory(directory);
@@ -224,6 +246,30 @@ struct Chosen {
     Options options;
     Command command = nullptr;
 };
+
+CLI::Validator aboveZero() {
+    return CLI::Validator(CLI::PositiveNumber).description("über 0");
+}
+
+void describeProve(CLI::App& sub, Options& options) {
+    prove::Call& call = options.prove;
+    sub.add_option("QUELLE-oder-DIR", options.words, "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
+        ->required();
+    sub.add_option("--walks", call.walks, "schreibt die kürzesten Gänge zu Enden und Sackgassen in dieses Verzeichnis");
+    sub.add_flag("--statistik", call.statistics, "Zustände, Schritte, Wege, und die Räume als Bild für Graphviz");
+    sub.add_option("--graph", call.graph, "schreibt dieses Bild in eine Datei");
+    sub.add_option("--seconds", call.seconds, "sucht nicht länger als so viele Sekunden")
+        ->check(aboveZero())
+        ->type_name("ZAHL");
+    sub.add_option("--memory", call.megabytes, "nimmt nicht mehr als so viele Megabyte, sonst 2000")
+        ->check(aboveZero())
+        ->type_name("ZAHL");
+    sub.add_option("--limit", call.states, "sieht nicht mehr als so viele Zustände an")
+        ->check(aboveZero())
+        ->type_name("ZAHL");
+    sub.add_flag("--full", call.full, "lässt nichts aus, auch was auf die Antworten keinen Einfluss hat");
+    sub.add_flag("--json", options.json, "ein Objekt für Maschinen");
+}
 
 void describe(CLI::App& app, Chosen& chosen) {
     Options& options = chosen.options;
@@ -260,6 +306,8 @@ void describe(CLI::App& app, Chosen& chosen) {
     sub->add_option("DIR-oder-DATEI", options.words, "Datenverzeichnisse, Räume, Skripte")->required();
     sub->add_option("--into", options.into,
                     "schreibt in dieses Verzeichnis: je Raum eine Quelle, für die Gegenstände eine");
+
+    describeProve(*add("prove", "spielt alle Spiele durch: Enden, Sackgassen, was nie geschieht", prove), options);
 
     sub = add("coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage);
     sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
