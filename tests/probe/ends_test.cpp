@@ -84,6 +84,7 @@ INSTANTIATE_TEST_SUITE_P(
              "a\nuntil idle",
              5},
         Case{"Ziehen.lsd", "until idle\ncombine blue lime\nuntil idle\ngive lime Kiste\nuntil idle", 2},
+        Case{"Film.lsd", "until text \"Ende.\"\nkey a\nuntil idle", 3},
         Case{"Auswahl.lsd", "until choice\nchoose 2\nuntil choice\nchoose 2\nuntil idle", 2},
         Case{"Tasten.lsd",
              "until idle\nkey f7\nkey enter\nkey f2\nuntil window Dialog\nkey escape\nkey f1\nuntil window "
