@@ -127,16 +127,11 @@ TEST(Dialog, CleansNames) {
     }
 }
 
-TEST(Dialog, BearsAMissingDirectoryAndTenThousandGames) {
+TEST(Dialog, BearsAMissingDirectory) {
     DialogPlay play;
     std::filesystem::remove_all(play.directory.path() / "saves");
     play.backend.key(key::escape);
     EXPECT_EQ(play.show(), "");
-    for (int i = 0; i < 10'000; ++i) play.directory.write("saves/" + std::to_string(10'000 + i) + ".xtc", "");
-    play.backend.key(key::tab, true);
-    play.backend.key(key::end);
-    play.backend.key(key::enter);
-    EXPECT_EQ(play.show(), play.dir() + "19999.xtc");
 }
 
 }  // namespace

@@ -107,15 +107,5 @@ TEST(SaveFile, LinesEndWithBothCharacters) {
     EXPECT_EQ(z.Merker[1], "EIN\nMERKER") << "a line feed alone is a character";
 }
 
-TEST(SaveFile, LinesOfAMegabyteAreLines) {
-    Zustand saved;
-    playOn(saved);
-    saved.Merker[5] = Text(1'000'000, 'X');
-    Zustand z;
-    ASSERT_TRUE(SpielstandLesen(SpielstandSchreiben(saved), z));
-    EXPECT_EQ(z.Merker[5].size(), 1'000'000U);
-    EXPECT_FALSE(SpielstandLesen(Text(3'000'000, 'X'), z));
-}
-
 }  // namespace
 }  // namespace zentrox::test

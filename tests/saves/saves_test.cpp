@@ -52,14 +52,6 @@ TEST(SpielSpeichern, IsRefusedWhileTheCountDownRuns) {
     EXPECT_EQ(play.backend.opens, std::vector<Text>{"MsgBox"}) << "the dialog does not open";
 }
 
-TEST(SpielSpeichern, ChangesNothingWhenCancelled) {
-    SavesPlay play;
-    play.backend.key(key::escape);
-    SpielSpeichern(play.platform, play.z, play.room);
-    EXPECT_TRUE(play.backend.boxes.empty());
-    EXPECT_TRUE(play.room.notes.empty());
-}
-
 TEST(SpielSpeichern, AFailedWriteIsABoxAndTheGameGoesOn) {
     SavesPlay play;
     playOn(play.z);
