@@ -114,8 +114,8 @@ void Screen::shape() {
     const Size least = sizable ? scaled(base.minimum, enlarging_ == Enlarging::whole ? windowedScale_ : 1) : Size{};
     if (least == least_) return;
     least_ = least;
+    SDL_SetWindowMinimumSize(native_.get(), std::max(least.w, 1), std::max(least.h, 1));
     SDL_SetWindowResizable(native_.get(), sizable ? SDL_TRUE : SDL_FALSE);
-    if (sizable) SDL_SetWindowMinimumSize(native_.get(), least.w, least.h);
 }
 
 void Screen::measure() {

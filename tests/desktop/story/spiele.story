@@ -1,6 +1,6 @@
 // A room with a field for each game, four in a row, and a third row of what opens boxes.
 Raum "Spiele.lsd"
-    Bild "aula.jpg"
+    Bild "saal.bmp"
     Start
         SetzeMerker BEREIT
     Objekt "Pong"
