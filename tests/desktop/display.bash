@@ -3,8 +3,9 @@
 
 fail() { echo "$*" >&2; exit 1; }
 
-xvfb= manager= game=
-tidy() { kill $game $manager $xvfb 2>/dev/null; wait 2>/dev/null; } 2>/dev/null
+xvfb= game=
+# The window manager and what it has started end with the display.
+tidy() { kill $game $xvfb; wait $game $xvfb; } 2>/dev/null
 trap tidy EXIT
 
 # The display number is the first free one; Xvfb writes it to its descriptor.
@@ -18,7 +19,6 @@ display() {
     screen_width=${1%x*} screen_height=${1#*x}
     [ -n "${2:-}" ] || return 0
     $2 >/dev/null 2>&1 &
-    manager=$!
     eventually managed || fail "$2 does not start"
 }
 managed() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
