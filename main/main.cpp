@@ -31,7 +31,8 @@ Files filesOf(const Options& options) {
 int play(const Options& options, const Files& files) {
     sdl::Desktop desktop(files, restartCommand(programFile(), options));
     const auto fonts = makeFonts();
-    const auto sound = desktopSound(files);
+    const auto sound = desktopSound(files, [&desktop] { return desktop.clock(); });
+    desktop.onPause = [&sound](bool paused) { sound->setPaused(paused); };
     Platform platform(desktop, *fonts, *sound, files);
     platform.roots = rootsToSearch(options, searchRoots(options.directory));
     const auto zustand = std::make_unique<Zustand>();

@@ -61,7 +61,8 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
            "menu")
         ->type_name("");
     app.footer(
-        "F11 or Alt+Enter switches to full screen and back.\n"
+        "F11 or Alt+Enter switches to full screen and back; F8 goes through the ways of enlarging the picture:\n"
+        "by whole multiples, as large as fits and sharp, as large as fits and smooth.\n"
         "ZENTROX_SOUND=none in the environment plays without sound.");
     try {
         app.parse(count, words);

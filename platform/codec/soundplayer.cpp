@@ -54,6 +54,9 @@ public:
     bool start() override { return output_ == nullptr || open_; }
     SoundError error() const override { return error_; }
     void free() override;
+    void setPaused(bool paused) override {
+        if (open_) output_->setPaused(paused);
+    }
     void useSoundFontsIn(TextView directory) override { musics_ = files_.systemPath(directory); }
 
     SoundHandle openVoice(TextView path) override;

@@ -21,6 +21,8 @@ public:
     virtual Opened open(Source source) = 0;
     // The source is not asked any more when this returns.
     virtual void close() = 0;
+    // While it is paused the source is not asked; not even once more when this returns.
+    virtual void setPaused(bool /*paused*/) {}
 };
 
 // `clock` tells milliseconds and never goes back. Without an output all is silent without a complaint.

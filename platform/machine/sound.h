@@ -35,6 +35,8 @@ public:
     virtual SoundError error() const = 0;  // of the last call that can fail
     // Stops all and closes the output.
     virtual void free() = 0;
+    // All that plays stands still until it is told to go on.
+    virtual void setPaused(bool /*paused*/) {}
 
     // Opens a voice file, in place of the one before, without playing it yet; 0 if that fails.
     virtual SoundHandle openVoice(TextView path) = 0;

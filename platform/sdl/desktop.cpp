@@ -40,16 +40,18 @@ Milliseconds Desktop::clock() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(now - begin_).count();
 }
 
-// The time of a pause never was: all deadlines are as far away after it as they were before.
+// The time of a pause never was: all deadlines are as far away after it as they were before. The sound asks the
+// clock in a thread of its own, but not while it is paused, which is when the clock stops and goes on.
 void Desktop::pause(bool on) {
     if (on == pausedAt_.has_value()) return;
     if (on) {
+        if (onPause) onPause(true);
         pausedAt_ = Clock::now();
-    } else {
-        begin_ += Clock::now() - *pausedAt_;
-        pausedAt_.reset();
+        return;
     }
-    if (onPause) onPause(on);
+    begin_ += Clock::now() - *pausedAt_;
+    pausedAt_.reset();
+    if (onPause) onPause(false);
 }
 
 // Sleeps to the very millisecond: the last one or two without an eye on input, since SDL waits whole ones only and

@@ -21,7 +21,8 @@ public:
     void setFullScreen(bool on);
     Enlarging enlarging() const { return screen_.enlarging(); }
     void setEnlarging(Enlarging how);
-    // Called when the game is minimised and its clock stands still, and when it goes on.
+    // Called before the clock stands still because the window was minimised, and after it goes on. Who asks the
+    // clock in another thread must not between the two.
     std::function<void(bool paused)> onPause;
 
     Milliseconds clock() override;

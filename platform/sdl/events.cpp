@@ -94,6 +94,7 @@ void Events::takeWindow(const SDL_WindowEvent& event) {
         case SDL_WINDOWEVENT_MINIMIZED:
             if (onMinimised) onMinimised(true);
             return;
+        case SDL_WINDOWEVENT_FOCUS_GAINED:
         case SDL_WINDOWEVENT_RESTORED:
         case SDL_WINDOWEVENT_MAXIMIZED:
         case SDL_WINDOWEVENT_SHOWN:

@@ -49,6 +49,7 @@ public:
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
         device_ = 0;
     }
+    void setPaused(bool paused) override { SDL_PauseAudioDevice(device_, paused ? 1 : 0); }
 
 private:
     SDL_AudioDeviceID device_ = 0;
@@ -62,10 +63,10 @@ std::int64_t now() {
 
 }  // namespace
 
-std::unique_ptr<SoundDevice> desktopSound(const Files& files) {
+std::unique_ptr<SoundDevice> desktopSound(const Files& files, std::function<std::int64_t()> clock) {
     const char* choice = std::getenv("ZENTROX_SOUND");
     const bool muted = choice != nullptr && std::string_view(choice) == "none";
-    return soundPlayer(files, muted ? nullptr : std::make_unique<SdlOutput>(), now);
+    return soundPlayer(files, muted ? nullptr : std::make_unique<SdlOutput>(), clock ? std::move(clock) : now);
 }
 
 }  // namespace zentrox
