@@ -1,6 +1,7 @@
 #include "games/bruhks/bruhks.h"
 
 #include "engine/state/warten.h"
+#include "games/base/entscheidbar.h"
 #include "games/bruhks/bruhksbild.h"
 #include "platform/window/controls/label.h"
 #include "platform/window/controls/look.h"
@@ -20,7 +21,7 @@ public:
     void paint(Bitmap& onto, Point at) override { look::sunken(onto, {at, area().size()}); }
 };
 
-class Bruhks : public Window {
+class Bruhks : public Window, public Entscheidbar {
 public:
     Bruhks(Platform& platform, Zustand& zustand)
         : Window(platform, "Bruhks", "", fenstergröße, Frame::thin),
@@ -39,6 +40,10 @@ public:
         };
         Label2.name = "Label2";
     }
+
+    bool Entscheiden(bool sieg) override { return spiel_.Entscheiden(sieg); }
+    // The celebration ends on a click.
+    void Verlassen() override { spiel_.Klick(linkeTaste, 0, 0); }
 
 private:
     bool onQueryClose() override {

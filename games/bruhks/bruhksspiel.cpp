@@ -134,6 +134,17 @@ void Bruhksspiel::SiegBeginn(Point mitte) {
     Textspur.fill(mitte);
 }
 
+bool Bruhksspiel::Entscheiden(bool sieg) {
+    if (!Jagd()) return false;
+    if (sieg) {
+        for (Kreatur& k : Kreaturen) k.Lebt = false;
+        Uebrig = 0;
+    } else {
+        Ende = 1;
+    }
+    return true;
+}
+
 // Each place takes the value of the next newer one.
 void Bruhksspiel::text() {
     winkel_ += textTempo;

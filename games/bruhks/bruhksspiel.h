@@ -45,6 +45,8 @@ public:
     bool Jagd() const { return Ende == 0 && Uebrig > 0; }
     // The hunt is won: the celebration begins with its text at `mitte`.
     void SiegBeginn(Point mitte);
+    // Ends the hunt as won or lost. False if it is over.
+    bool Entscheiden(bool sieg);
     // One tick of the hunt or of the celebration. It is silent, and all that it does can be seen in the fields.
     void Tick(Random& zufall);
 

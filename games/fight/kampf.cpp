@@ -139,6 +139,13 @@ Folge Kampf::Weiter(Random& zufall) {
     return {};
 }
 
+bool Kampf::Entscheiden(bool sieg) {
+    if (Stand == Kampfstand::vorbei) return false;
+    Stand = sieg ? Kampfstand::Brokan : Kampfstand::Velmix;
+    (sieg ? EnergieJ : EnergieS).wert = 0;
+    return true;
+}
+
 Folge Kampf::ende(Folge ende) {
     Stand = Kampfstand::vorbei;
     return ende;

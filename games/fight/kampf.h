@@ -63,6 +63,8 @@ struct Kampf {
     // The next piece: the prelude, then turn after turn, the end, and then nothing. A blow counts as soon as its
     // piece is given; the step `energie` says when to show it.
     Folge Weiter(Random& zufall);
+    // The next piece is the end of a fight that is won or lost. False if the end has been given.
+    bool Entscheiden(bool sieg);
 
 private:
     Folge zugVelmix(Random& zufall);

@@ -46,7 +46,11 @@ Prügel::Prügel(Platform& platform, Zustand& zustand, Medien& medien, Symbole s
       Picture1(platform.fonts, &Frame1, {0, 0, 641, 425}),
       Label1{Label{&Frame1, {0, 440, 265, 17}, "Velmix"}, Label{&Frame1, {368, 440, 265, 17}, "Brokan"}},
       bild_(Picture1),
-      RM(platform.queue, liedprüfung, false, [this] { medien_.SongPrüfen(); }) {
+      RM(platform.queue, liedprüfung, false, [this] { medien_.SongPrüfen(); }),
+      Timer1(platform.queue, 1, false, [this] {
+          Timer1.setEnabled(false);
+          Command1_Click();
+      }) {
     Frame1.setVisible(false);
     Label1[1].setAlign(Label::Align::right);
     wahlbild_.Klick = [this](std::int32_t Index) { Image1_Click(Index); };
@@ -67,6 +71,14 @@ void Prügel::Image1_Click(std::int32_t Index) {
     wahlbild_.Zeichnen(wahl_);
 }
 
+bool Prügel::Entscheiden(bool sieg) {
+    if (kampf_) return kampf_->Entscheiden(sieg);
+    if (entschieden_) return false;
+    entschieden_ = sieg;
+    Timer1.setEnabled(true);
+    return true;
+}
+
 // --- the fight
 
 void Prügel::Command1_Click() {
@@ -75,7 +87,8 @@ void Prügel::Command1_Click() {
     wahlbild_.Verbergen();
     Frame1.setVisible(true);
     Random& zufall = platform().random;
-    Kampf kampf{.Angriff = wahl_.Angriff, .Abwehr = wahl_.Abwehr};
+    Kampf& kampf = kampf_.emplace(Kampf{.Angriff = wahl_.Angriff, .Abwehr = wahl_.Abwehr});
+    if (entschieden_) kampf.Entscheiden(*entschieden_);
     for (Folge folge = kampf.Weiter(zufall); !folge.empty(); folge = kampf.Weiter(zufall))
         if (!Spielen(folge, kampf)) return;
     z_.Übergabe = kampf.Gewonnen;

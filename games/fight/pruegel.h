@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
+#include "games/base/entscheidbar.h"
 #include "games/fight/kampfbild.h"
 #include "games/fight/wahlbild.h"
 #include "media/medien.h"
@@ -10,10 +12,13 @@
 
 namespace zentrox {
 
-class Prügel : public Window {
+class Prügel : public Window, public Entscheidbar {
 public:
     // `zaubertrank` says whether Velmix may use the potion.
     Prügel(Platform& platform, Zustand& zustand, Medien& medien, Symbole symbole, bool zaubertrank);
+
+    // Whoever has not yet chosen fights at once.
+    bool Entscheiden(bool sieg) override;
 
 private:
     bool onQueryClose() override;
@@ -35,6 +40,8 @@ private:
     Zustand& z_;
     Medien& medien_;
     Technikwahl wahl_;
+    std::optional<bool> entschieden_;
+    std::optional<Kampf> kampf_;  // once the choice is made
     Wahlbild wahlbild_;
 
     Panel Frame1;
@@ -42,6 +49,7 @@ private:
     std::array<Label, 2> Label1;
     Kampfbild bild_;
     Timer RM;
+    Timer Timer1;  // fires once, to fight without a choice
 };
 
 }  // namespace zentrox

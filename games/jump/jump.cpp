@@ -1,6 +1,7 @@
 #include "games/jump/jump.h"
 
 #include "engine/state/warten.h"
+#include "games/base/entscheidbar.h"
 #include "games/base/geladen.h"
 #include "games/base/tasten.h"
 #include "games/jump/jumpbild.h"
@@ -13,7 +14,7 @@ constexpr Size fenstergröße{624, 433};
 constexpr int takt = 20;       // milliseconds a tick
 constexpr int songTakt = 500;  // milliseconds between two looks at the song
 
-class Jump : public Window {
+class Jump : public Window, public Entscheidbar {
 public:
     Jump(Platform& platform, Zustand& zustand, Medien& medien)
         : Window(platform, "Jump", "", fenstergröße, Frame::thin),
@@ -28,6 +29,8 @@ public:
         Feld.print("Bitte Warten - Laden");
         setPointer({Pointer::Mode::invisible, {}});
     }
+
+    bool Entscheiden(bool sieg) override { return bild_ && spiel_.Entscheiden(sieg); }
 
 private:
     bool onQueryClose() override {

@@ -269,6 +269,12 @@ void Jumpspiel::ziel(Lauf& lauf) {
     SiegZaehler = 1;
 }
 
+bool Jumpspiel::Entscheiden(bool sieg) {
+    if (Ende != 0 || TotZaehler != 0 || SiegZaehler != 0) return false;
+    (sieg ? SiegZaehler : TotZaehler) = 1;
+    return true;
+}
+
 void Jumpspiel::feiern(Lauf& lauf) {
     Ergebnis = true;
     if (++SiegZaehler > siegTicks) Ende = 1;

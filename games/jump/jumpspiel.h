@@ -27,6 +27,8 @@ struct Jumptick {
 class Jumpspiel {
 public:
     Jumptick Tick(const Tasten& tasten, Random& zufall);
+    // From the next tick on the figure celebrates or dies. False if it does already.
+    bool Entscheiden(bool sieg);
 
     // Whether a body of `Breite` pixels and `Hoehe` rows, its corner at X, Y, can't move on by `Tempo`.
     bool CheckLinksundRechts(float X, float Y, float Tempo, std::int32_t Breite, std::int32_t Hoehe) const;

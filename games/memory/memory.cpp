@@ -43,6 +43,15 @@ void Memory::Timer1_Timer() {
     close();
 }
 
+// The match is cut off, and its end is as always.
+bool Memory::Entscheiden(bool sieg) {
+    if (!laeuft) return false;
+    spiel_.Punkte = {sieg ? paarAnzahl : 0, sieg ? 0 : paarAnzahl};
+    Ende();
+    laeuft = false;
+    return true;
+}
+
 // --- the match
 
 void Memory::match() {

@@ -3,17 +3,19 @@
 #pragma once
 
 #include "engine/state/zustand.h"
+#include "games/base/entscheidbar.h"
 #include "games/memory/memorybild.h"
 #include "platform/platform.h"
 #include "platform/window/window.h"
 
 namespace zentrox {
 
-class Memory : public Window {
+class Memory : public Window, public Entscheidbar {
 public:
     Memory(Platform& platform, Zustand& zustand, Memorybilder bilder);
 
     const Memoryspiel& spiel() const { return spiel_; }
+    bool Entscheiden(bool sieg) override;
 
 private:
     bool onQueryClose() override;

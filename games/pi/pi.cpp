@@ -1,6 +1,7 @@
 #include "games/pi/pi.h"
 
 #include "engine/state/warten.h"
+#include "games/base/entscheidbar.h"
 #include "games/base/geladen.h"
 #include "games/pi/pibild.h"
 #include "platform/window/window.h"
@@ -16,7 +17,7 @@ constexpr std::int32_t blitz = 10;
 constexpr Milliseconds schlussZeit = 10'000;
 
 // A game is one long call that waits for keys and for the clock.
-class PISpiel : public Window {
+class PISpiel : public Window, public Entscheidbar {
 public:
     PISpiel(Platform& platform, Zustand& zustand, Medien& medien, Text zeichen)
         : Window(platform, "PISpiel", "PI-Spiel", PIfläche, Frame::fixed),
@@ -26,6 +27,15 @@ public:
           Picture1(platform.fonts, &root(), {{0, 0}, PIfläche}),
           bild_(Picture1),
           Timer1(platform.queue, soSchnellEsGeht, true, [this] { Timer1_Timer(); }) {}
+
+    // A wrong answer to a character that is far enough, or not.
+    bool Entscheiden(bool sieg) override {
+        constexpr std::int16_t falsch = 1;  // no key gives this
+        if (!fragt || taste != 0) return false;
+        spiel_.anzahl = sieg ? std::max(spiel_.anzahl, piBestanden) : std::min(spiel_.anzahl, piBestanden - 1);
+        taste = falsch;
+        return true;
+    }
 
 private:
     bool onQueryClose() override { return Form_QueryUnload(); }
@@ -49,6 +59,7 @@ private:
     PIbild bild_;
     Timer Timer1;
     bool spielLaeuft = false;
+    bool fragt = false;
     std::int16_t taste = 0;
 };
 
@@ -103,7 +114,9 @@ bool PISpiel::abfragen() {
     do {
         bild_.Frage(spiel_.Weiter(platform().random));
         taste = 0;
+        fragt = true;
         if (!warten([this] { return taste != 0; }, spiel_.Frist())) return false;
+        fragt = false;
     } while (spiel_.Antwort(taste));
     return true;
 }

@@ -64,6 +64,12 @@ void Pong::neuess() {
     melden();
 }
 
+bool Pong::Entscheiden(bool sieg) {
+    const bool jetzt = spiel_.Entscheiden(sieg);
+    melden();
+    return jetzt;
+}
+
 template <class Tick>
 void Pong::tun(Tick tick, void (Pongbild::*zeigen)(const Pongzug&)) {
     const Pongspiel vorher = spiel_;

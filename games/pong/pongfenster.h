@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/state/zustand.h"
+#include "games/base/entscheidbar.h"
 #include "games/pong/pongbild.h"
 #include "media/medien.h"
 #include "platform/platform.h"
@@ -12,11 +13,13 @@
 
 namespace zentrox {
 
-class Pong : public Window {
+class Pong : public Window, public Entscheidbar {
 public:
     Pong(Platform& platform, Zustand& zustand, Medien& medien, Pongbilder bilder);
 
     const Pongspiel& spiel() const { return spiel_; }
+    bool Entscheiden(bool sieg) override;
+    void Verlassen() override { requestClose(); }
 
 private:
     void onKeyDown(int code) override { tasten_.Nieder(code); }

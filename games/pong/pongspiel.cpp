@@ -101,6 +101,13 @@ void Pongspiel::gewonnen(std::int16_t Ergebnis) {
     titel = spieler ? titelSieg : titelNiederlage;
 }
 
+bool Pongspiel::Entscheiden(bool sieg) {
+    if (spielEnde) return false;
+    (sieg ? punkteSpieler : punkteGegner) = siegPunkte + 1;
+    gewonnen(sieg ? 1 : 0);
+    return true;
+}
+
 // --- play
 
 Pongtick Pongspiel::Timer1_Timer(const Tasten& tasten) {

@@ -91,6 +91,9 @@ struct Pongspiel {
     // Starts a match, at any moment. The first of a window as well.
     void neuess();
 
+    // Ends the match with eleven points for one side. False if it is over.
+    bool Entscheiden(bool sieg);
+
     // What the timers do. At the end of a match nothing is left to decide, so 4 and 5 have nothing to do here.
     Pongtick Timer1_Timer(const Tasten& tasten);
     Pongtick Timer2_Timer();

@@ -1,3 +1,4 @@
+#include "games/base/entscheidbar.h"
 #include "games/base/geladen.h"
 #include "games/quiz/hdwbild.h"
 #include "games/quiz/hdwspiel.h"
@@ -11,7 +12,7 @@ constexpr Milliseconds soSchnellEsGeht = 1;
 constexpr Milliseconds blinkzeitRichtig = 100;
 constexpr Milliseconds blinkzeitFalsch = 300;
 
-class HDW : public Window {
+class HDW : public Window, public Entscheidbar {
 public:
     HDW(Platform& platform, Zustand& zustand, Medien& medien, std::vector<Frage> fragen)
         : Window(platform, "HDW", "", HDWgröße, Frame::none),
@@ -22,6 +23,14 @@ public:
           Timer1(platform.queue, soSchnellEsGeht, true, [this] { Timer1_Timer(); }),
           Timer2(platform.queue, blinkzeitRichtig, false, [this] { Timer2_Timer(); }),
           Timer3(platform.queue, blinkzeitFalsch, false, [this] { Timer3_Timer(); }) {}
+
+    // The present question is answered, and it is the last one.
+    bool Entscheiden(bool sieg) override {
+        if (!spiel_.Gefragt() || Timer1.enabled() || Timer2.enabled() || Timer3.enabled()) return false;
+        if (sieg) spiel_.LetzteFrage();
+        Label2_Click(sieg ? spiel_.richtigePos : spiel_.richtigePos + 1);
+        return true;
+    }
 
 private:
     void Timer1_Timer() {

@@ -32,6 +32,10 @@ std::optional<Aufgabe> HDWspiel::Weiter(Random& zufall) {
     return aufgabe;
 }
 
+void HDWspiel::LetzteFrage() {
+    FrageNr = fragenBisZumSieg;
+}
+
 Blinktick HDWspiel::BlinkenRichtig() {
     return blinken(blinkenRichtig, richtig);
 }

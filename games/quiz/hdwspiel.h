@@ -25,6 +25,9 @@ struct HDWspiel {
 
     // The next question; nothing if four have been answered, which wins.
     std::optional<Aufgabe> Weiter(Random& zufall);
+    bool Gefragt() const { return FrageNr > 0; }
+    // The present question is the last one that has to be answered.
+    void LetzteFrage();
     bool Richtig(std::int32_t feld) const { return feld == richtigePos; }
     Blinktick BlinkenRichtig();
     Blinktick BlinkenFalsch();

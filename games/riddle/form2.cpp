@@ -1,3 +1,4 @@
+#include "games/base/entscheidbar.h"
 #include "games/riddle/raetsel.h"
 #include "games/riddle/riddle.h"
 #include "platform/values/keys.h"
@@ -12,7 +13,7 @@ namespace {
 constexpr Size fenstergröße{450, 364};
 constexpr Colour hellrot{255, 192, 192};
 
-class Form2 : public Window {
+class Form2 : public Window, public Entscheidbar {
 public:
     Form2(Platform& platform, Zustand& zustand)
         : Window(platform, "Form2", "", fenstergröße, Frame::dialog),
@@ -29,6 +30,12 @@ public:
         Text2.setFont(schrift);
         Text2.onEnter = [this] { Eingabe(); };
         setFocus(&Text2);
+    }
+
+    bool Entscheiden(bool sieg) override {
+        z_.Übergabe = sieg;
+        close();
+        return true;
     }
 
 private:

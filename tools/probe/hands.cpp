@@ -9,7 +9,10 @@ namespace zentrox::probe {
 
 namespace {
 
-constexpr Milliseconds slideLimit = 10000;   // for the bar to open or close
+constexpr Milliseconds slideLimit = 10000;  // for the bar to open or close
+constexpr Milliseconds gameLook = 100;      // between two looks whether a game can be decided
+constexpr Milliseconds gameRest = 5000;     // between two attempts to leave a game that has ended
+constexpr Milliseconds gameLimit = 300000;
 constexpr Milliseconds scriptLimit = 60000;  // for a script to say or ask something, or to end
 
 Button buttonNamed(const std::string& word) {
@@ -302,6 +305,48 @@ void Player::chooseByText(const Text& wanted, const std::string& what) {
     }
     if (holding.size() != 1) fail(what, (holding.empty() ? "" : "several of them; ") + seen());
     choose(holding.front(), what);
+}
+
+// --- the mini-games
+
+void Player::win(const Command& /*command*/) {
+    decide(true);
+}
+
+void Player::lose(const Command& /*command*/) {
+    decide(false);
+}
+
+// A game that is just being opened is waited for.
+void Player::decide(bool won) {
+    const std::string wanted = won ? "a game to win" : "a game to lose";
+    room(wanted);
+    push(Unfold([this, won, wanted, end = backend_.clock() + scriptLimit] { tryToDecide(won, wanted, end); }));
+}
+
+void Player::tryToDecide(bool won, const std::string& wanted, Milliseconds end) {
+    Window* const game = platform_->queue.active();
+    if (game_->decide(won)) return leaveGame(game, backend_.clock() + gameLimit);
+    if (backend_.clock() >= end || game_->idle() || game_->standingText() || game_->choiceOpen())
+        fail(wanted, seen());
+    push(Pause{backend_.clock() + gameLook});
+    push(Unfold([this, won, wanted, end] { tryToDecide(won, wanted, end); }));
+}
+
+// Its closing steps run; who stands at the end of them is let out.
+void Player::leaveGame(Window* game, Milliseconds end) {
+    if (platform_->queue.active() != game) return;
+    if (backend_.clock() >= end) fail("the game to end", seen());
+    const Milliseconds now = backend_.clock();
+    push(
+        Await{[this, game, now] { return platform_->queue.active() != game || backend_.clock() >= now + gameRest; },
+              now + gameRest,
+              "the game to end",
+              {}});
+    push(Unfold([this, game, end] {
+        if (platform_->queue.active() == game) game_->leaveGame();
+        leaveGame(game, end);
+    }));
 }
 
 // --- what no player can do

@@ -46,6 +46,10 @@ public:
 
     // What no player can do, for walks that begin in the middle of a story. False if there is no room window, no
     // such item, or no such room. `goTo` returns when the room's script has ended.
+    // Brings the mini-game that is open to its end; false while it can't be.
+    virtual bool decide(bool won) = 0;
+    // What a player does to leave a game that has ended.
+    virtual void leaveGame() = 0;
     virtual bool setFlag(TextView name) = 0;
     virtual bool takeItem(TextView item) = 0;
     virtual bool goTo(TextView room) = 0;
@@ -102,6 +106,8 @@ public:
     void combine(const Command& command);
     void chooseNumber(const Command& command);
     void chooseText(const Command& command);
+    void win(const Command& command);
+    void lose(const Command& command);
     void setFlag(const Command& command);
     void takeItem(const Command& command);
     void goToRoom(const Command& command);
@@ -140,6 +146,9 @@ private:
     void dragItem(const Text& item);
     Point itemAt(const Text& item);
     Point objectAt(const Text& object);
+    void decide(bool won);
+    void tryToDecide(bool won, const std::string& wanted, Milliseconds end);
+    void leaveGame(Window* game, Milliseconds end);
     void choose(int number, const std::string& what);
     // Goes on when no script runs any more. Clicks at things of a room are lost while a text or a choice waits: a
     // walk that does that fails.

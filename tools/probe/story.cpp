@@ -4,6 +4,7 @@
 
 #include "engine/state/felder.h"
 #include "engine/state/merker.h"
+#include "games/base/entscheidbar.h"
 #include "platform/window/surface.h"
 
 namespace zentrox::probe {
@@ -211,6 +212,15 @@ std::string Story::whyNoSuchItem(TextView name) {
     std::vector<Text> names;
     for (const Text& file : itemFiles()) names.push_back(baseName(file));
     return "no picture of that name" + nearest(name, names);
+}
+
+bool Story::decide(bool won) {
+    auto* const game = dynamic_cast<Entscheidbar*>(platform_.queue.active());
+    return game != nullptr && game->Entscheiden(won);
+}
+
+void Story::leaveGame() {
+    if (auto* const game = dynamic_cast<Entscheidbar*>(platform_.queue.active())) game->Verlassen();
 }
 
 bool Story::setFlag(TextView name) {

@@ -34,6 +34,8 @@ public:
     std::string whyNoSuchItem(TextView name) override;
     std::optional<Point> aboveBar() override;
     std::vector<Text> state() override;
+    bool decide(bool won) override;
+    void leaveGame() override;
     bool setFlag(TextView name) override;
     bool takeItem(TextView item) override;
     bool goTo(TextView room) override;

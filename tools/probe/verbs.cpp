@@ -36,6 +36,8 @@ std::span<const Verb> verbs() {
         Verb{"combine", "ww", "combine ITEM ITEM", &Player::combine},
         Verb{"choose", "n", "choose N or choose \"TEXT\"", &Player::chooseNumber},
         Verb{"choose", "q", "choose N or choose \"TEXT\"", &Player::chooseText},
+        Verb{"win", "", "win", &Player::win},
+        Verb{"lose", "", "lose", &Player::lose},
         Verb{"set", "w", "set FLAG", &Player::setFlag},
         Verb{"take", "w", "take ITEM", &Player::takeItem},
         Verb{"go", "w", "go ROOM", &Player::goToRoom},
