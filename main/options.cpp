@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include "tools/completion/completion.h"
+
 namespace zentrox {
 
 namespace {
@@ -64,6 +66,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         "F11 or Alt+Enter switches to full screen and back; F8 goes through the ways of enlarging the picture:\n"
         "by whole multiples, as large as fits and sharp, as large as fits and smooth.\n"
         "ZENTROX_SOUND=none in the environment plays without sound.");
+    addWordsFor(app);
     try {
         app.parse(count, words);
     } catch (const CLI::ParseError& error) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include "platform/machine/system.h"
+
 namespace zentrox {
 
 namespace fs = std::filesystem;
@@ -42,7 +44,7 @@ fs::path firstStoryIn(const fs::path& directory, bool (*wanted)(const fs::path&)
 }
 
 std::vector<fs::path> dataDirectories(const fs::path& program, const Environment& environment) {
-    std::vector<fs::path> directories{program.parent_path() / "share"};
+    std::vector<fs::path> directories{dataDirectoryFor(program).parent_path()};
     if (const PlayersHome home = playersHome(environment); !home.data.empty())
         directories.push_back(home.data.parent_path());
     const char* const listed = environment("XDG_DATA_DIRS");

@@ -16,7 +16,7 @@ constexpr const char* moduleName = "zentrox-decoder.so";
 
 std::vector<std::filesystem::path> places() {
     const auto program = programDirectory();
-    return {program / moduleName, program.parent_path() / "lib" / "zentrox" / moduleName, moduleName};
+    return {program / moduleName, libraryDirectoryFor(program) / moduleName, moduleName};
 }
 
 MediaDecoder* load() {

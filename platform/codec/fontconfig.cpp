@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "platform/codec/fontfiles.h"
+#include "platform/machine/system.h"
 
 namespace zentrox {
 
@@ -25,6 +26,10 @@ class InstalledFonts : public FontFiles {
 public:
     InstalledFonts() : config_(FcInitLoadConfigAndFonts()) {
         if (!config_) throw std::runtime_error("fontconfig has no configuration");
+        // Those that came with the program, for a machine without them.
+        const auto own = dataDirectoryFor(programDirectory()) / "fonts";
+        std::error_code error;
+        if (std::filesystem::is_directory(own, error)) FcConfigAppFontAddDir(config_.get(), fcText(own.c_str()));
     }
 
     FontFile find(const std::string& family, const char* generic, bool bold, bool scalable) override {

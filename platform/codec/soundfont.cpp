@@ -7,6 +7,7 @@
 #include <string>
 #include <system_error>
 
+#include "platform/machine/system.h"
 #include "platform/values/text.h"
 
 namespace zentrox {
@@ -64,6 +65,7 @@ Paths soundFonts(const fs::path& musics) {
     for (const fs::path font : chosenFonts)
         if (isFont(font)) fonts.push_back(font);
     for (const auto* directory : fontDirectories) addFonts(fonts, directory);
+    addFonts(fonts, dataDirectoryFor(programDirectory()) / "soundfonts");
     return fonts;
 }
 

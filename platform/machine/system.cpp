@@ -19,6 +19,14 @@ std::filesystem::path programDirectory() {
     return programFile().parent_path();
 }
 
+std::filesystem::path libraryDirectoryFor(const std::filesystem::path& programDirectory) {
+    return (programDirectory / ZENTROX_LIBRARY_FROM_PROGRAM).lexically_normal();
+}
+
+std::filesystem::path dataDirectoryFor(const std::filesystem::path& programDirectory) {
+    return (programDirectory / ZENTROX_DATA_FROM_PROGRAM).lexically_normal();
+}
+
 bool startProcess(const std::vector<std::string>& command) {
     if (command.empty()) return false;
     std::vector<char*> words;

@@ -1,9 +1,11 @@
 // zentrox-notes IN.notes OUT.mid: turns a song written in letters into a MIDI file.
+#include <CLI/CLI.hpp>
 #include <iostream>
 #include <system_error>
 
 #include "platform/machine/replace_file.h"
 #include "platform/machine/whole_file.h"
+#include "tools/completion/completion.h"
 #include "tools/notes/song.h"
 
 namespace {
@@ -15,15 +17,7 @@ int fail(const std::string& message) {
     return 1;
 }
 
-}  // namespace
-
-int main(int count, char** arguments) {
-    if (count != 3) {
-        std::cerr << "Aufruf: zentrox-notes LIED.notes LIED.mid\n";
-        return badCall;
-    }
-    const std::string from = arguments[1];
-    const std::string to = arguments[2];
+int convert(const std::string& from, const std::string& to) {
     const auto text = zentrox::readFile(from);
     if (!text) return fail(from + ": die Datei kann nicht gelesen werden");
     try {
@@ -34,4 +28,22 @@ int main(int count, char** arguments) {
         return fail(from + ":" + std::to_string(error.line) + ": " + error.what());
     }
     return 0;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    CLI::App app("Turns a song written in letters into a MIDI file.", "zentrox-notes");
+    std::string from;
+    std::string to;
+    app.set_version_flag("--version", "zentrox-notes " ZENTROX_VERSION);
+    app.add_option("SONG", from, "the song in letters, *.notes")->required();
+    app.add_option("MIDI", to, "the file to write, *.mid")->required();
+    zentrox::addWordsFor(app);
+    try {
+        app.parse(count, arguments);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? 0 : badCall;
+    }
+    return convert(from, to);
 }

@@ -13,6 +13,7 @@
 #include "platform/machine/whole_file.h"
 #include "platform/probe/recorder.h"
 #include "platform/values/error.h"
+#include "tools/completion/completion.h"
 #include "tools/probe/player.h"
 #include "tools/probe/ran.h"
 #include "tools/probe/story.h"
@@ -148,6 +149,7 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_flag("--quiet", options.quiet, "No trace, only what say prints and what fails");
     app.add_option("WALK", options.walk, "A file, or - for standard input");
     app.set_version_flag("--version", "zentrox-probe " ZENTROX_VERSION);
+    addWordsFor(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& shown) {
@@ -163,7 +165,7 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app{"Plays a walk through a story, without screen and sound."};
+    CLI::App app{"Plays a walk through a story, without screen and sound.", "zentrox-probe"};
     Options options;
     options.directory = zentrox::programDirectory().string();
     if (const int result = readOptions(app, options, argc, argv)) return result < 0 ? 0 : result;

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "platform/values/error.h"
+#include "tools/completion/completion.h"
 #include "tools/prove/command.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
@@ -14,6 +15,7 @@
 #include "tools/story/german.h"
 #include "tools/story/inputs.h"
 #include "tools/story/lines.h"
+#include "tools/story/pack.h"
 #include "tools/story/parser.h"
 #include "tools/story/reference.h"
 #include "tools/story/source.h"
@@ -33,6 +35,8 @@ struct Options {
     std::vector<std::string> ran;
     double least = 0;
     prove::Call prove;
+    bool program = false;
+    std::string player;
 };
 
 struct Streams {
@@ -233,6 +237,10 @@ int fresh(const Options& options, const Streams& to) {
     return clean;
 }
 
+int packed(const Options& options, const Streams& to) {
+    return pack({options.words.front(), options.into, options.program, options.player}, to.out, to.err);
+}
+
 int reference(const Options& /*options*/, const Streams& to) {
     to.out << referencePage();
     return clean;
@@ -253,9 +261,11 @@ CLI::Validator aboveZero() {
 
 void describeProve(CLI::App& sub, Options& options) {
     prove::Call& call = options.prove;
-    sub.add_option("QUELLE-oder-DIR", options.words, "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
+    sub.add_option("QUELLE-oder-DIR", options.words,
+                   "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
         ->required();
-    sub.add_option("--walks", call.walks, "schreibt die kürzesten Gänge zu Enden und Sackgassen in dieses Verzeichnis");
+    sub.add_option("--walks", call.walks,
+                   "schreibt die kürzesten Gänge zu Enden und Sackgassen in dieses Verzeichnis");
     sub.add_flag("--statistik", call.statistics, "Zustände, Schritte, Wege, und die Räume als Bild für Graphviz");
     sub.add_option("--graph", call.graph, "schreibt dieses Bild in eine Datei");
     sub.add_option("--seconds", call.seconds, "sucht nicht länger als so viele Sekunden")
@@ -322,6 +332,16 @@ void describe(CLI::App& app, Chosen& chosen) {
         ->required()
         ->expected(1);
 
+    sub = add("pack", "macht aus einer Geschichte eine Datei, die das Spiel so spielt, wie sie ist", packed);
+    sub->add_option("DIR", options.words, "das Datenverzeichnis, mit einer titel.txt, in der eine Kennung steht")
+        ->required()
+        ->expected(1);
+    sub->add_option("--into", options.into, "die Datei, die geschrieben wird; mit --program das Verzeichnis");
+    sub->add_flag("--program", options.program,
+                  "ein Verzeichnis und ein Archiv mit dem Spiel darin, für Leute, die es nicht haben");
+    sub->add_option("--player", options.player, "das Archiv des Spiels, das überall läuft, ausgepackt")
+        ->type_name("DIR");
+
     add("opcodes", "druckt die Seite mit allen Befehlen", reference);
 }
 
@@ -332,6 +352,7 @@ int run(std::vector<std::string> arguments, std::ostream& out, std::ostream& err
                  "zentrox-story");
     Chosen chosen;
     describe(app, chosen);
+    addWordsFor(app);
     try {
         std::reverse(arguments.begin(), arguments.end());
         app.parse(arguments);

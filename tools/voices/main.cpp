@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "platform/machine/whole_file.h"
+#include "tools/completion/completion.h"
 #include "tools/story/inputs.h"
 #include "tools/story/parser.h"
 #include "tools/voices/maker.h"
@@ -76,6 +77,7 @@ int main(int count, char** arguments) {
     CLI::App* const making = add("make", "make the sound files of lines that have changed");
     making->add_option("--into", options.into, "the directory of sounds")->required();
     making->add_option("--work", options.work, "a directory of our own for what lies between")->required();
+    addWordsFor(app);
     try {
         app.parse(count, arguments);
         return listing->parsed() ? list(options) : make(options);
