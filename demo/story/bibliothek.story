@@ -50,7 +50,7 @@ Raum "Bibliothek.lsd"
                                 Tirsa: "Nicht übel. Du vergisst wohl nur Hausaufgaben."
                                 Marke DISKETTE
                                 SetzeMerker MEMORY_FERTIG
-                                NimmGegenstand "diskette.bmp"
+                                NimmGegenstand DISKETTE
                                 Tirsa: "»Freundschaft.bas«. Das Erste, was Zentrox je geladen hat."
                                        "Er hat danach eine Woche lang gesummt."
                             Sonst
@@ -76,7 +76,7 @@ Raum "Bibliothek.lsd"
             EndeGespräch
         Ablegen
             Bei AUSWEIS
-                GibGegenstand "ausweis.bmp"
+                GibGegenstand AUSWEIS
                 SetzeMerker AUSWEIS_GEZEIGT
                 ObjektAn "Diskettenkasten"
                 Tirsa: "Velmar, genannt Velmix. Vier Bücher überfällig, drei davon über Pünktlichkeit."
@@ -106,7 +106,7 @@ Raum "Bibliothek.lsd"
                                 Globus: "Vier von vier! Sie haben die Welt in der Tasche! Und den Ausweis auch."
                                 Marke AUSWEIS
                                 SetzeMerker HDW_FERTIG
-                                NimmGegenstand "ausweis.bmp"
+                                NimmGegenstand AUSWEIS
                                 Velmix: "Mein Leseausweis. Er ist nur ein bisschen äquatorgeknickt."
                             Sonst
                                 Globus: "Oh! Das war leider das Nachbarland!"

@@ -54,7 +54,7 @@ Raum "Chemie.lsd"
                                 Ampulla: "Alle einundzwanzig! Und nur drei davon im Haar!"
                                 Marke GEFANGEN
                                 SetzeMerker BRUHKS_FERTIG
-                                NimmGegenstand "magnet.bmp"
+                                NimmGegenstand MAGNET
                                 Ampulla: "Hier, der Magnet. Halten Sie ihn von Ihrer Uhr fern. Und von meiner Plombe."
                                 RahmenZu
                                 ZeigBild "chemie_ruhig.jpg"
@@ -93,8 +93,8 @@ Raum "Chemie.lsd"
             Velmix: "Ich fasse nichts an, was von selbst leuchtet."
         Ablegen
             Bei MISCHUNG
-                GibGegenstand "mischung.bmp"
-                NimmGegenstand "zaubertrank.bmp"
+                GibGegenstand MISCHUNG
+                NimmGegenstand ZAUBERTRANK
                 Ton "blubber.wav"
                 Text "Blubber. Blubber. PUFF!"
                 Ampulla: "Sie haben es getan! Der Zaubertrank! Nicht unterrichten, nur trinken!"
@@ -114,7 +114,7 @@ Raum "Chemie.lsd"
                 Velmix: "Ein Stängel genügt. Sonst riecht die ganze Schule nach Zahnpasta."
             Sonst
                 SetzeMerker MINZE
-                NimmGegenstand "minze.bmp"
+                NimmGegenstand MINZE
                 Velmix: "Ein Stängel Minze. Riecht nach Ferien."
             EndeWenn
 
@@ -228,14 +228,16 @@ Raum "Chemie.lsd"
 Gegenstand "minze.bmp"
     Rechts
         Velmix: "Ein Stängel Minze. Sie kitzelt in der Nase."
-    Ablegen
-        Bei COLA
-            GibGegenstand "cola.bmp"
-            GibGegenstand "minze.bmp"
-            NimmGegenstand "mischung.bmp"
-            Ton "blubber.wav"
-            Text "Zisch. Blubber."
-            Velmix: "Es schäumt. Es schäumt sehr. Jetzt müsste man es nur noch erhitzen."
+
+// Whichever goes into the other: each way has a take of its own.
+Kombiniere COLA MINZE ergibt "mischung.bmp"
+    Ton "blubber.wav"
+    Text "Zisch. Blubber."
+    Bei COLA
+        Velmix: "Es schäumt. Es schäumt sehr. Jetzt müsste man es nur noch erhitzen."
+    Sonst
+        Velmix: "Es schäumt. Es schäumt sehr. Jetzt müsste man es nur noch erhitzen."
+    EndeBei
 
 Gegenstand "mischung.bmp"
     Rechts
@@ -252,12 +254,13 @@ Gegenstand "zaubertrank.bmp"
 Gegenstand "magnet.bmp"
     Rechts
         Velmix: "Ein Magnet. Er zieht mich an. Nein, meine Gürtelschnalle."
-    Ablegen
-        Bei SEIL
-            GibGegenstand "seil.bmp"
-            GibGegenstand "magnet.bmp"
-            NimmGegenstand "angel.bmp"
-            Velmix: "Seil an Magnet: eine Angel für Schlüssel. Physik-LK, ich danke dir."
+
+Kombiniere SEIL MAGNET ergibt "angel.bmp"
+    Bei SEIL
+        Velmix: "Seil an Magnet: eine Angel für Schlüssel. Physik-LK, ich danke dir."
+    Sonst
+        Velmix: "Magnet an Seil: eine Angel für Schlüssel. Physik-LK, ich danke dir."
+    EndeBei
 
 Gegenstand "angel.bmp"
     Rechts

@@ -43,7 +43,7 @@ Raum "Flur.lsd"
         Ablegen
             Bei KUCHEN
                 Grobbel: "Lass mal. Ich esse nur, was ich nicht aufwischen muss."
-            Bei SCHLUESSEL
+            Bei SCHLÜSSEL
                 Grobbel: "Da ist er ja! Behalt ihn. Ich bücke mich heute nicht mehr."
 
     Objekt "Eimer"
@@ -91,7 +91,7 @@ Raum "Flur.lsd"
                 Velmix: "Jetzt ist nur noch der Turnbeutel drin. Den fasse ich nicht an."
             Sonst
                 SetzeMerker ZETTEL
-                NimmGegenstand "spickzettel.bmp"
+                NimmGegenstand SPICKZETTEL
                 Velmix: "Sieh an: mein Spickzettel aus der Zehnten. Pi, auf vierzig Stellen."
                         "Ich habe ihn nie benutzt. Ehrlich."
             EndeWenn
@@ -203,8 +203,8 @@ Raum "Flur.lsd"
                 Velmix: "Am Fuß der Treppe ist ein Gitter. Abgeschlossen."
             EndeWenn
         Ablegen
-            Bei SCHLUESSEL
-                GibGegenstand "schluessel.bmp"
+            Bei SCHLÜSSEL
+                GibGegenstand SCHLÜSSEL
                 SetzeMerker KELLER_OFFEN
                 SetzeZeiger "Kellertreppe" "tuer1.ico"
                 Ton "schloss.wav"

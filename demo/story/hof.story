@@ -1,13 +1,16 @@
 // The school yard. A riddle lies on the gully.
 
+Skriptteil BALDUIN_STEHT
+    ZeigBild "hof_frei.jpg"
+    ObjektAus "Balduin"
+    ObjektAn "Balduin steht"
+
 Raum "Hof.lsd"
     Bild "hof.jpg"
     Start
         Musik "hof.mid"
         WennMerker ESEL_FERTIG
-            ZeigBild "hof_frei.jpg"
-            ObjektAus "Balduin"
-            ObjektAn "Balduin steht"
+            Rufe BALDUIN_STEHT
         SonstWenn nicht HOF_GESEHEN
             SetzeMerker HOF_GESEHEN
             Velmix: "Der Schulhof. Und mittendrauf Balduin, der Schulesel. Genau auf dem Gully."
@@ -34,9 +37,9 @@ Raum "Hof.lsd"
         Ablegen
             WennMerker ESEL_FERTIG
                 Bei ANGEL
-                    GibGegenstand "angel.bmp"
+                    GibGegenstand ANGEL
                     SetzeMerker SCHLÜSSEL
-                    NimmGegenstand "schluessel.bmp"
+                    NimmGegenstand SCHLÜSSEL
                     Ton "schloss.wav"
                     Text "Klong. Kratz. Klick!"
                     Velmix: "Petri Heil! Der Kellerschlüssel. Und ein Kaugummi, den ich wieder loslasse."
@@ -72,9 +75,7 @@ Raum "Hof.lsd"
                                      "Einen Augenblick, die Hinterbeine schlafen noch."
                             SetzeMerker ESEL_FERTIG
                             RahmenZu
-                            ZeigBild "hof_frei.jpg"
-                            ObjektAus "Balduin"
-                            ObjektAn "Balduin steht"
+                            Rufe BALDUIN_STEHT
                             Velmix: "Er steht! Der Gully ist frei."
                             Springe FERTIG
                         Sonst
@@ -94,17 +95,15 @@ Raum "Hof.lsd"
             EndeGespräch
             Marke FERTIG
         Ablegen
-            Bei MOEHRE
-                GibGegenstand "moehre.bmp"
+            Bei MÖHRE
+                GibGegenstand MÖHRE
                 SetzeMerker ESEL_FERTIG
                 BöseÄndern -1
                 Gespräch
                     Balduin: "Eine Möhre! Ohne Frage, ohne Gegenleistung?"
                              "Da stehe ich doch gleich anders da."
                 EndeGespräch
-                ZeigBild "hof_frei.jpg"
-                ObjektAus "Balduin"
-                ObjektAn "Balduin steht"
+                Rufe BALDUIN_STEHT
                 Velmix: "Er steht! Der Gully ist frei."
             Bei KUCHEN
                 Balduin: "Zucker vernebelt. Bringen Sie mir etwas mit Wurzel."
@@ -121,8 +120,8 @@ Raum "Hof.lsd"
                 Balduin: "Man sieht so viel weiter von hier oben. Leider sieht man dann auch die Schule."
             EndeGespräch
         Ablegen
-            Bei MOEHRE
-                GibGegenstand "moehre.bmp"
+            Bei MÖHRE
+                GibGegenstand MÖHRE
                 BöseÄndern -1
                 Balduin: "Und das, obwohl ich schon stehe. Sie sind ein guter Mensch."
 
@@ -151,7 +150,7 @@ Raum "Hof.lsd"
                 Velmix: "Zwei lasse ich für die Garten-AG stehen."
             Sonst
                 SetzeMerker MÖHRE
-                NimmGegenstand "moehre.bmp"
+                NimmGegenstand MÖHRE
                 Velmix: "Eine Möhre. Für einen guten Zweck mit langen Ohren."
             EndeWenn
 
@@ -231,12 +230,12 @@ Raum "Hof.lsd"
         Links
             Raumwechsel "Flur.lsd"
 
-Gegenstand "moehre.bmp"
+Gegenstand "moehre.bmp" heißt MÖHRE
     Rechts
         Velmix: "Eine Möhre. Knackig, orange, unbestechlich. Also ideal zum Bestechen."
     Links
         Velmix: "Ich hatte schon Kantine."
 
-Gegenstand "schluessel.bmp"
+Gegenstand "schluessel.bmp" heißt SCHLÜSSEL
     Rechts
         Velmix: "Der Kellerschlüssel. Auf dem Anhänger steht »UG«. Untergrund?"

@@ -45,7 +45,7 @@ Raum "Keller.lsd"
             EndeWenn
         Ablegen
             Bei SICHERUNG
-                GibGegenstand "sicherung.bmp"
+                GibGegenstand SICHERUNG
                 SetzeMerker LICHT
                 Ton "klick.wav"
                 ZeigBild "keller.jpg"
@@ -91,7 +91,7 @@ Raum "Keller.lsd"
         Ablegen
             Bei SPICKZETTEL
                 WennMerker PI_VERLOREN
-                    GibGegenstand "spickzettel.bmp"
+                    GibGegenstand SPICKZETTEL
                     BöseÄndern 1
                     SetzeMerker PI_FERTIG
                     SetzeZeiger "Stahltür" "tuer1.ico"
@@ -102,7 +102,7 @@ Raum "Keller.lsd"
                 Sonst
                     Velmix: "Erst versuche ich es ehrlich. Das wäre das erste Mal."
                 EndeWenn
-            Bei MUENZE
+            Bei MÜNZE
                 Velmix: "Kein Münzschlitz. Kein Schlüsselloch. Nur Zahlen."
 
     Objekt "Kessel"

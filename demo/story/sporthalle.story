@@ -42,7 +42,7 @@ Raum "Sporthalle.lsd"
                                        "Hier, das Seil. Hüpf damit, bis du Muskeln hast."
                                 Marke SEIL
                                 SetzeMerker PONG_FERTIG
-                                NimmGegenstand "seil.bmp"
+                                NimmGegenstand SEIL
                                 Velmix: "Ich will damit nur angeln."
                                 Kessa: "Jeder trainiert anders."
                             Sonst
@@ -62,7 +62,7 @@ Raum "Sporthalle.lsd"
                 EndeWenn
             EndeGespräch
         Ablegen
-            Bei MUENZE
+            Bei MÜNZE
                 Kessa: "Willst du mich bestechen? Ich nehme nur Pokale."
 
     Objekt "Brokan"
@@ -106,7 +106,7 @@ Raum "Sporthalle.lsd"
                         Brokan: "Uff. Gut gemacht. Das hat noch keiner geschafft, der auch lesen kann."
                         Marke SICHERUNG
                         SetzeMerker PRÜGEL_FERTIG
-                        NimmGegenstand "sicherung.bmp"
+                        NimmGegenstand SICHERUNG
                         Brokan: "Hier, die Sicherung. Ich habe sie poliert. Mit dem Daumen."
                     Sonst
                         Brokan: "Oh. Habe ich dir wehgetan? Ich hole Eis. Nein, ich darf ja nicht weg."
@@ -125,13 +125,13 @@ Raum "Sporthalle.lsd"
             EndeGespräch
         Ablegen
             Bei KUCHEN
-                GibGegenstand "kuchen.bmp"
+                GibGegenstand KUCHEN
                 BöseÄndern -1
                 Gespräch
                     Brokan: "Für mich? Mit Kirsche? Mir hat noch nie jemand Kuchen geschenkt."
                     WennMerker nicht PRÜGEL_FERTIG
                         SetzeMerker PRÜGEL_FERTIG
-                        NimmGegenstand "sicherung.bmp"
+                        NimmGegenstand SICHERUNG
                         Brokan: "Du bist nicht »niemand«. Also darfst du durch. Hier, die Sicherung."
                     EndeWenn
                 EndeGespräch
@@ -165,19 +165,19 @@ Raum "Sporthalle.lsd"
                         BöseÄndern 1
                         Ton "rumms.wav"
                         Text "RUMMS. Klonk."
-                        NimmGegenstand "cola.bmp"
+                        NimmGegenstand COLA
                         Velmix: "Eine Dose Cola. Der Automat brummt jetzt anders. Gekränkt."
                     Option "Erst eine Münze suchen."
                 EndeAuswahl
             EndeWenn
         Ablegen
-            Bei MUENZE
+            Bei MÜNZE
                 WennMerker COLA
                     Velmix: "Er ist leer. Die Münze behalte ich."
                 Sonst
-                    GibGegenstand "muenze.bmp"
+                    GibGegenstand MÜNZE
                     SetzeMerker COLA
-                    NimmGegenstand "cola.bmp"
+                    NimmGegenstand COLA
                     Ton "muenze.wav"
                     Text "Klimper. Klonk."
                     Velmix: "Eine Dose Cola, gekühlt auf Hallentemperatur."
@@ -281,28 +281,14 @@ Raum "Sporthalle.lsd"
 Gegenstand "seil.bmp"
     Rechts
         Velmix: "Ein Springseil. Wettkampflänge."
-    Ablegen
-        Bei MAGNET
-            GibGegenstand "seil.bmp"
-            GibGegenstand "magnet.bmp"
-            NimmGegenstand "angel.bmp"
-            Velmix: "Magnet an Seil: eine Angel für Schlüssel. Physik-LK, ich danke dir."
 
 Gegenstand "cola.bmp"
     Rechts
         Velmix: "Cola. Kribbelt schon beim Ansehen."
     Links
         Velmix: "Erst die Arbeit, dann der Zucker."
-    Ablegen
-        Bei MINZE
-            GibGegenstand "cola.bmp"
-            GibGegenstand "minze.bmp"
-            NimmGegenstand "mischung.bmp"
-            Ton "blubber.wav"
-            Text "Zisch. Blubber."
-            Velmix: "Es schäumt. Es schäumt sehr. Jetzt müsste man es nur noch erhitzen."
 
-Gegenstand "muenze.bmp"
+Gegenstand "muenze.bmp" heißt MÜNZE
     Rechts
         Velmix: "Eine Mark. Die letzte ihrer Art."
 

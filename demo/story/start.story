@@ -78,7 +78,7 @@ Raum "Start.lsd"
             Velmix: "Es liegt keine CD darin. Das ist ja das Problem."
         Ablegen
             Bei CD
-                GibGegenstand "cd.bmp"
+                GibGegenstand CD
                 Velmix: "Master eingelegt. Frau Orlix, es kann losgehen!"
                 Orlix: "Endlich! Macht das Licht aus! Macht das andere Licht an!"
                 Blende weiß
@@ -108,7 +108,7 @@ Raum "Start.lsd"
                 Velmix: "Jetzt klemmt nichts mehr. Schade, es klang so modern."
             Sonst
                 SetzeMerker MÜNZE
-                NimmGegenstand "muenze.bmp"
+                NimmGegenstand MÜNZE
                 Ton "muenze.wav"
                 Text "Kling, kling, kuller."
                 Velmix: "Unter dem hohen C steckte eine Münze! Die nehme ich als Gage."
@@ -125,14 +125,14 @@ Raum "Start.lsd"
                 Velmix: "Noch ein Stück, und die Lücke fällt auf."
             SonstWenn KUCHEN_ERLAUBT
                 SetzeMerker KUCHEN
-                NimmGegenstand "kuchen.bmp"
+                NimmGegenstand KUCHEN
                 Velmix: "Das Stück mit der Kirsche. Ich habe schließlich gefragt."
             Sonst
                 Auswahl "Frau Orlix sieht gerade aus dem Fenster."
                     Fall "Heimlich ein Stück nehmen."
                         SetzeMerker KUCHEN
                         BöseÄndern 1
-                        NimmGegenstand "kuchen.bmp"
+                        NimmGegenstand KUCHEN
                         Velmix: "Ich habe nichts genommen. Das ist Pythagoras."
                     Fall "Erst fragen."
                         Velmix: "Ich frage lieber erst Frau Orlix."

@@ -65,7 +65,7 @@ Raum "Zentrox.lsd"
         Ablegen
             Bei DISKETTE
                 CountDownSetzen 0
-                GibGegenstand "diskette.bmp"
+                GibGegenstand DISKETTE
                 SetzeMerker ZENTROX_RUHIG
                 Ton "laufwerk.wav"
                 Text "Ratter. Ratter. Summ."
@@ -104,27 +104,26 @@ Raum "Zentrox.lsd"
                 WennMerker JUMP_SIEG
                     Marke HABEN
                     SetzeMerker CD
-                    NimmGegenstand "cd.bmp"
+                    NimmGegenstand CD
                     Gespräch
                         Velmix: "Ich hab sie! Und ich war in einem Register. Da ist es eng."
                         ZentroxRuhig: "ICH HABE MICH AUF DIE CD KOPIERT. GANZ KLEIN. UNTER »SONSTIGES«."
                                       "LAUF, DIE FEIER! UND SPIEL LAUT."
                     EndeGespräch
                 Sonst
-                    RahmenAuf
-                    ZentroxRuhig: "ABGESTÜRZT. DAS PASSIERT MIR AUCH STÄNDIG."
-                    Auswahl "Mir ist noch ein bisschen binär."
-                        Fall "Noch einmal!"
-                            RahmenZu
-                            Springe SPRUNG
-                        Fall "Die Klappe mit dem Schraubenzieher aufhebeln."
-                            BöseÄndern 1
-                            ZentroxRuhig: "AUA. DAS WAR MEINE LIEBLINGSKLAPPE."
-                            RahmenZu
-                            Springe HABEN
-                        Fall "Kurz ausruhen."
-                            RahmenZu
-                    EndeAuswahl
+                    Gespräch
+                        ZentroxRuhig: "ABGESTÜRZT. DAS PASSIERT MIR AUCH STÄNDIG."
+                        Frage "Mir ist noch ein bisschen binär."
+                            Schluss "Noch einmal!"
+                                RahmenZu
+                                Springe SPRUNG
+                            Schluss "Die Klappe mit dem Schraubenzieher aufhebeln."
+                                BöseÄndern 1
+                                ZentroxRuhig: "AUA. DAS WAR MEINE LIEBLINGSKLAPPE."
+                                RahmenZu
+                                Springe HABEN
+                            Schluss "Kurz ausruhen."
+                    EndeGespräch
                 EndeWenn
             Sonst
                 Velmix: "Zu. Und solange er wütend ist, geht sie auch nicht auf."
@@ -201,7 +200,7 @@ Raum "Zentrox.lsd"
                         ZeigBild "rechner.jpg"
                         Musik
                         Zentrox: "GUTE NACHT, VELMAR. DAS HÄTTE ICH NICHT VON DIR GED"
-                        NimmGegenstand "cd.bmp"
+                        NimmGegenstand CD
                         Velmix: "Die Klappe ist aufgesprungen. Ich habe die CD."
                                 "Warum fühlt sich das nicht wie gewonnen an?"
                     Fall "Nicht ziehen."
