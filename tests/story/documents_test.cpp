@@ -27,7 +27,44 @@ std::vector<std::string> samplesOf(const std::string& text, const std::string& k
     return samples;
 }
 
+// What the samples of scripts take for granted.
+std::string inRoom(const std::string& script) {
+    return R"(Person Balduin
+    Portrait links "balduin.jpg"
+    Farbe 7
+    Stimme "balduin"
+Person Velmix
+    Spieler
+    Portrait rechts "velmix.jpg"
+    Stimme "velmix"
+Gegenstand "moehre.bmp" heißt MÖHRE
+Skriptteil HEIMWEG
+    Marke VON_VORN
+    Text "Genug für heute."
+    Raumwechsel "Start.lsd"
+Raum "Probe.lsd"
+Objekt "Tür"
+Ablegen
+)" + script;
+}
+
 }  // namespace
+
+// Of two samples each the first is a form, the second what it becomes.
+TEST(Documents, FormsBecomeWhatThePageSays) {
+    const std::string text = document("story-language.md");
+    const std::size_t from = text.find("## What the forms become");
+    const auto samples = samplesOf(text.substr(from, text.find("\n## ", from + 1) - from), "skript");
+    ASSERT_GT(samples.size(), 8U);
+    ASSERT_EQ(samples.size() % 2, 0U);
+    for (std::size_t i = 0; i < samples.size(); i += 2) {
+        const Story form = compiled(inRoom(samples[i]));
+        const Story plain = compiled(inRoom(samples[i + 1]));
+        const auto script = [](const Story& story) { return story.rooms[0].room.Objekte[0].Aktion[2]; };
+        // Both ask for the same items, since one source does.
+        EXPECT_EQ(writeScript(script(form)), writeScript(script(plain))) << samples[i];
+    }
+}
 
 TEST(Documents, EverySampleCompiles) {
     MemoryFiles files;
@@ -47,7 +84,7 @@ TEST(Documents, EverySampleCompiles) {
     for (std::size_t at = 0; (at = text.find("```", at)) != std::string::npos; at += 3) ++fences;
     EXPECT_EQ(fences, 2 * (whole.size() + scripts.size())) << "a sample of another kind is compiled by nobody";
     for (const std::string& sample : whole) compile(sample);
-    for (const std::string& sample : scripts) compile("Raum \"Probe.lsd\"\nObjekt \"Tür\"\nLinks\n" + sample);
+    for (const std::string& sample : scripts) compile(inRoom(sample));
     for (const Opcode& opcode : opcodes()) EXPECT_TRUE(used.contains(opcode.number)) << toUtf8(opcode.name);
 }
 
