@@ -14,9 +14,7 @@ namespace zentrox::fuzz {
 
 class File {
 public:
-    explicit File(const char* name) : name_(name) {
-        std::filesystem::create_directory(directory_);
-    }
+    explicit File(const char* name) : name_(name) { std::filesystem::create_directory(directory_); }
     ~File() {
         std::error_code ignored;
         std::filesystem::remove_all(directory_, ignored);

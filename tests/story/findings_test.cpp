@@ -126,10 +126,26 @@ TEST(FindingsOf, WhatCanNotBeCompiled) {
         false);
 }
 
+// One finding for one mistake, however much stands below it.
+TEST(FindingsOf, NothingThatOnlyFollowsFromAnother) {
+    expectAll(
+        {
+            {"Room a.lsd\nBild b.jpg\nStart\nText \"a\"\nObjekt x\nRechts\nText \"b\"", {"1:1 wort"}},
+            {"Bild b.jpg\nStart\nText \"a\"\nObjekt x\nZeiger a.ico\nRechts\nText \"b\"", {"1:1 platz"}},
+            {"Raum a.lsd\nGegenstand x.bmp\nRechts\nText \"a\"\nObjekt y\nZeiger a.ico\nRechteck 1 2 30 40\n"
+             "Objekt z\nZeiger a.ico",
+             {"5:1 platz"}},
+            {std::string("R\0a\0u\0m\0\n\0", 10), {"1:1 utf8"}},
+            {"\xFE\xFF", {"1:1 utf8"}},
+        },
+        false);
+}
+
 TEST(FindingsOf, CommandsThatMakeNoSense) {
     expectAll(
         {
             {"Text Hallo", {"4:6 argument"}},
+            {"Text \"a#b\"", {"4:6 raute"}},
             {"Text", {"4:1 argument"}},
             {"Text \"Er sagt \"Nein\" dazu.\"", {"4:16 text"}},
             {"Text \"a{22}b\"", {}},

@@ -95,7 +95,7 @@ const std::vector<Form> forms{
     {"what is dropped, inside",
      "WennMerker A\nBei SEIL\nText \"s\"\nSonst\nText \"e\"\nEndeBei\nSonst\nText \"z\"\nEndeWenn",
      "WennMerker A\nWennParameter SEIL\nText \"s\"\nSonst\nText \"e\"\nEndeWenn\nSonst\nText \"z\"\nEndeWenn"},
-    {"a line", "Frau Orlix: \"Ja.\" \"$ENein.#Doch.\"\nFunk: \"Rausch\"",
+    {"a line", "Frau Orlix: \"Ja.\" \"$ENein.\" \"Doch.\"\nFunk: \"Rausch\"",
      "Text \"$DJa.\" \"$ENein.\" \"$DDoch.\"\nText \"$ARausch\""},
     {"a voice", "Velmix: \"Hm.\"\nBalduin: \"So.\"\nVelmix: \"Hm.\"\nVelmix: \"Aha.\"",
      "Ton \"velmix-hof-01.wav\"\nText \"Hm.\"\nTon \"balduin-hof-01.wav\"\nText \"$7So.\"\nTon "

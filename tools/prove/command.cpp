@@ -25,7 +25,9 @@ std::atomic<bool> interrupted = false;
 
 class Interrupt {
 public:
-    Interrupt() { before_ = std::signal(SIGINT, [](int) { interrupted = true; }); }
+    Interrupt() {
+        before_ = std::signal(SIGINT, [](int) { interrupted = true; });
+    }
     ~Interrupt() { std::signal(SIGINT, before_); }
     Interrupt(const Interrupt&) = delete;
     Interrupt& operator=(const Interrupt&) = delete;

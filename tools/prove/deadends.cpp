@@ -52,9 +52,8 @@ public:
         }
         std::vector<LosingStep> steps;
         for (auto& [place, step] : byPlace_) steps.push_back(std::move(step));
-        std::stable_sort(steps.begin(), steps.end(), [](const LosingStep& a, const LosingStep& b) {
-            return a.way.size() < b.way.size();
-        });
+        std::stable_sort(steps.begin(), steps.end(),
+                         [](const LosingStep& a, const LosingStep& b) { return a.way.size() < b.way.size(); });
         return steps;
     }
 
@@ -108,8 +107,8 @@ private:
         return {{program_.rooms[at(from.room())].start, 0}};
     }
 
-    // The one without which the game would not have been lost; if none of them alone did it, the last room change or
-    // else the first.
+    // The one without which the game would not have been lost; if none of them alone did it, the last room change
+    // or else the first.
     std::pair<std::int32_t, std::int32_t> culpritOf(const State& from, const State& to, const Effects& effects) {
         if (effects.size() == 1) return effects.front();
         for (const bool gives : {true, false})

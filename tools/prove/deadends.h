@@ -8,7 +8,7 @@ namespace zentrox::prove {
 struct LosingStep {
     std::int32_t script = -1;  // the instruction that lost the game
     std::int32_t index = 0;
-    std::vector<Action> way;   // with the losing step at its end
+    std::vector<Action> way;           // with the losing step at its end
     std::vector<std::string> missing;  // with any one of these the game could go on; German, UTF-8
 };
 

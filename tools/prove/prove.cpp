@@ -81,8 +81,7 @@ private:
         const Relevance relevance = Influence(program_).of(asked);
         matters_ = relevance.actions;
         evilCounts_ = relevance.evil;
-        return project(program_, relevance,
-                       [&](std::int32_t flag) { return Influence(program_, flag).of(asked); });
+        return project(program_, relevance, [&](std::int32_t flag) { return Influence(program_, flag).of(asked); });
     }
     bool isDoubled(const Seen& seen) {
         bool any = false;
@@ -109,9 +108,8 @@ private:
     bool scout() {
         for (const char* const from : {"Start.lsd", "Laden.lsd"}) {
             Program program = program_;
-            const auto room = std::find_if(program.rooms.begin(), program.rooms.end(), [&](const Room& r) {
-                return equalIgnoringCase(r.source->file, from);
-            });
+            const auto room = std::find_if(program.rooms.begin(), program.rooms.end(),
+                                           [&](const Room& r) { return equalIgnoringCase(r.source->file, from); });
             if (room == program.rooms.end()) continue;
             program.start = static_cast<std::int32_t>(room - program.rooms.begin());
             Plan plan;
@@ -133,7 +131,8 @@ private:
         std::map<std::string, std::pair<FoundEnding, Search::Hit>> byName;
         for (const auto& [number, hit] : search_->hits()) {
             const std::string& name = program_.endings[at(number)].name;
-            const auto [entry, isNew] = byName.try_emplace(name, FoundEnding{name, hit.steps, hit.mostSteps, {}}, hit);
+            const auto [entry, isNew] =
+                byName.try_emplace(name, FoundEnding{name, hit.steps, hit.mostSteps, {}}, hit);
             if (isNew) continue;
             entry->second.first.mostSteps = std::max(entry->second.first.mostSteps, hit.mostSteps);
             if (hit.steps < entry->second.first.steps) {
@@ -161,13 +160,16 @@ private:
         questions_->add(seen, program_);
         return walkText(program_, *stacks_, played, title);
     }
-    static std::string steps(std::size_t count) { return std::to_string(count) + (count == 1 ? " Schritt" : " Schritte"); }
+    static std::string steps(std::size_t count) {
+        return std::to_string(count) + (count == 1 ? " Schritt" : " Schritte");
+    }
 
     void tellNoEnding() {
         std::string message = "kein Spiel erreicht ein Ende";
         if (program_.endings.empty())
             message =
-                "diese Geschichte hat kein Ende: keine Zeile „System Abspann“ und keine, die den Raum schließt; welche "
+                "diese Geschichte hat kein Ende: keine Zeile „System Abspann“ und keine, die den Raum schließt; "
+                "welche "
                 "Zeile ein Ende ist, sagt „// ende: NAME“ in einer Zeile darüber";
         report_.findings.error(program_.rooms[at(program_.start)].source->head, "ende-fehlt", message + proviso());
     }
@@ -293,9 +295,10 @@ private:
     }
     // What is clicked there, and the flags and items that have to be there.
     std::string passageInWords(const Script& script, std::size_t index) const {
-        std::string text = script.object == -1
-                               ? script.item == -1 ? "" : toUtf8(story::itemName(program_.items[at(script.item)].file))
-                               : toUtf8(Trim(program_.rooms[at(script.room)].source->room.Objekte[at(script.object)].Name));
+        std::string text =
+            script.object == -1
+                ? script.item == -1 ? "" : toUtf8(story::itemName(program_.items[at(script.item)].file))
+                : toUtf8(Trim(program_.rooms[at(script.room)].source->room.Objekte[at(script.object)].Name));
         for (std::size_t i = 0; i < index; ++i) {
             const Node& node = script.nodes[i];
             if (node.op != Op::testFlag && node.op != Op::testItem) continue;

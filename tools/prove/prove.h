@@ -1,5 +1,5 @@
-// Proves a story by searching through all plays: which endings can be reached and how, where a player gets stuck for
-// good, and what no play ever comes to.
+// Proves a story by searching through all plays: which endings can be reached and how, where a player gets stuck
+// for good, and what no play ever comes to.
 #pragma once
 
 #include "tools/prove/endings.h"

@@ -199,9 +199,9 @@ void Questions::tellCondition(const Script& script, std::int32_t index, story::F
                          "der Merker " + toUtf8(program_.flags[at(node.a)]) + " ist hier in jedem Spiel " +
                              (here.held ? "gesetzt" : "nicht gesetzt") + proviso);
     else if (node.op == Op::testItem)
-        findings.warning(place, "immer-gleich",
-                         "hier legt in keinem Spiel jemand " + inMarks(program_.itemNames[at(node.a)]) + " ab" +
-                             proviso);
+        findings.warning(
+            place, "immer-gleich",
+            "hier legt in keinem Spiel jemand " + inMarks(program_.itemNames[at(node.a)]) + " ab" + proviso);
 }
 
 void Questions::tellAnswers(const Script& script, std::int32_t index, story::Findings& findings,
@@ -211,8 +211,8 @@ void Questions::tellAnswers(const Script& script, std::int32_t index, story::Fin
     const bool ran = known(script, index).ran;
     for (std::size_t option = 0; option < cases.size(); ++option) {
         const std::int32_t before = cases[option] - 1;
-        const bool hasCase = before > index && before < lengthOf(script) &&
-                             script.source->Befehl[at(before)] == "Fall"_op;
+        const bool hasCase =
+            before > index && before < lengthOf(script) && script.source->Befehl[at(before)] == "Fall"_op;
         if (hasCase ? known(script, before).chosen : ran) continue;
         const story::Place place = script.places->commands[at(hasCase ? before : index)].command;
         const Text text = option < texts.options.size() ? Trim(texts.options[option]) : Text();

@@ -1,5 +1,5 @@
-// What no play ever comes to: lines, answers, outcomes of conditions, uses of items, rooms. What stands in one place of
-// the source is one thing, however often it was compiled.
+// What no play ever comes to: lines, answers, outcomes of conditions, uses of items, rooms. What stands in one
+// place of the source is one thing, however often it was compiled.
 #pragma once
 
 #include "tools/prove/machine.h"

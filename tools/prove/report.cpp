@@ -58,8 +58,9 @@ std::string inDot(const std::string& text) {
 
 std::string endingsText(const Report& report) {
     if (report.endings.empty())
-        return report.complete ? "Kein Ende ist zu erreichen.\n"
-                               : "In den " + states(report) + "n, die gesehen wurden, war kein Ende zu erreichen.\n";
+        return report.complete
+                   ? "Kein Ende ist zu erreichen.\n"
+                   : "In den " + states(report) + "n, die gesehen wurden, war kein Ende zu erreichen.\n";
     std::string text = "Enden:\n";
     for (const FoundEnding& ending : report.endings) text += "  " + ending.name + ": " + steps(ending.steps) + "\n";
     return text;
@@ -69,8 +70,9 @@ std::string deadEndsText(const Report& report) {
     if (report.endings.empty()) return "";
     if (!report.dead.empty())
         return number(report.dead.size()) +
-               (report.dead.size() == 1 ? " Sackgasse: hinter diesem Schritt ist kein Ende mehr zu erreichen.\n"
-                                        : " Sackgassen: hinter diesen Schritten ist kein Ende mehr zu erreichen.\n");
+               (report.dead.size() == 1
+                    ? " Sackgasse: hinter diesem Schritt ist kein Ende mehr zu erreichen.\n"
+                    : " Sackgassen: hinter diesen Schritten ist kein Ende mehr zu erreichen.\n");
     return report.complete ? "Keine Sackgasse: von überall her ist ein Ende zu erreichen. Bewiesen über " +
                                  states(report) + ".\n"
                            : "In den " + states(report) + "n, die gesehen wurden, war keine Sackgasse.\n";
@@ -112,15 +114,17 @@ std::string statistics(const Report& report) {
 }
 
 std::string asGraph(const Report& report) {
-    std::string text = "digraph Geschichte {\n    rankdir=LR;\n    node [shape=box, fontname=\"sans-serif\"];\n"
-                       "    edge [fontname=\"sans-serif\", fontsize=10];\n";
+    std::string text =
+        "digraph Geschichte {\n    rankdir=LR;\n    node [shape=box, fontname=\"sans-serif\"];\n"
+        "    edge [fontname=\"sans-serif\", fontsize=10];\n";
     for (std::size_t i = 0; i < report.rooms.size(); ++i)
         text += "    r" + std::to_string(i) + " [label=" + inDot(report.rooms[i]) +
                 (report.entered[i] ? "" : ", style=dashed") + "];\n";
     std::set<std::string> edges;
     for (const Passage& passage : report.passages) {
         const std::string from = passage.from == -1 ? "tasche" : "r" + std::to_string(passage.from);
-        edges.insert("    " + from + " -> r" + std::to_string(passage.to) + " [label=" + inDot(passage.what) + "];\n");
+        edges.insert("    " + from + " -> r" + std::to_string(passage.to) + " [label=" + inDot(passage.what) +
+                     "];\n");
         if (passage.from == -1) edges.insert("    tasche [label=\"(Tasche)\", shape=ellipse];\n");
     }
     for (const std::string& edge : edges) text += edge;

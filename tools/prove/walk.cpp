@@ -90,7 +90,8 @@ private:
         for (std::int32_t i = 0; i < static_cast<std::int32_t>(room.objects.size()); ++i) {
             const Object& other = room.objects[at(i)];
             const bool active = other.bit == -1 ? other.active : state.bit(other.bit);
-            if (!other.reached || !active || !equalIgnoringCase(fromUtf8(nameOf(room, i)), fromUtf8(name))) continue;
+            if (!other.reached || !active || !equalIgnoringCase(fromUtf8(nameOf(room, i)), fromUtf8(name)))
+                continue;
             if (i == index && !name.empty()) return line(word + quoted(name));
             break;
         }
@@ -211,7 +212,9 @@ std::string walkText(const Program& program, Stacks& stacks, const std::vector<P
 
 std::string inWords(const Program& program, const State& before, Action action) {
     using Kind = Action::Kind;
-    const auto item = [&](std::int32_t index) { return "„" + toUtf8(story::itemName(program.items[at(index)].file)) + "“"; };
+    const auto item = [&](std::int32_t index) {
+        return "„" + toUtf8(story::itemName(program.items[at(index)].file)) + "“";
+    };
     const auto object = [&](std::int32_t index) {
         const auto& objects = program.rooms[at(before.room())].source->room.Objekte;
         return "„" + toUtf8(Trim(objects[at(index)].Name)) + "“";

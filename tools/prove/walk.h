@@ -1,4 +1,5 @@
-// Tells a way through the story as a walk that `zentrox-probe` plays, in a room's own words: objects, items, answers.
+// Tells a way through the story as a walk that `zentrox-probe` plays, in a room's own words: objects, items,
+// answers.
 #pragma once
 
 #include "tools/prove/search.h"

@@ -233,6 +233,11 @@ std::optional<Text> compileText(TextView command, Place place, std::span<const T
                             "ein Text steht in geraden Anführungszeichen; hier steht " + shown(word.value));
             return std::nullopt;
         }
+        if (const auto mark = word.value.find(lineMark); mark != Text::npos)
+            findings.warning(
+                word.place, "raute",
+                "das Zeichen # ist im Spiel ein Zeilenende und nicht zu sehen; jede Zeile steht in eigenen "
+                "Anführungszeichen");
         if (&word != &words.front()) text += lineMark;
         text += word.value;
     }

@@ -43,6 +43,8 @@ public:
         closeRoom();
         closeItem();
         level_ = Level::top;
+        lost_ = false;
+        roomEnd_ = {};
     }
 
     // Items that can be combined and have no script of their own.
@@ -79,7 +81,24 @@ private:
         if (isScriptWord(first.value)) return toScript(s);
         const std::size_t end = first.value.find_last_not_of(':') + 1;
         if (end > 0 && end < first.value.size()) return takeWithoutColon(s, end);
+        if (headingOf(s)) return takeAsHeading(s);
         findings_.broken(first.place, "wort", unknownWord(first.value, allWords()));
+    }
+
+    // What heads a block by the file that it names, though its word is none of ours: "Room x.lsd". Else null.
+    static const char* headingOf(const Statement& s) {
+        if (s.size() != 2) return nullptr;
+        if (lower(s[1].value).ends_with(".lsd")) return "Raum";
+        return !s[1].quoted || !lower(s[1].value).ends_with(".bmp") ? nullptr : "Gegenstand";
+    }
+
+    // So that all that stands below it has its place.
+    void takeAsHeading(Statement s) {
+        const char* const meant = headingOf(s);
+        findings_.broken(s.front().place, "wort",
+                         shown(s.front().value) + " ist kein Befehl; gemeint ist \"" + meant + "\"");
+        s.front().value = meant;
+        take(s);
     }
 
     void toScript(const Statement& s) {
@@ -160,9 +179,26 @@ private:
         return known;
     }
 
+    // Where a heading is missing, one finding is enough for all that would stand below it.
     bool misplaced(const Statement& s, std::string_view why) {
-        findings_.broken(s.front().place, "platz", shown(s.front().value) + std::string(why));
+        const bool headless = level_ == Level::top || level_ == Level::item;
+        if (headless && lost_) return false;
+        lost_ = headless;
+        const bool cut = headless && roomEnd_ != Place{};
+        findings_.broken(s.front().place, "platz",
+                         shown(s.front().value) + std::string(why) +
+                             (cut ? "; der Raum darüber endet bei " + spelled(roomEnd_) +
+                                        ", was nicht zu ihm gehört, steht vor oder hinter ihm"
+                                  : ""));
         return false;
+    }
+
+    // Something begins that stands by itself, a room or not.
+    void begin(const Statement& s, bool room) {
+        roomEnd_ = !room && (level_ == Level::room || level_ == Level::object) ? s.front().place : Place{};
+        lost_ = false;
+        closeRoom();
+        closeItem();
     }
 
     bool once(std::set<Text>& seen, const Text& what, const Statement& s) {
@@ -223,8 +259,7 @@ private:
     }
 
     void room(const Statement& s) {
-        closeRoom();
-        closeItem();
+        begin(s, true);
         level_ = Level::room;
         room_ = {};
         room_.head = s.front().place;
@@ -397,8 +432,7 @@ private:
     // --- items
 
     void item(const Statement& s) {
-        closeRoom();
-        closeItem();
+        begin(s, false);
         level_ = Level::item;
         const bool named = s.size() > 3 && !s[2].quoted && normalised(s[2].value) == "heisst";
         keepItem_ = named || oneName(s, findings_);
@@ -431,8 +465,7 @@ private:
 
     // A script file under any name, for what is not named after an item.
     void scriptFile(const Statement& s) {
-        closeRoom();
-        closeItem();
+        begin(s, false);
         level_ = Level::item;
         keepItem_ = false;
         itemScript_ = {};
@@ -444,9 +477,8 @@ private:
 
     // --- people and parts of scripts, which have been read already
 
-    void person(const Statement& /*s*/) {
-        closeRoom();
-        closeItem();
+    void person(const Statement& s) {
+        begin(s, false);
         level_ = Level::person;
     }
 
@@ -455,9 +487,8 @@ private:
     }
 
     // What stands in it is compiled where it is called.
-    void part(const Statement& /*s*/) {
-        closeRoom();
-        closeItem();
+    void part(const Statement& s) {
+        begin(s, false);
         level_ = Level::part;
         where_.clear();
     }
@@ -487,6 +518,8 @@ private:
     StoryScript itemScript_;
 
     Level level_ = Level::top;
+    bool lost_ = false;        // a heading is missing, and that has been told
+    Place roomEnd_{};          // what ended the last room without being one; the very first place for nothing
     bool complained_ = false;  // one finding is enough for a row of commands outside of scripts
     bool keepRoom_ = false;
     bool keepItem_ = false;

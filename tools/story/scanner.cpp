@@ -39,6 +39,11 @@ public:
 
     std::vector<Statement> all(std::string_view utf8) {
         if (utf8.starts_with(byteOrderMark)) utf8.remove_prefix(byteOrderMark.size());
+        if (isUtf16(utf8)) {
+            findings_.broken(here(), "utf8",
+                             "diese Datei ist als UTF-16 gespeichert; eine Quelle wird als UTF-8 gespeichert");
+            return {};
+        }
         while (!utf8.empty()) {
             const std::size_t end = std::min(utf8.find_first_of("\r\n"), utf8.size());
             line(utf8.substr(0, end));
@@ -50,6 +55,12 @@ public:
     }
 
 private:
+    // By its mark, or by the zero beside its first letter.
+    static bool isUtf16(std::string_view bytes) {
+        return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
+               (bytes.size() > 1 && (bytes[0] == '\0') != (bytes[1] == '\0'));
+    }
+
     Place here() const { return {file_, line_, column_}; }
 
     void line(std::string_view text) {

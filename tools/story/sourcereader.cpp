@@ -52,9 +52,16 @@ void SourceReader::include(const Statement& s, Findings& findings, std::vector<S
     if (!oneName(s, findings)) return;
     const fs::path path = besideSource(story_, s[1]);
     const bool circle = std::find(open_.begin(), open_.end(), path) != open_.end();
-    if (circle || open_.size() >= deepestInclude || ++includes_ > mostIncludes) {
+    if (circle) {
         findings.broken(s[1].place, "einbinden",
                         shown(s[1].value) + " bindet sich selbst wieder ein; so nähme die Quelle kein Ende");
+        return;
+    }
+    if (open_.size() >= deepestInclude || ++includes_ > mostIncludes) {
+        findings.broken(s[1].place, "einbinden",
+                        shown(s[1].value) + " wird nicht mehr eingebunden: höchstens " +
+                            std::to_string(mostIncludes) + " Dateien werden es, und höchstens " +
+                            std::to_string(deepestInclude) + " ineinander");
         return;
     }
     const auto text = files_.read(path);
