@@ -8,14 +8,13 @@
 
 #include "platform/codec/memoryfiles.h"
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::uint64_t alwaysAllowed = 64U << 20U;  // bytes unpacked, whatever the archive's size
 
 struct Closer {
     void operator()(zip_t* archive) const { zip_discard(archive); }
@@ -50,7 +49,7 @@ Text shown(const std::string& name) {
 
 // False for what leads out of a directory, is another thing on another system, or is no name at all.
 bool harmless(std::string_view name) {
-    if (name.empty() || name.size() > longestPackedName || name.front() == '/') return false;
+    if (name.empty() || name.size() > limits::packedNameBytes || name.front() == '/') return false;
     const bool odd = std::any_of(name.begin(), name.end(), [](char c) {
         return c == '\\' || c == ':' || static_cast<unsigned char>(c) < ' ' || c == '\x7F';
     });
@@ -79,12 +78,12 @@ public:
         archive_.reset(zip_open(file.c_str(), ZIP_RDONLY | ZIP_CHECKCONS, &error));
         if (!archive_) refuse(file, reasonFor(error));
         const auto count = static_cast<std::uint64_t>(zip_get_num_entries(archive_.get(), 0));
-        if (count > mostPackedFiles)
-            refuse(file, "Mehr als " + std::to_string(mostPackedFiles) + " Dateien sind zu viele.");
+        if (count > limits::packedFiles)
+            refuse(file, "Mehr als " + std::to_string(limits::packedFiles) + " Dateien sind zu viele.");
         for (std::uint64_t i = 0; i < count; ++i) add(file, i);
         std::error_code unknown;
         const std::uint64_t packed = fs::file_size(file, unknown);
-        if (total_ > largestPackedStory || total_ > alwaysAllowed + packed * mostPackedGrowth)
+        if (total_ > limits::packedStoryBytes || total_ > limits::packedGrowthFrom + packed * limits::packedGrowth)
             refuse(file, Text("Ausgepackt wäre sie zu groß."_t));
     }
 
@@ -127,14 +126,15 @@ private:
         const bool readable = (stored || about.comp_method == ZIP_CM_DEFLATE) &&
                               (about.encryption_method == ZIP_EM_NONE) && growsPlausibly(about);
         if (!readable) refuse(file, shown(name) + Text(" ist anders gepackt, als wir es lesen."_t));
-        if (about.size > largestPackedFile) refuse(file, shown(name) + Text(" ist zu groß."_t));
+        if (about.size > limits::packedFileBytes) refuse(file, shown(name) + Text(" ist zu groß."_t));
         total_ += about.size;
         names_.push_back(name);
         entries_.push_back({index, about.size});
     }
 
-    // No byte that is deflated stands for more than 1032.
-    static bool growsPlausibly(const zip_stat_t& about) { return about.size / 1032 <= about.comp_size; }
+    static bool growsPlausibly(const zip_stat_t& about) {
+        return about.size / limits::packedByteGrowth <= about.comp_size;
+    }
 
     Owned<zip_t> archive_;
     std::vector<std::string> names_;

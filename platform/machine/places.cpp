@@ -12,6 +12,7 @@
 
 #include "platform/machine/replace_file.h"
 #include "platform/machine/whole_file.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -25,7 +26,6 @@ constexpr const char* settingsName = "settings";
 constexpr const char* portableName = "zentrox-portable";
 constexpr const char* knownPlaces = "places.txt";    // one directory a line
 constexpr const char* fetchedFiles = "fetched.txt";  // target directory, tab, file that was copied
-constexpr std::uintmax_t largestSave = 64U << 20U;
 
 fs::path absoluteFrom(const Environment& environment, const char* name) {
     const char* const value = environment(name);
@@ -98,7 +98,7 @@ std::vector<fs::path> plainFiles(const fs::path& directory) {
     for (fs::directory_iterator entry(directory, error), end; !error && entry != end; entry.increment(error)) {
         std::error_code unknown;
         const bool plain = entry->is_regular_file(unknown) && !entry->is_symlink(unknown);
-        if (plain && entry->file_size(unknown) <= largestSave) files.push_back(entry->path());
+        if (plain && entry->file_size(unknown) <= limits::fetchedGameBytes) files.push_back(entry->path());
     }
     std::sort(files.begin(), files.end());
     return files;

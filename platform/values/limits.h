@@ -3,6 +3,7 @@
 // a gigabyte.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace zentrox::limits {
@@ -10,6 +11,8 @@ namespace zentrox::limits {
 constexpr std::uint64_t fileBytes =
     128'000'000;  // of what is read as a whole: rooms, scripts, saved games, pictures
 constexpr std::uint64_t midiBytes = 16'000'000;
+
+constexpr std::uint64_t fetchedGameBytes = 64U << 20U;  // of a saved game that is fetched from elsewhere
 
 // --- pictures
 constexpr std::uint32_t pictureSide = 16'384;  // pixels
@@ -35,5 +38,14 @@ constexpr std::int64_t filmPixels = 4096LL * 2304;
 constexpr double filmPicture =
     60'000;  // milliseconds; a picture that is said to be seen for longer is wrongly dated
 constexpr std::uint64_t filmPiece = 128'000'000;  // bytes that a decoder may ask for at once
+
+// --- packed stories
+constexpr std::uint64_t packedFiles = 20'000;
+constexpr std::uint64_t packedFileBytes = 512U << 20U;  // unpacked
+constexpr std::uint64_t packedStoryBytes = 4096ULL << 20U;
+constexpr std::uint64_t packedGrowth = 200;  // of all files together: bytes unpacked for one of the archive
+constexpr std::uint64_t packedGrowthFrom = 64U << 20U;  // bytes that may be unpacked whatever the archive's size
+constexpr std::uint64_t packedByteGrowth = 1032;        // no byte that is deflated stands for more
+constexpr std::size_t packedNameBytes = 1000;
 
 }  // namespace zentrox::limits

@@ -5,18 +5,17 @@
 #include <string>
 #include <string_view>
 
+#include "platform/values/bytes.h"
+
 namespace zentrox::test {
 
 // Little-endian numbers one behind the other.
 class Bytes {
 public:
     explicit Bytes(std::string_view begin = {}) : bytes_(begin) {}
-    Bytes& u8(std::int64_t value) {
-        bytes_ += static_cast<char>(value);
-        return *this;
-    }
-    Bytes& u16(std::int64_t value) { return u8(value & 255).u8(value >> 8); }
-    Bytes& u32(std::int64_t value) { return u16(value & 0xFFFF).u16(value >> 16); }
+    Bytes& u8(std::int64_t value) { return number(value, 1); }
+    Bytes& u16(std::int64_t value) { return number(value, 2); }
+    Bytes& u32(std::int64_t value) { return number(value, 4); }
     Bytes& text(std::string_view more) {
         bytes_ += more;
         return *this;
@@ -25,6 +24,11 @@ public:
     std::size_t size() const { return bytes_.size(); }
 
 private:
+    Bytes& number(std::int64_t value, int bytes) {
+        bytes_ += little(static_cast<std::uint32_t>(value), bytes);
+        return *this;
+    }
+
     std::string bytes_;
 };
 

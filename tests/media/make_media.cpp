@@ -5,6 +5,8 @@
 #include <numbers>
 #include <stdexcept>
 
+#include "platform/values/bytes.h"
+
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
@@ -16,17 +18,6 @@ namespace {
 
 double sampleAt(const Tone& tone, std::int64_t index) {
     return tone.level * std::sin(2 * std::numbers::pi * tone.hertz * static_cast<double>(index) / tone.rate);
-}
-
-std::string little(std::uint32_t value, int bytes) {
-    std::string out;
-    for (int i = 0; i < bytes; ++i) out += static_cast<char>(value >> (8 * i));
-    return out;
-}
-
-std::string big(std::uint32_t value, int bytes) {
-    const auto reversed = little(value, bytes);
-    return {reversed.rbegin(), reversed.rend()};
 }
 
 void need(bool works, const char* what) {

@@ -6,6 +6,7 @@
 #include "platform/codec/zip.h"
 #include "platform/machine/files.h"
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 #include "tests/pack/zip_support.h"
 
 namespace zentrox {
@@ -120,7 +121,7 @@ TEST_F(PackedFiles, AreRefusedIfTheyAreNoPlainFilesOfTheirOwnName) {
 
 TEST_F(PackedFiles, AreRefusedIfTheyAreTooManyOrTooMuch) {
     std::vector<std::string> names;
-    for (std::uint64_t i = 0; i <= mostPackedFiles; ++i) names.push_back("rooms/" + std::to_string(i));
+    for (std::uint64_t i = 0; i <= limits::packedFiles; ++i) names.push_back("rooms/" + std::to_string(i));
     for (const std::string& name : names) zip.add(name.c_str(), "", ZIP_CM_STORE);
     EXPECT_NE(refusal(zip).find("zu viele"), Text::npos);
 

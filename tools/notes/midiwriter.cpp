@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/values/bytes.h"
 #include "tools/notes/song.h"
 
 namespace zentrox::notes {
@@ -10,10 +11,6 @@ namespace {
 constexpr int drumChannel = 9;
 constexpr int volumeController = 7;
 constexpr int panController = 10;
-
-void big(std::string& out, std::uint32_t value, int bytes) {
-    for (int i = bytes - 1; i >= 0; --i) out += static_cast<char>(value >> (8 * i) & 0xFFU);
-}
 
 // Seven bits a byte, the highest first; all but the last have their top bit set.
 void variable(std::string& out, std::uint32_t value) {
@@ -38,7 +35,7 @@ void message(std::string& out, int status, int a, int b) {
 
 std::string chunk(const std::string& events) {
     std::string out = "MTrk";
-    big(out, static_cast<std::uint32_t>(events.size()), 4);
+    out += big(static_cast<std::uint32_t>(events.size()), 4);
     return out + events;
 }
 
@@ -56,8 +53,7 @@ int log2(int value) {
 // Tempo and measure.
 std::string conductor(const Song& song) {
     std::string out;
-    std::string tempo;
-    big(tempo, static_cast<std::uint32_t>(std::lround(60e6 / song.tempo)), 3);
+    const std::string tempo = big(static_cast<std::uint32_t>(std::lround(60e6 / song.tempo)), 3);
     variable(out, 0);
     meta(out, 0x51, tempo);
     variable(out, 0);
@@ -110,10 +106,10 @@ std::string track(const Track& track, int channel, int volume) {
 
 std::string midiFile(const Song& song) {
     std::string out = "MThd";
-    big(out, 6, 4);
-    big(out, 1, 2);
-    big(out, static_cast<std::uint32_t>(song.tracks.size() + 1), 2);
-    big(out, ticksPerQuarter, 2);
+    out += big(6, 4);
+    out += big(1, 2);
+    out += big(static_cast<std::uint32_t>(song.tracks.size() + 1), 2);
+    out += big(ticksPerQuarter, 2);
     out += conductor(song);
     int channel = 0;
     for (const Track& t : song.tracks) {

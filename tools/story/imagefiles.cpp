@@ -1,5 +1,7 @@
 #include "tools/story/imagefiles.h"
 
+#include "platform/values/bytes.h"
+
 namespace zentrox::story {
 
 namespace {
@@ -13,9 +15,7 @@ class Bytes {
 public:
     void u16(unsigned value) { little(value, 2); }
     void u32(std::uint32_t value) { little(value, 4); }
-    void little(std::uint32_t value, int count) {
-        for (int i = 0; i < count; ++i) out += static_cast<char>(value >> (8U * static_cast<unsigned>(i)) & 0xFFU);
-    }
+    void little(std::uint32_t value, int count) { out += zentrox::little(value, count); }
     // A row of a bitmap is a multiple of four bytes.
     void pad() {
         while (out.size() % 4 != start % 4) out += '\0';
