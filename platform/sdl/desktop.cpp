@@ -99,7 +99,7 @@ void Desktop::reshaped(Window& window) {
 }
 
 void Desktop::pointerChanged(Window& window) {
-    if (&window == screen_.top()) events_.showPointer();
+    if (&window == screen_.scene().top()) events_.showPointer();
 }
 
 // Lets the size of the native window come to rest; gives when it wants to be called again.

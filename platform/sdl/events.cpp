@@ -64,15 +64,16 @@ void Events::sizesChanged() {
 }
 
 void Events::showPointer() {
-    if (screen_.top() == nullptr) return;
+    if (screen_.scene().top() == nullptr) return;
     const bool own = overClient_ || told_ != 0;
-    cursors_.show(own ? screen_.top()->pointer() : Pointer{}, std::max(1, static_cast<int>(screen_.scale())));
+    cursors_.show(own ? screen_.scene().top()->pointer() : Pointer{},
+                  std::max(1, static_cast<int>(screen_.scene().scale())));
 }
 
 void Events::take(const SDL_Event& event) {
     if (event.type == SDL_QUIT) throw ProgramEnd{};
     if (event.type == SDL_WINDOWEVENT) return takeWindow(event.window);
-    if (screen_.top() == nullptr) return;
+    if (screen_.scene().top() == nullptr) return;
     switch (event.type) {
         case SDL_MOUSEMOTION: return takeMove(event.motion);
         case SDL_MOUSEBUTTONDOWN: return takeDown(event.button);
@@ -88,7 +89,7 @@ void Events::take(const SDL_Event& event) {
 void Events::takeWindow(const SDL_WindowEvent& event) {
     switch (event.event) {
         case SDL_WINDOWEVENT_CLOSE:
-            if (screen_.top() != nullptr) pending_.push_back({.kind = Input::Kind::close});
+            if (screen_.scene().top() != nullptr) pending_.push_back({.kind = Input::Kind::close});
             return;
         case SDL_WINDOWEVENT_SIZE_CHANGED: screen_.sizeChanged(); return sizesChanged();
         case SDL_WINDOWEVENT_MINIMIZED:

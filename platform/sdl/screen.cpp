@@ -5,7 +5,6 @@
 #include <iostream>
 #include <utility>
 
-#include "platform/sdl/frame.h"
 #include "platform/sdl/icon.h"
 #include "platform/values/error.h"
 
@@ -107,7 +106,7 @@ void Screen::takeOver(Window& window) {
 
 // Title and manners of the bottommost window. In full screen the manners have to wait.
 void Screen::shape() {
-    const Window& base = *shown_.front().window;
+    const Window& base = *scene_.base();
     SDL_SetWindowTitle(native_.get(), nativeTitle(base).c_str());
     if (fullScreen_) return;
     const bool sizable = base.frame() == Frame::sizable;
@@ -128,7 +127,7 @@ void Screen::measure() {
 // As large as the bottommost window has it, and larger where another window would not fit at the same scale; unless
 // the screen is too small for that.
 Size Screen::wantedNative() const {
-    const std::vector<Tenant> all = tenants();
+    const std::vector<Tenant> all = scene_.tenants();
     const double scale = baseScale(baseGround(), all.front());
     const Size need = needed(all);
     const Size grown{std::max(baseSize_.w, static_cast<int>(std::ceil(need.w * scale - 1e-6))),
@@ -151,7 +150,7 @@ bool Screen::maximised() const {
 // Gives the native window the size that the windows of the game want. A maximised one keeps its own.
 void Screen::settle() {
     measure();
-    if (shown_.empty() || fullScreen_ || leavesFullScreen_ || maximised()) return;
+    if (scene_.empty() || fullScreen_ || leavesFullScreen_ || maximised()) return;
     const Size wanted = wantedNative();
     stretchedSize_ = wanted == baseSize_ ? Size{} : wanted;
     if (wanted == size_) return;
@@ -167,7 +166,7 @@ void Screen::askedForSize() {
 
 void Screen::calm() {
     calmAt_.reset();
-    if (std::exchange(leavesFullScreen_, false) && !shown_.empty()) {
+    if (std::exchange(leavesFullScreen_, false) && !scene_.empty()) {
         shape();
         settle();
     }
@@ -178,7 +177,7 @@ void Screen::sizeChanged() {
     measure();
     // A person or the window manager has chosen another size.
     const bool chosen = !fullScreen_ && !calmAt_ && size_ != baseSize_ && size_ != stretchedSize_;
-    if (chosen && !shown_.empty() && shown_.front().window->frame() == Frame::sizable) {
+    if (chosen && !scene_.empty() && scene_.base()->frame() == Frame::sizable) {
         baseSize_ = size_;
         stretchedSize_ = {};
     }
@@ -201,8 +200,8 @@ void Screen::setFullScreen(bool on) {
 void Screen::setEnlarging(Enlarging how) {
     if (how == enlarging_) return;
     enlarging_ = how;
-    if (!native_ || shown_.empty()) return;
-    const Window& base = *shown_.front().window;
+    if (!native_ || scene_.empty()) return;
+    const Window& base = *scene_.base();
     windowedScale_ = windowedScale(base);
     if (!maximised()) {
         const Size client = base.frame() == Frame::sizable ? base.minimum : base.client();
@@ -216,41 +215,32 @@ void Screen::setEnlarging(Enlarging how) {
 // --- the game's windows
 
 void Screen::opened(Window& window) {
-    shown_.push_back({&window, {}});
-    closeDown_ = false;
+    scene_.opened(window);
     if (!native_)
         create(window);
-    else if (shown_.size() == 1)
+    else if (scene_.base() == &window)
         takeOver(window);
     settle();
     layOutAll();
 }
 
 void Screen::closed(Window& window) {
-    std::erase_if(shown_, [&](const Shown& s) { return s.window == &window; });
-    closeDown_ = false;
-    if (shown_.empty()) return;
+    scene_.closed(window);
     settle();
     layOutAll();
 }
 
 void Screen::reshaped(Window& window) {
-    if (shown_.empty() || !native_) return;
-    if (&window == shown_.front().window) {
+    if (scene_.empty() || !native_) return;
+    if (&window == scene_.base()) {
         SDL_SetWindowTitle(native_.get(), nativeTitle(window).c_str());
         // The size of a person's choice, unless the window will not go along.
-        if (!fullScreen_ && baseClient(baseGround(), tenants().front()) != window.client())
-            baseSize_ = scaled(window.client(), baseScale(baseGround(), tenants().front()));
+        const Tenant base = scene_.tenants().front();
+        if (!fullScreen_ && baseClient(baseGround(), base) != window.client())
+            baseSize_ = scaled(window.client(), baseScale(baseGround(), base));
         settle();
     }
     layOutAll();
-}
-
-std::vector<Tenant> Screen::tenants() const {
-    std::vector<Tenant> all;
-    all.reserve(shown_.size());
-    for (const Shown& s : shown_) all.push_back({s.window->client(), s.window->minimum, s.window->frame(), s.put});
-    return all;
 }
 
 // The ground as it is for the bottommost window: what it was stretched by for others is not its own.
@@ -264,129 +254,49 @@ Ground Screen::ground() const {
     Ground all = baseGround();
     all.native = size_;
     all.stretched = !fullScreen_ && size_ == stretchedSize_;
-    if (all.stretched) all.most = baseScale(baseGround(), tenants().front());
+    if (all.stretched) all.most = baseScale(baseGround(), scene_.tenants().front());
     return all;
 }
 
 void Screen::layOutAll() {
-    if (shown_.empty()) return;
-    layout_ = layOut(ground(), tenants());
-    if (canvas_.size() != layout_.canvas) canvas_ = Bitmap(layout_.canvas);
-    enlarger_ = Enlarger(layout_.canvas, layout_.scale, enlarging_);
-    exposed_ = true;
+    if (!scene_.empty()) scene_.layOut(ground());
 }
 
 std::optional<Size> Screen::resizeWanted() const {
-    if (shown_.empty() || shown_.front().window->frame() != Frame::sizable) return std::nullopt;
-    const Size wanted = baseClient(baseGround(), tenants().front());
-    return wanted == shown_.front().window->client() ? std::nullopt : std::optional(wanted);
+    if (scene_.empty() || scene_.base()->frame() != Frame::sizable) return std::nullopt;
+    const Size wanted = baseClient(baseGround(), scene_.tenants().front());
+    return wanted == scene_.base()->client() ? std::nullopt : std::optional(wanted);
 }
 
-// --- the pointer
-
-Point Screen::onCanvas(Point p) const {
-    const auto down = [&](int v, int corner) {
-        return static_cast<int>(std::floor((v * density_ - corner) / layout_.scale + 1e-6));
-    };
-    return {down(p.x, layout_.corner.x), down(p.y, layout_.corner.y)};
-}
-
-Place Screen::placeAt(Point p) const {
-    if (shown_.empty()) return Place::outside;
-    return placeOf(onCanvas(p), layout_.clients.back(), top()->frame(), shown_.size() > 1);
-}
-
-Point Screen::inTop(Point p) const {
-    return layout_.clients.empty() ? p : onCanvas(p) - layout_.clients.back().at();
-}
-
-void Screen::dragTop(Point to, Point grip) {
-    if (shown_.size() < 2) return;
-    const Point below = layout_.clients[shown_.size() - 2].at();
-    shown_.back().put = onCanvas(to) - grip - below;
-    layOutAll();
-    shown_.back().put = layout_.clients.back().at() - below;
-}
-
-void Screen::pressCloseBox(bool down) {
-    if (down == closeDown_) return;
-    closeDown_ = down;
-    exposed_ = true;
-}
-
-// --- showing
-
-bool Screen::stale() const {
-    if (shown_.empty()) return false;
-    return exposed_ || std::any_of(shown_.begin(), shown_.end(), [](const Shown& s) { return s.window->stale(); });
-}
-
-bool Screen::hiddenByOthers(std::size_t index, const Rect& part) const {
-    for (std::size_t i = index + 1; i < shown_.size(); ++i)
-        if (intersection(part, outerArea(layout_.clients[i], shown_[i].window->frame())) == part) return true;
-    return false;
-}
-
-// Brings the pictures of all windows up to date; gives the part of the canvas that has changed.
-Rect Screen::collectNews() {
-    Rect news;
-    for (std::size_t i = 0; i < shown_.size(); ++i) {
-        const Bitmap& picture = shown_[i].window->compose();
-        const Rect own = intersection(shown_[i].window->takeNews(), picture.bounds());
-        const Rect part{own.at() + layout_.clients[i].at(), own.size()};
-        if (!part.empty() && !hiddenByOthers(i, part)) news = united(news, part);
-    }
-    return intersection(exposed_ ? canvas_.bounds() : news, canvas_.bounds());
-}
-
-void Screen::paint(const Rect& part) {
-    canvas_.setClip(part);
-    if (intersection(part, layout_.clients.front()) != part) canvas_.fill(part, black);
-    for (std::size_t i = 0; i < shown_.size(); ++i) {
-        const bool active = i + 1 == shown_.size();
-        if (i > 0) drawFrame(canvas_, *shown_[i].window, layout_.clients[i], {active, active && closeDown_});
-        canvas_.copy(shown_[i].window->compose(), layout_.clients[i].at());
-    }
-    canvas_.setClip(canvas_.bounds());
+Point Screen::inPixels(Point p) const {
+    return {static_cast<int>(std::floor(p.x * density_)), static_cast<int>(std::floor(p.y * density_))};
 }
 
 void Screen::show() {
-    if (shown_.empty()) return;
-    const Rect part = collectNews();
-    if (part.empty()) return;
-    paint(part);
-    present(part);
-    exposed_ = false;
-}
-
-void Screen::present(const Rect& part) {
-    SDL_Surface* const target = SDL_GetWindowSurface(native_.get());
+    SDL_Surface* const target = scene_.stale() ? SDL_GetWindowSurface(native_.get()) : nullptr;
     if (target == nullptr) return;
-    if (exposed_) SDL_FillRect(target, nullptr, 0);
-    if (!plainFormat(*target)) {
-        presentThroughCopy(*target, part);
-        SDL_UpdateWindowSurface(native_.get());
-        return;
-    }
-    const Pixels pixels{static_cast<std::uint32_t*>(target->pixels), target->pitch, {target->w, target->h}};
-    const Rect painted = enlarger_.paint(canvas_, part, pixels, layout_.corner);
+    const bool all = scene_.exposed();
+    if (all) SDL_FillRect(target, nullptr, 0);
+    if (!plainFormat(*target)) return showThroughCopy(*target);
+    const Rect painted =
+        scene_.paint({static_cast<std::uint32_t*>(target->pixels), target->pitch, {target->w, target->h}});
     const SDL_Rect changed{painted.x, painted.y, painted.w, painted.h};
-    if (exposed_)
+    if (all)
         SDL_UpdateWindowSurface(native_.get());
-    else
+    else if (!painted.empty())
         SDL_UpdateWindowSurfaceRects(native_.get(), &changed, 1);
 }
 
 // For screens of another depth.
-void Screen::presentThroughCopy(SDL_Surface& target, const Rect& part) {
+void Screen::showThroughCopy(SDL_Surface& target) {
     SDL_Surface* const copy = SDL_CreateRGBSurfaceWithFormat(0, target.w, target.h, 32, SDL_PIXELFORMAT_RGB888);
     if (copy == nullptr) return;
-    const Pixels pixels{static_cast<std::uint32_t*>(copy->pixels), copy->pitch, {copy->w, copy->h}};
-    const Rect painted = enlarger_.paint(canvas_, part, pixels, layout_.corner);
-    SDL_Rect area{painted.x, painted.y, painted.w, painted.h};
-    SDL_Rect same = area;
-    SDL_BlitSurface(copy, &area, &target, &same);
+    const Rect painted = scene_.paint({static_cast<std::uint32_t*>(copy->pixels), copy->pitch, {copy->w, copy->h}});
+    SDL_Rect from{painted.x, painted.y, painted.w, painted.h};
+    SDL_Rect to = from;
+    SDL_BlitSurface(copy, &from, &target, &to);
     SDL_FreeSurface(copy);
+    SDL_UpdateWindowSurface(native_.get());
 }
 
 }  // namespace zentrox::sdl

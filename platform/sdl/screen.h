@@ -6,9 +6,8 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
 
-#include "platform/sdl/layout.h"
+#include "platform/sdl/scene.h"
 
 namespace zentrox::sdl {
 
@@ -24,13 +23,13 @@ public:
     void opened(Window& window);
     void closed(Window& window);
     void reshaped(Window& window);
-    Window* top() const { return shown_.empty() ? nullptr : shown_.back().window; }
+    const Scene& scene() const { return scene_; }
 
     // True if something would look different after `show`.
-    bool stale() const;
+    bool stale() const { return scene_.stale(); }
     void show();
     // All of it has to be shown again.
-    void expose() { exposed_ = true; }
+    void expose() { scene_.expose(); }
 
     // The native window may have another size now.
     void sizeChanged();
@@ -46,22 +45,16 @@ public:
     void setFullScreen(bool on);
     Enlarging enlarging() const { return enlarging_; }
     void setEnlarging(Enlarging how);
-    double scale() const { return layout_.scale; }
 
-    // Coordinates of the native window's events. What stands there of the topmost window; its pixel there.
-    Place placeAt(Point p) const;
-    Point inTop(Point p) const;
-    // Moves the topmost window by its title bar, which the pointer took hold of at `grip` of its client area.
-    void dragTop(Point to, Point grip);
-    void pressCloseBox(bool down);
+    // Coordinates are those of the native window's events. See `Scene`.
+    Place placeAt(Point p) const { return scene_.placeAt(inPixels(p)); }
+    Point inTop(Point p) const { return scene_.inTop(inPixels(p)); }
+    void dragTop(Point to, Point grip) { scene_.dragTop(inPixels(to), grip); }
+    void pressCloseBox(bool down) { scene_.pressCloseBox(down); }
 
 private:
     struct WindowEnd {
         void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
-    };
-    struct Shown {
-        Window* window = nullptr;
-        std::optional<Point> put;
     };
 
     void create(Window& window);
@@ -76,16 +69,11 @@ private:
     double windowedScale(const Window& window) const;
     Ground ground() const;
     Ground baseGround() const;
-    std::vector<Tenant> tenants() const;
-    bool hiddenByOthers(std::size_t index, const Rect& part) const;
-    Rect collectNews();
-    void paint(const Rect& part);
-    void present(const Rect& part);
-    void presentThroughCopy(SDL_Surface& target, const Rect& part);
-    Point onCanvas(Point p) const;
+    void showThroughCopy(SDL_Surface& target);
+    Point inPixels(Point p) const;
 
     std::unique_ptr<SDL_Window, WindowEnd> native_;
-    std::vector<Shown> shown_;  // the topmost one is the last
+    Scene scene_;
     Size size_;                 // of the native window, in its pixels
     double density_ = 1;        // its pixels for each unit that the window system counts in
     Size baseSize_;             // what the bottommost window alone wants of it, outside full screen
@@ -96,12 +84,6 @@ private:
     Size least_;  // the smallest size that the native window was told, empty if it is fixed
     bool fullScreen_ = false;
     Enlarging enlarging_ = Enlarging::whole;
-
-    Layout layout_;
-    Bitmap canvas_;
-    Enlarger enlarger_;
-    bool exposed_ = true;
-    bool closeDown_ = false;
 };
 
 }  // namespace zentrox::sdl
