@@ -1,5 +1,5 @@
 # The engine for the browser, compiled by emscripten; `./web` calls this with what it needs. The outside libraries were
-# built by web/libs into ZENTROX_WEB_LIBS.
+# built by scripts/web-libs into ZENTROX_WEB_LIBS.
 set(ZENTROX_WEB_LIBS ${CMAKE_SOURCE_DIR}/build/web-libs CACHE PATH "Where the libraries for the browser lie")
 set(ZENTROX_TESTS OFF)
 set(ZENTROX_BENCH OFF)

@@ -48,7 +48,7 @@ Gruppe::Gruppe(Control* parent, const Rect& area, TextView caption)
 
 void Gruppe::paint(Bitmap& onto, Point at) {
     Panel::paint(onto, at);
-    const Font& schrift = look::fontFor(*this, {});
+    const Font& schrift = look::fontFor(*this);
     const int oben = schrift.lineHeight() / 2;
     const Rect kante{at.x, at.y + oben, width() - 1, height() - oben - 1};
     onto.outline({kante.x + 1, kante.y + 1, kante.w, kante.h}, look::highlight);

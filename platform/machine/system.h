@@ -12,8 +12,8 @@ std::filesystem::path programFile();
 // The directory that it lies in.
 std::filesystem::path programDirectory();
 
-// Where an installation keeps what belongs to a program in `programDirectory`: seen from there, so that the whole can
-// be moved. Neither need be there.
+// Where an installation keeps what belongs to a program in `programDirectory`: seen from there, so that the whole
+// can be moved. Neither need be there.
 std::filesystem::path libraryDirectoryFor(const std::filesystem::path& programDirectory);
 std::filesystem::path dataDirectoryFor(const std::filesystem::path& programDirectory);
 

@@ -1,6 +1,7 @@
 #include "platform/web/page.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <random>
 
 #include "platform/codec/pictures.h"
@@ -18,11 +19,39 @@ constexpr int iconSide = 32;
 constexpr std::uint32_t opaque = 0xFF000000U;
 
 // The page hands in one thing as so many numbers, in this order.
-enum Field { kind, x, y, button, clicks, code, shift, control, character, fields };
+enum Field { kind, x, y, button, clicks, code, shift, control, character, finger, fields };
 
 // From the byte order of our pictures to that of a canvas.
 std::uint32_t forCanvas(std::uint32_t pixel) {
     return (pixel & 0xFF00FF00U) | (pixel & 0xFFU) << 16U | (pixel >> 16U & 0xFFU);
+}
+
+bool takesClicks(const Control& control) {
+    return control.enabled() && (control.onClick || control.onDown || control.takesFocus());
+}
+
+constexpr int fingertip = 16;  // pixels that a tap may miss by
+
+// The place in a control that takes clicks, if one is within a fingertip of `at`; else `at` itself.
+void findNear(Control& control, Point at, int& reach, Point& found) {
+    if (!control.visible()) return;
+    const Rect area = control.areaInWindow();
+    const Point inside{std::clamp(at.x, area.x, std::max(area.x, area.right() - 1)),
+                       std::clamp(at.y, area.y, std::max(area.y, area.bottom() - 1))};
+    const int away = std::max(std::abs(at.x - inside.x), std::abs(at.y - inside.y));
+    if (takesClicks(control) && away < reach) {
+        reach = away;
+        found = inside;
+    }
+    for (Control* const child : control.children()) findNear(*child, at, reach, found);
+}
+
+Point underFinger(Window& window, Point at) {
+    if (takesClicks(window.controlAt(at))) return at;
+    int reach = fingertip;
+    Point found = at;
+    findNear(window.root(), at, reach, found);
+    return found;
 }
 
 // A character as the game knows it, 0 if it does not.
@@ -46,8 +75,10 @@ std::optional<Input> Page::nextInput() {
         input.button = static_cast<Button>(event[button]);
         input.clicks = event[clicks];
         input.code = event[code];
+        input.repeat = input.kind == Input::Kind::keyDown && event[clicks] != 0;
         input.shift = event[shift] != 0;
         input.control = event[control] != 0;
+        if (event[finger] != 0 && top() != nullptr) input.at = underFinger(*top(), input.at);
         if (input.kind != Input::Kind::keyPress) return input;
         input.character = characterOf(event[character]);
         if (input.character != 0) return input;
@@ -73,9 +104,16 @@ std::uint64_t Page::seed() {
 
 // --- windows
 
+// The one with the highest number: numbers are given in the order of opening.
+Window* Page::top() const {
+    const auto last = std::max_element(shown_.begin(), shown_.end(),
+                                       [](const auto& a, const auto& b) { return a.second < b.second; });
+    return last == shown_.end() ? nullptr : last->first;
+}
+
 void Page::opened(Window& window) {
     const int number = ++lastNumber_;
-    numbers_[&window] = number;
+    shown_[&window] = number;
     const Size client = window.client();
     pageOpen(number, toUtf8(window.name()).c_str(), toUtf8(window.title()).c_str(), client.w, client.h,
              static_cast<int>(window.frame()));
@@ -84,22 +122,22 @@ void Page::opened(Window& window) {
 }
 
 void Page::closed(Window& window) {
-    const auto found = numbers_.find(&window);
-    if (found == numbers_.end()) return;
+    const auto found = shown_.find(&window);
+    if (found == shown_.end()) return;
     pageClose(found->second);
-    numbers_.erase(found);
+    shown_.erase(found);
 }
 
 void Page::reshaped(Window& window) {
-    const auto found = numbers_.find(&window);
-    if (found == numbers_.end()) return;
+    const auto found = shown_.find(&window);
+    if (found == shown_.end()) return;
     pageReshape(found->second, toUtf8(window.title()).c_str(), window.client().w, window.client().h);
     window.changed({{0, 0}, window.client()});
 }
 
 void Page::pointerChanged(Window& window) {
-    const auto found = numbers_.find(&window);
-    if (found == numbers_.end()) return;
+    const auto found = shown_.find(&window);
+    if (found == shown_.end()) return;
     const Pointer& pointer = window.pointer();
     const std::string name = toUtf8(pointer.iconFile);
     const int mode = static_cast<int>(pointer.mode);
@@ -117,16 +155,16 @@ void Page::pointerChanged(Window& window) {
 
 // --- showing
 
-void Page::present(const std::vector<Window*>& windows) {
+void Page::present() {
     presentDue_.reset();
-    if (std::none_of(windows.begin(), windows.end(), [](const Window* window) { return window->stale(); })) return;
+    if (std::none_of(shown_.begin(), shown_.end(), [](const auto& shown) { return shown.first->stale(); })) return;
     const Milliseconds now = clock();
     if (now < lastPresent_ + frame) {
         presentDue_ = lastPresent_ + frame;
         return;
     }
     lastPresent_ = now;
-    for (Window* const window : windows) show(*window, numbers_[window]);
+    for (const auto& [window, number] : shown_) show(*window, number);
 }
 
 void Page::show(Window& window, int number) {

@@ -24,7 +24,7 @@ public:
     void closed(Window& window) override;
     void reshaped(Window& window) override;
     void pointerChanged(Window& window) override;
-    void present(const std::vector<Window*>& windows) override;
+    void present() override;
     std::optional<Milliseconds> presentDue() override { return presentDue_; }
     void messageBoxOpened(const MessageBox& box) override;
     std::array<std::uint8_t, 256> keys() override;
@@ -35,10 +35,11 @@ public:
     void restart() override { restartWanted_ = true; }
 
 private:
+    Window* top() const;  // null if none is open
     void show(Window& window, int number);
 
     const Files& files_;
-    std::map<const Window*, int> numbers_;  // what the page calls them
+    std::map<Window*, int> shown_;  // what the page calls them
     int lastNumber_ = 0;
     std::vector<std::uint32_t> pixels_;  // what is handed to a canvas, as it wants it
     Milliseconds frameDue_ = 0;

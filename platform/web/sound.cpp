@@ -14,9 +14,6 @@ namespace {
 
 enum Track { voiceTrack, effectTrack, songTrack };
 
-constexpr int cannotOpen = 2;  // see `BassFehlerText`
-constexpr int notStarted = 9;
-
 std::int64_t held(double milliseconds, std::int64_t most) {
     return std::clamp(static_cast<std::int64_t>(milliseconds), std::int64_t{0}, most);
 }
@@ -30,7 +27,7 @@ public:
 
     bool init() override { return started_ = true; }
     bool start() override { return true; }
-    int errorCode() const override { return error_; }
+    SoundError error() const override { return error_; }
     void free() override {
         freeVoice(voice_);
         pageStop(effectTrack);
@@ -42,8 +39,10 @@ public:
     SoundHandle openVoice(TextView path) override {
         freeVoice(voice_);
         voiceFile_ = files_.systemPath(path);
-        error_ = !started_ ? notStarted : lengthsOf(voiceFile_).sound == 0 ? cannotOpen : 0;
-        return voice_ = error_ == 0 ? ++handles_ : 0;
+        error_ = !started_                          ? SoundError::notStarted
+                 : lengthsOf(voiceFile_).sound == 0 ? SoundError::cannotOpen
+                                                    : SoundError::none;
+        return voice_ = error_ == SoundError::none ? ++handles_ : 0;
     }
     void playVoice(SoundHandle handle) override {
         if (handle != 0 && handle == voice_) pagePlay(voiceTrack, voiceFile_.c_str());
@@ -113,7 +112,7 @@ private:
 
     Files files_;
     bool started_ = false;
-    int error_ = 0;
+    SoundError error_ = SoundError::none;
     SoundHandle voice_ = 0;
     SoundHandle handles_ = 0;
     std::filesystem::path voiceFile_;

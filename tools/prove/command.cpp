@@ -63,7 +63,7 @@ void tell(const story::Story& story, const Report& report, const Call& call, std
     namespace fs = std::filesystem;
     if (!call.walks.empty())
         for (const auto& [name, walk] : walkFiles(story, report))
-            story::writeIfChanged(fs::path(call.walks) / fs::u8path(name), walk);
+            story::writeIfChanged(fs::path(call.walks) / fs::path(name), walk);
     if (!call.graph.empty()) story::writeIfChanged(call.graph, asGraph(report));
     if (call.json) {
         out << asJson(story, report);

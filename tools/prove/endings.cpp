@@ -50,7 +50,7 @@ Marks endingMarks(const story::Story& story, story::SourceFiles& files) {
             lines[command.command.file].insert(command.command.line);
     Marks marks;
     for (const auto& [file, commands] : lines) {
-        const std::filesystem::path path = std::filesystem::u8path(story.files[static_cast<std::size_t>(file)]);
+        const std::filesystem::path path = std::filesystem::path(story.files[static_cast<std::size_t>(file)]);
         if (path.extension() == ".lsd" || path.extension() == ".skp") continue;
         std::istringstream source(files.read(path).value_or(""));
         std::string line;

@@ -41,7 +41,7 @@ public:
             for (const Text& there : files_.list(path)) known.names.emplace(upper(there), there);
         }
         const Text wanted(file.substr(name));
-        return known.path / fs::u8path(toUtf8(known.names.emplace(upper(wanted), wanted).first->second));
+        return known.path / fs::path(toUtf8(known.names.emplace(upper(wanted), wanted).first->second));
     }
 
 private:

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "platform/machine/system.h"
 #include "platform/values/error.h"
 #include "tools/completion/completion.h"
 #include "tools/prove/command.h"
@@ -19,6 +20,7 @@
 #include "tools/story/parser.h"
 #include "tools/story/reference.h"
 #include "tools/story/source.h"
+#include "tools/web/pack.h"
 
 namespace zentrox::story {
 
@@ -35,6 +37,7 @@ struct Options {
     std::vector<std::string> ran;
     double least = 0;
     prove::Call prove;
+    web::Order web;
     bool program = false;
     std::string player;
 };
@@ -176,7 +179,7 @@ int source(const Options& options, const Streams& to) {
     const char* gap = "";
     for (const auto& [name, text] : sourceFiles(story, pictures)) {
         if (!options.into.empty()) {
-            const fs::path path = fs::path(options.into) / fs::u8path(name);
+            const fs::path path = fs::path(options.into) / fs::path(name);
             if (writeIfChanged(path, text)) to.out << path.string() << "\n";
         } else {
             to.out << gap << text;
@@ -246,6 +249,15 @@ int reference(const Options& /*options*/, const Streams& to) {
     return clean;
 }
 
+int page(const Options& options, const Streams& to) {
+    web::Order order = options.web;
+    needAll({order.story.string()});
+    if (order.engine.empty()) order.engine = web::engineFor(programDirectory());
+    if (order.engine.empty())
+        throw WrongCall{"der Kern für den Browser ist nicht da; ./web macht ihn, --engine DIR sagt, wo er liegt"};
+    return web::pack(order, to.out, to.err) ? clean : hasFindings;
+}
+
 // --- the command line
 
 using Command = int (*)(const Options&, const Streams&);
@@ -279,6 +291,19 @@ void describeProve(CLI::App& sub, Options& options) {
         ->type_name("ZAHL");
     sub.add_flag("--full", call.full, "lässt nichts aus, auch was auf die Antworten keinen Einfluss hat");
     sub.add_flag("--json", options.json, "ein Objekt für Maschinen");
+}
+
+void describeWeb(CLI::App& app, Options& options) {
+    web::Order& order = options.web;
+    app.add_option("DIR", order.story, "das Datenverzeichnis, mit rooms, graphics, sounds und so weiter")
+        ->required();
+    app.add_option("--into", order.into, "das Verzeichnis der Seite; was neu ist, wird darin auf Stand gebracht")
+        ->required();
+    app.add_option("--root", order.discs, "ein Verzeichnis, das als CD gilt; auch mehrmals")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    app.add_option("--title", order.title, "wie die Geschichte auf der Seite heißt");
+    app.add_option("--engine", order.engine, "wo der Kern für den Browser liegt");
 }
 
 void describe(CLI::App& app, Chosen& chosen) {
@@ -318,6 +343,8 @@ void describe(CLI::App& app, Chosen& chosen) {
                     "schreibt in dieses Verzeichnis: je Raum eine Quelle, für die Gegenstände eine");
 
     describeProve(*add("prove", "spielt alle Spiele durch: Enden, Sackgassen, was nie geschieht", prove), options);
+
+    describeWeb(*add("web", "macht aus einer Geschichte eine Seite, die jeder Browser spielt", page), options);
 
     sub = add("coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage);
     sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();

@@ -136,7 +136,7 @@ std::string Coverage::missingLines(SourceFiles& files) const {
         if (ran) continue;
         const auto [file, line] = place;
         const std::string& name = story_.files[static_cast<std::size_t>(file)];
-        if (!sources.contains(file)) sources[file] = files.read(std::filesystem::u8path(name)).value_or("");
+        if (!sources.contains(file)) sources[file] = files.read(std::filesystem::path(name)).value_or("");
         report += name + ":" + std::to_string(line) + ": nicht gelaufen: " + lineOf(sources[file], line) + "\n";
     }
     return report;

@@ -575,8 +575,8 @@ Story parseSources(const std::vector<fs::path>& sources, SourceFiles& files, Fin
 
 Story parseSource(std::string_view utf8, const std::string& name, SourceFiles& files, Findings& findings) {
     Compiler compiler(files, findings);
-    compiler.read(fs::u8path(name), utf8);
-    return compiler.compile(fs::u8path(name).parent_path() / voiceTableFile);
+    compiler.read(fs::path(name), utf8);
+    return compiler.compile(fs::path(name).parent_path() / voiceTableFile);
 }
 
 }  // namespace zentrox::story

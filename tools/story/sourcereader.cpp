@@ -79,8 +79,8 @@ void SourceReader::include(const Statement& s, Findings& findings, std::vector<S
 fs::path besideSource(const Story& story, const Token& name) {
     std::string path = toUtf8(name.value);
     std::replace(path.begin(), path.end(), '\\', '/');
-    const fs::path source = fs::u8path(story.files[static_cast<std::size_t>(name.place.file)]);
-    return (source.parent_path() / fs::u8path(path)).lexically_normal();
+    const fs::path source = fs::path(story.files[static_cast<std::size_t>(name.place.file)]);
+    return (source.parent_path() / fs::path(path)).lexically_normal();
 }
 
 }  // namespace zentrox::story

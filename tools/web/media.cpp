@@ -45,7 +45,7 @@ void run(std::vector<std::string> command, const char* wanted) {
     try {
         voices::runProgram(command);
     } catch (const std::system_error&) {
-        throw MissingTool(command[0] + " is missing, which " + wanted);
+        throw MissingTool(command[0] + " fehlt, das " + wanted);
     }
 }
 
@@ -57,18 +57,18 @@ void ffmpeg(std::vector<std::string> options, const fs::path& from, const fs::pa
     std::vector<std::string> command{"ffmpeg", "-v", "error", "-nostdin", "-y", "-i", "file:" + from.string()};
     command.insert(command.end(), options.begin(), options.end());
     command.insert(command.end(), {"-map_metadata", "-1", "-fflags", "+bitexact", "file:" + to.string()});
-    run(std::move(command), "turns sounds and films into what a browser plays");
+    run(std::move(command), "aus Tönen und Filmen macht, was ein Browser spielt");
 }
 
 // As loud as the program's own synthesiser plays it, and as long as the program counts it.
 void renderSong(const fs::path& midi, std::int64_t length, const fs::path& musics, const fs::path& target) {
     const auto fonts = soundFonts(musics);
-    if (fonts.empty()) throw MissingTool("a General MIDI sound font is missing, which the songs are played with");
+    if (fonts.empty()) throw MissingTool("eine General-MIDI-Klangdatei (.sf2) fehlt, aus der die Lieder klingen");
     fs::path wave = target;
     wave += ".wav";
     run({"fluidsynth", "-q", "-ni", "-g", "0.5", "-r", "44100", "-O", "s16", "-T", "wav", "-F", wave.string(),
          fonts.front().string(), midi.string()},
-        "plays the songs");
+        "die Lieder vorspielt");
     ffmpeg({"-t", seconds(length), "-b:a", "96k"}, wave, target);
     fs::remove(wave);
 }

@@ -15,7 +15,7 @@ constexpr int margin = 2;  // pixels left of an item's text
 List::List(Control* parent, const Rect& area) : Control(parent, area) {}
 
 int List::rowHeight() const {
-    return look::fontFor(*this, {}).lineHeight();
+    return look::fontFor(*this).lineHeight();
 }
 
 int List::visibleRows() const {
@@ -147,7 +147,7 @@ void List::paint(Bitmap& onto, Point at) {
     const int room = width() - 2 * look::edge - (bar_.needed() ? ScrollBar::breadth : 0);
     const look::Clip clip(onto, {at.x + look::edge, at.y + look::edge, room, height() - 2 * look::edge});
     if (clip.empty()) return;
-    const Font& font = look::fontFor(*this, {});
+    const Font& font = look::fontFor(*this);
     const auto first = static_cast<std::size_t>(bar_.position());
     const std::size_t end = std::min(items_.size(), first + static_cast<std::size_t>(visibleRows()));
     for (std::size_t i = first; i < end; ++i) {

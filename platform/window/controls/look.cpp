@@ -60,4 +60,9 @@ const Font& fontFor(const Control& control, const FontSpec& wanted) {
     return control.window()->platform().fonts.get(wanted);
 }
 
+const Font& fontFor(const Control& control) {
+    static const FontSpec plain;
+    return fontFor(control, plain);
+}
+
 }  // namespace zentrox::look

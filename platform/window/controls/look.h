@@ -32,6 +32,8 @@ Rect shrunk(const Rect& area, int by);
 
 // A font for a control that stands in a window.
 const Font& fontFor(const Control& control, const FontSpec& wanted);
+// The small font of texts that say nothing else.
+const Font& fontFor(const Control& control);
 
 // Holds all drawing to `part` of what was allowed before, for the length of a scope.
 class Clip {
