@@ -33,6 +33,10 @@ constexpr TextView verzeichnis(Ordner ordner) {
     return Datenverzeichnisse[static_cast<std::size_t>(ordner)].name;
 }
 
+// The names of items beside those of their pictures, beside the directories of data: NAME, a tabulator, the name of
+// the picture without extension; UTF-8. Only tools read it.
+constexpr TextView Gegenstandsnamen = "gegenstaende.tsv";
+
 // A file that an argument names: its directory, and the field that holds it, 0 for the whole argument.
 struct Datei {
     Ordner ordner = Ordner::keiner;

@@ -91,6 +91,7 @@ bool Story::flag(TextView name) {
 }
 
 bool Story::carries(TextView item) {
+    item = itemName(item);
     for (int i = 0; i <= z_.InventarLetzter; ++i)
         if (equalIgnoringCase(baseName(z_.Inventar[static_cast<std::size_t>(i)]), item)) return true;
     return false;
@@ -138,6 +139,7 @@ std::optional<Point> Story::object(TextView name) {
 }
 
 std::optional<Point> Story::item(TextView name) {
+    name = itemName(name);
     if (!z_.LeisteOffen) return std::nullopt;
     for (int i = 0; i <= z_.InventarLetzter; ++i) {
         if (!equalIgnoringCase(baseName(z_.Inventar[static_cast<std::size_t>(i)]), name)) continue;
@@ -231,6 +233,7 @@ bool Story::setFlag(TextView name) {
 // By its base name, as walks know items; the file may have any extension.
 bool Story::takeItem(TextView item) {
     if (room() == nullptr || z_.InventarLetzter + 1 >= InventarPlätze) return false;
+    item = itemName(item);
     for (const Text& file : itemFiles()) {
         if (!equalIgnoringCase(baseName(file), item)) continue;
         z_.Inventar[static_cast<std::size_t>(++z_.InventarLetzter)] = z_.PfadItems + file;

@@ -4,6 +4,7 @@
 #include "engine/interpreter/raumfenster.h"
 #include "engine/state/zustand.h"
 #include "platform/probe/recorder.h"
+#include "tools/probe/itemnames.h"
 #include "tools/probe/player.h"
 
 namespace zentrox::probe {
@@ -52,9 +53,13 @@ private:
     // The room window if it is on top, else null.
     Raumfenster* room() const;
 
+    // The name of an item's picture, for any name that the story has for the item.
+    TextView itemName(TextView name) { return itemNames_.baseName(platform_.files, z_.PfadItems, name); }
+
     Platform& platform_;
     Zustand& z_;
     const Recorder& recorder_;
+    ItemNames itemNames_;
 };
 
 }  // namespace zentrox::probe

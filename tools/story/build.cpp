@@ -65,6 +65,12 @@ std::vector<fs::path> writeStory(const Story& story, const fs::path& into) {
     };
     for (const StoryRoom& room : story.rooms) write(Ordner::rooms, room.file, writeRoom(room.room));
     for (const StoryScript& script : story.scripts) write(Ordner::items, script.file, writeScript(script.script));
+    std::string names;
+    for (const auto& [name, picture] : story.itemNames) names += toUtf8(name + "\t" + picture) + "\n";
+    const fs::path table = Files(into).systemPath(Gegenstandsnamen);
+    std::error_code error;
+    if ((!names.empty() || fs::exists(table, error)) && writeIfChanged(table, names))
+        changed.push_back(into / table.filename());
     return changed;
 }
 

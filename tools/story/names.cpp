@@ -123,6 +123,7 @@ private:
         const Text name = joined(s, 3);
         if (name.empty()) return wrong(s[2].place, "argument", "hinter „heißt“ steht der Name des Gegenstands");
         const auto [known, isNew] = names_.items.emplace(normalised(name), s[1].value);
+        if (isNew) names_.spelled.emplace(name, itemName(s[1].value));
         if (!isNew && known->second != s[1].value)
             wrong(s[3].place, "doppelt", "so heißt schon " + shown(known->second));
     }

@@ -52,6 +52,7 @@ struct SpokenPlace {
 struct Names {
     std::map<Text, Person> people;  // by their names, normalised
     std::map<Text, Text> items;     // pictures by declared names, normalised
+    std::map<Text, Text> spelled;   // base names of pictures by declared names, as they are written
     std::map<Text, Text> pictures;  // pictures by their base names in upper case, as far as any source names them
     std::map<Text, Part> parts;     // normalised
     std::vector<Combination> combinations;

@@ -548,6 +548,7 @@ public:
             names.voices = table.assign(names.spoken);
             story_.voiceTable = {voices, table.written()};
         }
+        story_.itemNames = names.spelled;
         Parser parser(files_, story_, names, findings_);
         for (const Source& source : sources_)
             if (source.compiled) parser.source(source.statements);

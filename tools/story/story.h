@@ -4,6 +4,7 @@
 
 #include <array>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -78,6 +79,9 @@ struct Story {
         Place place;
     };
     std::vector<Item> items;
+
+    // Names of items that sources declare, and those of their pictures without extension.
+    std::map<Text, Text> itemNames;
 
     // The table of spoken lines beside the sources, and what it has to hold now; no path if nobody speaks.
     struct VoiceTable {

@@ -1,0 +1,22 @@
+// The names that a story gives its items beside those of their pictures.
+#pragma once
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "platform/machine/files.h"
+
+namespace zentrox::probe {
+
+class ItemNames {
+public:
+    // `items` is the directory of the items, beside which the compiler has left its table. Where there is none each
+    // item has but the name of its picture.
+    TextView baseName(const Files& files, TextView items, TextView name);
+
+private:
+    std::optional<std::vector<std::pair<Text, Text>>> names_;  // read when the first one is asked for
+};
+
+}  // namespace zentrox::probe
