@@ -417,17 +417,17 @@ private:
         }
         std::optional<bool> any = b.when.empty() ? std::optional(true) : std::optional(false);
         for (const auto& all : b.when) {
-            std::optional<bool> every = true;
+            bool every = true;
+            bool sure = true;
             for (const Term& term : all) {
                 const auto fact = known.find(factOf(term));
-                if (fact == known.end()) {
-                    if (every != std::optional(false)) every = std::nullopt;
-                } else if (fact->second == term.negated) {
+                if (fact == known.end())
+                    sure = false;
+                else if (fact->second == term.negated)
                     every = false;
-                }
             }
-            if (every == std::optional(true)) any = true;
-            if (!every && any == std::optional(false)) any = std::nullopt;
+            if (every && sure) any = true;
+            if (every && !sure && any == std::optional(false)) any = std::nullopt;
         }
         if (any == std::optional(false)) return false;
         if (b.once && !known.contains({Term::Kind::flag, normalised(ask.flags[i])})) return std::nullopt;
