@@ -29,10 +29,12 @@ private:
 // Each opcode of the table has just one handler, or this does not compile.
 constexpr std::array<Interpreter::Handler, OpcodeAnzahl> Interpreter::handlers = [] {
     std::array<Handler, OpcodeAnzahl> all{};
+    std::array<bool, OpcodeAnzahl> taken{};  // under the sanitizers no handler is compared in a constant
     const auto set = [&](std::int32_t number, Handler handler) {
-        Handler& place = all[static_cast<std::size_t>(number)];
-        if (place != nullptr) throw "this opcode has a handler already";
-        place = handler;
+        const auto place = static_cast<std::size_t>(number);
+        if (taken[place]) throw "this opcode has a handler already";
+        taken[place] = true;
+        all[place] = handler;
     };
     set("WennMerker"_op, &Interpreter::WennMerker);
     set("Ton"_op, &Interpreter::Ton);
@@ -67,8 +69,8 @@ constexpr std::array<Interpreter::Handler, OpcodeAnzahl> Interpreter::handlers =
     set("System"_op, &Interpreter::System);
     set("CountDownSetzen"_op, &Interpreter::CountDownSetzen);
     set("Blende"_op, &Interpreter::Blende);
-    for (const Handler handler : all)
-        if (handler == nullptr) throw "an opcode has no handler";
+    for (const bool has : taken)
+        if (!has) throw "an opcode has no handler";
     return all;
 }();
 
