@@ -165,14 +165,21 @@ std::string fish(const std::string& program, const std::vector<Command>& command
 
 // --- mdoc
 
+// As long as its letters are when each that is not ASCII is written out.
+std::size_t written(const std::string& word) {
+    constexpr std::size_t codedByte = 4;  // a letter of two bytes becomes eight
+    const auto coded = std::count_if(word.begin(), word.end(), [](char c) { return (c & 0x80) != 0; });
+    return word.size() + static_cast<std::size_t>(coded) * (codedByte - 1);
+}
+
 // A line of the source has at most 80 bytes and must not look like a request.
 std::string manText(const std::string& text) {
     constexpr std::size_t longestLine = 78;
     std::istringstream words(replaced(replaced(text, "\\", "\\e"), "-", "\\-"));
     std::string lines;
     std::size_t length = 0;
-    for (std::string word; words >> word; length += word.size() + 1) {
-        if (length + word.size() > longestLine) length = 0;
+    for (std::string word; words >> word; length += written(word) + 1) {
+        if (length + written(word) > longestLine) length = 0;
         if (!lines.empty()) lines += length == 0 ? '\n' : ' ';
         if (length == 0 && (word.front() == '.' || word.front() == '\'')) lines += "\\&";
         lines += word;
