@@ -7,28 +7,11 @@
 #include "games/fight/fight.h"
 #include "games/fight/pruegel.h"
 #include "platform/values/error.h"
+#include "tests/support/bitmap_file.h"
 #include "tests/support/stage.h"
 
 namespace zentrox::test {
 namespace {
-
-// An uncompressed bitmap of one colour.
-std::string bitmapFile(int w, int h, std::uint32_t rgb) {
-    std::string bytes("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0", 18);
-    const auto put = [&](std::uint32_t value, int count) {
-        for (int i = 0; i < count; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFFU);
-    };
-    put(static_cast<std::uint32_t>(w), 4);
-    put(static_cast<std::uint32_t>(h), 4);
-    put(1, 2);
-    put(24, 2);
-    for (int i = 0; i < 6; ++i) put(0, 4);
-    for (int y = 0; y < h; ++y) {
-        for (int x = 0; x < w; ++x) put(rgb, 3);
-        bytes.append(static_cast<std::size_t>((4 - w * 3 % 4) % 4), '\0');
-    }
-    return bytes;
-}
 
 const std::vector<std::string> fightPictures{
     "Kampf0",    "Kampf10",   "Kampf11",   "Kampf20",   "Kampf21",  "Kampf30",   "Kampf31",   "KampfT",
@@ -54,11 +37,11 @@ struct Fight : Stage {
         platform.random.reseed(seed);
         for (int i = 1; i <= 5; ++i)
             directory.write("games/prügels" + std::to_string(i) + ".bmp",
-                            bitmapFile(65, 65, 0x100000U * static_cast<unsigned>(i)));
+                            plainBitmapFile(65, 65, 0x100000U * static_cast<unsigned>(i)));
         for (int i = 1; i <= 3; ++i)
             directory.write("games/prügelb" + std::to_string(i) + ".bmp",
-                            bitmapFile(65, 65, 0x1000U * static_cast<unsigned>(i)));
-        const std::string grey = bitmapFile(4, 4, 0x808080);
+                            plainBitmapFile(65, 65, 0x1000U * static_cast<unsigned>(i)));
+        const std::string grey = plainBitmapFile(4, 4, 0x808080);
         for (const std::string& name : fightPictures) directory.write("games/" + name + ".jpg", grey);
     }
     Window& window() { return *platform.queue.active(); }

@@ -77,7 +77,7 @@ private:
     int x_ = 0;
 };
 
-class JumpBild : public ::testing::Test {
+class JumpPicture : public ::testing::Test {
 protected:
     test::TempDirectory directory;
     test::FakeFonts fonts;
@@ -127,7 +127,7 @@ protected:
     }
 };
 
-TEST_F(JumpBild, AnyWalkOfTheViewLeavesWhatASlowDrawingLeaves) {
+TEST_F(JumpPicture, AnyWalkOfTheViewLeavesWhatASlowDrawingLeaves) {
     SlowView slow(view.Atlas(), game.Karte);
     ASSERT_TRUE(field.image() == slow.picture());
     for (int i = 0; i < 3000; ++i) {
@@ -146,7 +146,7 @@ TEST_F(JumpBild, AnyWalkOfTheViewLeavesWhatASlowDrawingLeaves) {
 }
 
 // A whole game, won: each tick takes off what the last one put on, and puts on what a slow drawing would.
-TEST_F(JumpBild, EachTickOfAGameLeavesTheViewCleanAndDrawsAllFigures) {
+TEST_F(JumpPicture, EachTickOfAGameLeavesTheViewCleanAndDrawsAllFigures) {
     SlowView slow(view.Atlas(), game.Karte);
     auto keys = test::Player().plan();
     ASSERT_FALSE(keys.empty());
@@ -169,7 +169,7 @@ TEST_F(JumpBild, EachTickOfAGameLeavesTheViewCleanAndDrawsAllFigures) {
 }
 
 // All figures in one heap, and the figure of the player half off the surface on each side.
-TEST_F(JumpBild, OverlappingFiguresAndEdgesLeaveNoTrace) {
+TEST_F(JumpPicture, OverlappingFiguresAndEdgesLeaveNoTrace) {
     const Bitmap clean = field.image();
     for (int i = 0; i < 200; ++i) {
         for (Gegner& g : game.Gegner) {
@@ -196,7 +196,7 @@ TEST_F(JumpBild, OverlappingFiguresAndEdgesLeaveNoTrace) {
     }
 }
 
-TEST_F(JumpBild, PicturesOfOtherSizesAreClipped) {
+TEST_F(JumpPicture, PicturesOfOtherSizesAreClipped) {
     test::writeNoise(directory, "j0", 100, 50, 1);
     test::writeNoise(directory, "h1", 700, 3000, 2);
     test::writeNoise(directory, "g41md", 1, 1, 3);
@@ -207,6 +207,8 @@ TEST_F(JumpBild, PicturesOfOtherSizesAreClipped) {
         odd.Entfernen(game);
         odd.Zeichnen(game, game.Tick(test::pressed({key::right}), chance));
     }
+    odd.Entfernen(game);
+    EXPECT_EQ(field.pixel({300, 20}), 0) << "where the background does not reach, the view is black";
 }
 
 }  // namespace
