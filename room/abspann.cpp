@@ -4,6 +4,7 @@
 #include <numeric>
 #include <vector>
 
+#include "engine/state/mangel.h"
 #include "engine/state/schreibmaschine.h"
 #include "engine/state/warten.h"
 #include "platform/codec/pictures.h"
@@ -77,7 +78,7 @@ private:
 // The run of all pages and pictures on the two surfaces.
 class Ablauf {
 public:
-    Ablauf(Platform& platform, const Zustand& z, Surface& ziel, Surface& quelle)
+    Ablauf(Platform& platform, Zustand& z, Surface& ziel, Surface& quelle)
         : platform_(platform),
           z_(z),
           ziel_(ziel),
@@ -108,12 +109,16 @@ private:
     void bildVorbereiten() {
         if (bild_ == Bilder.size()) return;
         const Bildplatz& platz = Bilder[bild_++];
-        quelle_.takePicture(loadPicture(platform_.files, z_.PfadGraphics + Text(platz.datei)));
+        try {
+            quelle_.takePicture(loadPicture(platform_.files, z_.PfadGraphics + Text(platz.datei)));
+        } catch (const DataError& fehler) {
+            return MangelMelden(platform_, z_, fehler.message(), "Abspann");
+        }
         auflösung_.Vorbereiten(ziel_, quelle_, platz.ort, platform_.random);
     }
 
     Platform& platform_;
-    const Zustand& z_;
+    Zustand& z_;
     Surface& ziel_;
     Surface& quelle_;
     std::vector<Text> seiten_;

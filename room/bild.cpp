@@ -50,6 +50,7 @@ int abwärts(float wert) {
 
 void Form1::BildLaden(TextView Bild) {
     const Text pfad = Trim(Bild);
+    textband_.reset();
     if (!pfad.empty() && pfad.back() == '\\') {
         for (Surface* const fläche : {&Picture1, &Picture2, &Picture3}) {
             fläche->setBack(black);
@@ -65,6 +66,7 @@ void Form1::BildLaden(TextView Bild) {
 }
 
 void Form1::blendRunde(int grau) {
+    textband_.reset();
     Picture5.setPixel({0, 0}, {grau, grau, grau});
     Picture1.setPicture(Picture3.image());
     Picture1.stretch(Picture5.image(), {0, 0, 1, 1}, Picture1.image().bounds(), Op::bitOr);
@@ -125,6 +127,7 @@ void Form1::zoomen(const Region& region, bool hinein) {
     const float f = rate(region.Y2 - PH);
     const Rect alles = Picture1.image().bounds();
 
+    textband_.reset();
     Picture1.setAutoRedraw(false);
     const Milliseconds ende = platform_.queue.clock() + dauer;
     for (Milliseconds jetzt = platform_.queue.clock(); jetzt < ende; jetzt = platform_.queue.clock()) {

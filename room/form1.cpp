@@ -1,10 +1,13 @@
 #include "room/form1.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "engine/files/raumdatei.h"
 #include "engine/language/directories.h"
 #include "engine/state/felder.h"
+#include "engine/state/mangel.h"
 #include "platform/values/keys.h"
 
 namespace zentrox {
@@ -54,9 +57,18 @@ Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spielta
 }
 
 void Form1::Zeigen() {
-    Form_Load();
-    platform_.queue.waitUntil("Form1", [] { return false; });
-    Queue::endProgram();
+    try {
+        Form_Load();
+        platform_.queue.waitUntil("Form1", [] { return false; });
+    } catch (const DataError& fehler) {
+        // What can't be gone on from ends in the menu.
+        try {
+            showMessageBox(platform_, {"Zentrox", fehler.message(), MessageBox::Icon::critical});
+        } catch (const ProgramEnd&) {
+            Queue::endProgram(1);  // the box was cut off with the process
+        }
+    }
+    Form_QueryUnload(1);
 }
 
 void Form1::Form_Load() {
@@ -94,17 +106,47 @@ Text Form1::ersterRaum() const {
     return "Start.lsd";
 }
 
+// Rooms that lead on by their start scripts follow each other here and do not stand inside each other. A room that
+// can't be read leaves the player where they are.
 void Form1::Lade(TextView Name) {
+    auto weiter = betreten(readRoom(platform_.files, Name), Name);
+    while (weiter) {
+        Raum raum;
+        try {
+            raum = readRoom(platform_.files, *weiter);
+        } catch (const DataError& fehler) {
+            return interpreter_.ImRaumBleiben(fehler);
+        }
+        weiter = betreten(std::move(raum), *weiter);
+    }
+}
+
+std::optional<Text> Form1::betreten(Raum raum, TextView Name) {
     CountDown.setEnabled(false);
     CountDown.setPeriod(0);
     CountDown.setEnabled(true);
+    ++besuch_;
     z_.RaumDatei = Dateiname(Name);
     const Queue::Reason grund(platform_.queue, "Lade " + z_.RaumDatei);
-    Raum& raum = z_.AktuellerRaum;
-    raum = readRoom(platform_.files, Name);
-    raum.Bild = Trim(raum.Bild);
-    BildLaden(z_.PfadGraphics + Dateiname(raum.Bild));
-    interpreter_.SkriptAusführen(raum.Startskript, -1, "");
+    z_.AktuellerRaum = std::move(raum);
+    z_.AktuellerRaum.Bild = Trim(z_.AktuellerRaum.Bild);
+    raumbildLaden();
+    return interpreter_.RaumStarten();
+}
+
+void Form1::raumbildLaden() {
+    try {
+        BildLaden(z_.PfadGraphics + Dateiname(z_.AktuellerRaum.Bild));
+    } catch (const DataError& fehler) {
+        // Another room's picture would lie about where one is.
+        for (Surface* const fläche : {&Picture1, &Picture2, &Picture3}) fläche->removePicture();
+        BildLaden("\\");
+        melden(fehler);
+    }
+}
+
+void Form1::melden(const DataError& fehler) {
+    MangelMelden(platform_, z_, fehler.message(), "Raum " + z_.RaumDatei);
 }
 
 void Form1::Form_Resize() {
@@ -127,11 +169,34 @@ void Form1::Form_Resize() {
     }
 }
 
+namespace {
+
+// Keys that are held with others, by their virtual codes: beside those with names Print, Super, and the locks.
+bool istUmschalter(int code) {
+    constexpr std::array alle{key::shift, key::control, key::alt, key::capsLock, 44, 91, 92, 144, 145};
+    return std::find(alle.begin(), alle.end(), code) != alle.end();
+}
+
+}  // namespace
+
+// A modifier is a key of its own only if it is let go with no other one in between.
+void Form1::onKeyDown(int code) {
+    alleiniger_ = istUmschalter(code) && umschalter_.empty() ? code : 0;
+    if (!istUmschalter(code)) return Form_KeyDown(code);
+    umschalter_.insert(code);
+}
+
+void Form1::onKeyUp(int code) {
+    umschalter_.erase(code);
+    z_.TastenCode = code == alleiniger_ ? static_cast<std::int16_t>(code) : std::int16_t{0};
+    alleiniger_ = 0;
+}
+
 void Form1::Form_KeyDown(int code) {
     z_.TastenCode = static_cast<std::int16_t>(code);
     if (z_.SkriptLäuft) return;
     const bool lädtSkript = code == key::f1 || code == key::f2;
-    if (lädtSkript && aufschieben(Ereignis::taste, [this, code] { Form_KeyDown(code); })) return;
+    if (lädtSkript && aufschieben([this, code] { Form_KeyDown(code); })) return;
     if (code == key::f2 || code == key::f1) {
         z_.SkriptLäuft = true;
         if (code == key::f2) SpielSpeichern();
@@ -153,35 +218,39 @@ void Form1::Form_KeyDown(int code) {
 void Form1::onHeldLost() {
     z_.TastenCode = 0;
     z_.MausTaste = 0;
+    umschalter_.clear();
+    alleiniger_ = 0;
 }
 
+// Ticks whose runs all wait inside each other are left out before the stack is full.
 void Form1::CountDown_Timer() {
-    if (aufschieben(Ereignis::countDown, [this] { CountDown_Timer(); })) return;
+    if (aufschieben([this] { CountDown_Timer(); }, true) || !interpreter_.PlatzFürLauf()) return;
     interpreter_.SkriptAusführen(z_.AktuellerRaum.CountDownSkript, -1, "");
 }
 
-bool Form1::aufschieben(Ereignis was, std::function<void()> nachher) {
+bool Form1::aufschieben(std::function<void()> nachher, bool tick) {
     if (!z_.LeisteBewegt || z_.SkriptLäuft) return false;
-    for (const auto& [schon, handlung] : aufgeschoben_)
-        if (schon == was) return true;
-    aufgeschoben_.emplace_back(was, std::move(nachher));
+    // A timer that could not fire in time fires once.
+    const auto schonTick = [](const Aufgeschoben& a) { return a.tick; };
+    if (tick && std::any_of(aufgeschoben_.begin(), aufgeschoben_.end(), schonTick)) return true;
+    aufgeschoben_.push_back({besuch_, tick, std::move(nachher)});
     return true;
 }
 
 void Form1::nachholen() {
     while (!aufgeschoben_.empty() && !z_.LeisteBewegt) {
-        const auto handlung = std::move(aufgeschoben_.front().second);
-        aufgeschoben_.erase(aufgeschoben_.begin());
-        handlung();
+        const Aufgeschoben eines = std::move(aufgeschoben_.front());
+        aufgeschoben_.pop_front();
+        if (eines.besuch == besuch_) eines.tun();
     }
 }
 
-void Form1::Form_QueryUnload() {
+void Form1::Form_QueryUnload(int status) {
     medien_.Ende();
     medien_.SongStop();
     medien_.VideoStop();
     platform_.backend.restart();
-    Queue::endProgram();
+    Queue::endProgram(status);
 }
 
 }  // namespace zentrox

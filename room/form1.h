@@ -2,7 +2,9 @@
 // of the room view and the keyboard, and it opens the first room. All that follows is an answer to an event.
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <vector>
@@ -10,6 +12,7 @@
 #include "engine/interpreter/interpreter.h"
 #include "media/medien.h"
 #include "platform/platform.h"
+#include "platform/values/error.h"
 #include "platform/window/surface.h"
 
 namespace zentrox {
@@ -29,6 +32,7 @@ public:
     void BildLaden(TextView Bild) override;
     void ZeigText(TextView argument) override;
     void WegText(TextView argument) override;
+    bool TextSteht() const override { return textband_.has_value(); }
     int TextHöhe(TextView text) override { return Picture1.textHeight(text); }
     void ZoomIN(std::int32_t FX1, std::int32_t FY1, std::int32_t FX2, std::int32_t FY2) override;
     void ZoomOUT(std::int32_t FX1, std::int32_t FY1, std::int32_t FX2, std::int32_t FY2) override;
@@ -59,14 +63,20 @@ private:
     void onResize() override { Form_Resize(); }
     void onOpen() override { Form_Resize(); }
     bool onQueryClose() override { Form_QueryUnload(); }
-    void onKeyDown(int code) override { Form_KeyDown(code); }
-    void onKeyUp(int /*code*/) override { z_.TastenCode = 0; }
+    void onKeyDown(int code) override;
+    void onKeyUp(int code) override;
     void onHeldLost() override;
+
+    // A room's file has been read: shows it and runs its `Startskript`. Gives the room that this leads on to.
+    std::optional<Text> betreten(Raum raum, TextView Name);
+    void raumbildLaden();
+    // Tells of missing data, where no script's command asked for it.
+    void melden(const DataError& fehler);
 
     void Form_Load();
     void Form_Resize();
     void Form_KeyDown(int code);
-    [[noreturn]] void Form_QueryUnload();
+    [[noreturn]] void Form_QueryUnload(int status = 0);
     void CountDown_Timer();
     void Timer1_Timer();
     void Hintergrund_MouseMove();
@@ -96,6 +106,8 @@ private:
     int auswahlZeileBei(float Y) const;
     void losInLeiste(int slot);
     void losImRaum(int X, int Y);
+    // What a release in the room does later acts with the item that was held then.
+    void losImRaumNachher(int taste, int X, int Y, const Text& gehalten);
     bool inLeiste(int Y) const;
     int leisteOben() const { return Picture1.height() - z_.LeisteHöhe; }
     // The slot of `Inventar` under a point of the bar, -1 for an empty cell.
@@ -108,9 +120,14 @@ private:
     void leisteStrich();
     void gegenstandZeichnen(int slot);
 
-    // An event that would start a script while the bar slides waits until the slide is done. One of each kind.
-    enum class Ereignis { losgelassen, countDown, taste };
-    bool aufschieben(Ereignis was, std::function<void()> nachher);
+    // An event that would start a script while the bar slides waits until the slide is done: each with the state
+    // that it had, in the order in which they came. They fall with the room that they were meant for.
+    struct Aufgeschoben {
+        std::uint64_t besuch;
+        bool tick;
+        std::function<void()> tun;
+    };
+    bool aufschieben(std::function<void()> nachher, bool tick = false);
     void nachholen();
 
     // --- transitions
@@ -144,9 +161,15 @@ private:
     int AuswahlZeile = -1;
     float LeisteVoll = 0;
 
-    Text eigenerZeiger_;             // the icon loaded last, full path
-    std::set<Text> geprüfteZeiger_;  // icons that are known to be sound
-    std::vector<std::pair<Ereignis, std::function<void()>>> aufgeschoben_;
+    Text eigenerZeiger_;                   // the icon loaded last, full path
+    std::map<Text, bool> geprüfteZeiger_;  // whether an icon can be used
+    std::deque<Aufgeschoben> aufgeschoben_;
+    std::uint64_t besuch_ = 0;      // counts the rooms that were entered
+    bool druckVorLeiste_ = false;   // the button went down before the bar stood
+    std::set<int> umschalter_;      // the modifier keys that are held
+    int alleiniger_ = 0;            // of these the one that no other key has joined
+    std::optional<Rect> textband_;  // where the text stands that was shown last
+    bool filmLäuft_ = false;
 };
 
 }  // namespace zentrox

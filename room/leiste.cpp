@@ -84,6 +84,7 @@ void Form1::ZeigeLeiste() {
 
 void Form1::VersteckeLeiste() {
     if (z_.LeisteZu) return;
+    Picture1.setToolTip("");
     const int W = Picture1.width();
     const int H = Picture1.height();
     z_.LeisteBewegt = true;
@@ -96,7 +97,7 @@ void Form1::VersteckeLeiste() {
         WarteFrame(z_, platform_, taktZu);
     }
     Picture1.setAutoRedraw(true);
-    Picture1.copy(Picture3.image(), {0, leisteOben(), W, z_.LeisteHöhe - 1}, {0, leisteOben()});
+    Picture1.copy(Picture3.image(), {0, leisteOben(), W, z_.LeisteHöhe}, {0, leisteOben()});
     Picture1.refresh();
     z_.LeisteHöhe = 0;
     z_.LeisteWinkel = 0;

@@ -34,6 +34,7 @@ void Form1::RahmenAuf() {
 }
 
 void Form1::RahmenZu() {
+    textband_.reset();
     Picture1.stretch(Picture2.image(), Picture2.image().bounds(), Picture1.image().bounds());
     sichern();
 }
@@ -44,15 +45,21 @@ void Form1::Portrait(bool links, TextView Bild) {
     Picture1.stretch(Picture5.image(), Picture5.image().bounds(), {rahmen.ecke, rahmengröße});
 }
 
+// Over all that stands on the picture, but for a text that a tick's run shows meanwhile. What such a run draws goes
+// to the stored image, as ever.
 void Form1::FilmBild() {
-    if (const Bitmap* const bild = medien_.VideoBild()) {
-        Picture1.setAutoRedraw(false);
-        Picture1.stretch(*bild, bild->bounds(), Picture1.image().bounds());
-    }
+    filmLäuft_ = true;
+    const Bitmap* const bild = medien_.VideoBild();
+    if (bild == nullptr) return;
+    const bool vorher = Picture1.autoRedraw();
+    Picture1.setAutoRedraw(false);
+    Picture1.stretch(*bild, bild->bounds(), Picture1.image().bounds());
+    if (textband_) Picture1.copy(Picture1.image(), *textband_, textband_->at());
+    Picture1.setAutoRedraw(vorher);
 }
 
 void Form1::FilmEnde() {
-    Picture1.setAutoRedraw(true);
+    filmLäuft_ = false;
     Picture1.refresh();
 }
 

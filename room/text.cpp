@@ -53,11 +53,14 @@ void Form1::ZeigText(TextView argument) {
     const int W = Picture1.width();
     const float M = static_cast<float>(Picture1.height()) / 2;
     const double A = Picture1.textHeight(text) / 2.0 + mehrHöhe;
+    AuswahlZeile = -1;
     for (double winkel = 0; winkel < z_.PI / 2; winkel += winkelschritt) {
         const double c = std::sin(winkel) * A;
         Picture1.box({0, Runden(M - c + 1)}, {W, Runden(M + c - 1)}, black);
         Picture1.line({0, Runden(M - c)}, {W, Runden(M - c)}, white);
         Picture1.line({0, Runden(M + c)}, {W, Runden(M + c)}, white);
+        textband_ = Rect{0, Runden(M - c), W, Runden(M + c) - Runden(M - c) + 1};
+        if (filmLäuft_) FilmBild();
         WarteFrame(z_, platform_, takt);
     }
     Picture1.foreground = white;
@@ -77,6 +80,7 @@ void Form1::WegText(TextView argument) {
     const int H = Picture1.height();
     const float M = static_cast<float>(H) / 2;
     const double A = Picture1.textHeight(text) / 2.0 + mehrHöhe;
+    textband_.reset();
     const auto zeileZurück = [this, W](int y) { Picture1.copy(Picture3.image(), {0, y, W, 1}, {0, y}); };
     Picture1.setAutoRedraw(false);
     for (double winkel = z_.PI / 2; winkel > 0; winkel -= winkelschritt) {

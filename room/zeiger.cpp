@@ -58,12 +58,19 @@ void Form1::ZeigerEigen() {
     if (!eigenerZeiger_.empty()) setPointer({Pointer::Mode::own, eigenerZeiger_});
 }
 
+// An icon is read once to see that it is sound; the display reads it again in the size that it needs. In place of
+// one that is missing or damaged stands the arrow.
 void Form1::ZeigerLaden(TextView Pfad) {
-    // An icon is read once to see that it is sound; the display reads it again in the size that it needs.
-    if (geprüfteZeiger_.find(Text(Pfad)) == geprüfteZeiger_.end()) {
-        loadIcon(platform_.files, Pfad);
-        geprüfteZeiger_.emplace(Pfad);
+    const auto [icon, neu] = geprüfteZeiger_.try_emplace(Text(Pfad), true);
+    if (neu) {
+        try {
+            loadIcon(platform_.files, Pfad);
+        } catch (const DataError& fehler) {
+            icon->second = false;
+            melden(fehler);
+        }
     }
+    if (!icon->second) return ZeigerStandard();
     eigenerZeiger_ = Pfad;
     ZeigerEigen();
 }
@@ -150,8 +157,11 @@ int Form1::auswahlZeileBei(float Y) const {
 // --- press
 
 void Form1::Picture1_MouseDown(Button Taste, float X, float Y) {
+    // What came before it and waits for the slide still holds its item.
+    if (!aufgeschoben_.empty() && aufschieben([=, this] { Picture1_MouseDown(Taste, X, Y); })) return;
     z_.MausTaste = Taste == Button::left ? 2 : 1;
     z_.GezogenerGegenstand = -1;
+    druckVorLeiste_ = !z_.LeisteOffen;
     if (z_.SkriptLäuft || !inLeiste(ganz(Y))) return;
     const int slot = slotBei(ganz(X), ganz(Y));
     if (slot == -1) return;
@@ -187,6 +197,7 @@ void Form1::Picture1_MouseMove(float X, float Y) {
 void Form1::invertiere(int zeile) {
     const int T = Picture1.height() / 2 - z_.AuswahlHöhe / 2;
     const auto i = static_cast<std::size_t>(zeile);
+    if (i + 1 >= z_.AuswahlKanten.size()) return;
     Picture1.invertBox({0, T + z_.AuswahlKanten[i]}, {Picture1.width(), T + z_.AuswahlKanten[i + 1]});
 }
 
@@ -225,10 +236,29 @@ void Form1::Picture1_MouseUp(Button Taste, float X, float Y) {
         z_.MausTaste = 0;
         return;
     }
-    if (aufschieben(Ereignis::losgelassen, [=, this] { Picture1_MouseUp(Taste, X, Y); })) return;
-    if (!inLeiste(ganz(Y))) return losImRaum(ganz(X), ganz(Y));
+    // The bar does not stand during a slide: this is a release in the room.
+    const bool hält = z_.GezogenerGegenstand != -1;
+    const auto nachher = [=, this, gehalten = hält ? z_.GezogenerName : Text(), taste = z_.MausTaste] {
+        losImRaumNachher(taste, ganz(X), ganz(Y), gehalten);
+    };
+    if (aufschieben(nachher)) return;
+    // So is one whose press came before the bar stood.
+    const bool imRaum = !inLeiste(ganz(Y)) || (druckVorLeiste_ && !hält);
+    if (imRaum) return losImRaum(ganz(X), ganz(Y));
     const int slot = slotBei(ganz(X), ganz(Y));
     if (slot > -1) losInLeiste(slot);
+}
+
+void Form1::losImRaumNachher(int taste, int X, int Y, const Text& gehalten) {
+    z_.MausTaste = taste;
+    z_.GezogenerGegenstand = -1;
+    if (!gehalten.empty()) {
+        for (int slot = 0; slot <= z_.InventarLetzter; ++slot)
+            if (upper(gegenstandName(slot)) == gehalten) z_.GezogenerGegenstand = slot;
+        if (z_.GezogenerGegenstand == -1) return;  // it has been taken away meanwhile
+        z_.GezogenerName = gehalten;
+    }
+    losImRaum(X, Y);
 }
 
 void Form1::auswahlWählen(float Y) {
@@ -242,7 +272,12 @@ void Form1::losInLeiste(int slot) {
     const bool geklickt = z_.GezogenerGegenstand == slot || z_.GezogenerGegenstand == -1;
     const Text stamm = z_.PfadItems + gegenstandName(slot);
     const Text endungen = geklickt ? std::to_string(z_.MausTaste - 1) : "2";
-    const Skript skript = LadeSkript(platform_.files, stamm + endungen + ".skp");
+    Skript skript;
+    try {
+        skript = LadeSkript(platform_.files, stamm + endungen + ".skp");
+    } catch (const DataError& fehler) {
+        melden(fehler);
+    }
     z_.GezogenerGegenstand = -1;
     ZeigerStandard();
     z_.ZeigerLetzter = -1;

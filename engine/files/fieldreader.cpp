@@ -75,6 +75,7 @@ bool FieldReader::readTruth() {
 }
 
 Text FieldReader::readText() {
+    if (emptyAtEnd()) return {};
     begin(aText);
     Text text = *at_ == '"' ? quoted() : bare();
     finish();
@@ -100,13 +101,12 @@ Text FieldReader::bare() {
 }
 
 std::int32_t FieldReader::readLast(std::size_t fieldsEach) {
-    const std::int32_t last = number(aNumber);
+    const std::int32_t last = std::max(number(aNumber), -1);
     const auto count = static_cast<std::size_t>(static_cast<std::int64_t>(last) + 1);
-    // Each field takes at least the byte of its separator.
-    if (last >= -1 && count <= left() / fieldsEach) return last;
+    // Each field takes at least the byte of its separator, but for an empty text at the very end.
+    if (count <= (left() + 1) / fieldsEach) return last;
     --finished_;  // what is wrong is the field just read
     const Text index = "der letzte Index " + std::to_string(last);
-    if (last < -1) fail(index + " ist kleiner als -1");
     fail(index + Text(" passt nicht in die Datei, so viel steht nicht mehr darin"_t));
 }
 
@@ -129,6 +129,18 @@ void FieldReader::readMask(Maske& mask) {
             if (number(aNumber) == 255) mask.set(column, row, true);
         }
     }
+}
+
+bool FieldReader::emptyAtEnd() {
+    const TextView rest(at_, left());
+    if (ended_ || rest.find_first_not_of(" \t") != TextView::npos) return false;
+    const char* before = at_;
+    while (before != begin_ && isBlank(before[-1])) --before;
+    if (before == begin_ || before[-1] != ',') return false;
+    field_ = end_;
+    ended_ = true;
+    ++finished_;
+    return true;
 }
 
 void FieldReader::begin(TextView expected) {

@@ -39,9 +39,10 @@ public:
     // "#TRUE#", "#FALSE#", or a number, of which only 0 is false.
     bool readTruth();
     // In quotes, with all that stands between them, or bare up to the separator without the blanks at its end.
+    // Behind a comma at the end of the file stands one more text, the empty one.
     Text readText();
-    // The last index of a list whose entries have at least `fieldsEach` fields: -1 or more, and no more than what
-    // is left of the file could hold.
+    // The last index of a list whose entries have at least `fieldsEach` fields: no more than what is left of the
+    // file could hold. -1 for every one below 0: the list is empty.
     std::int32_t readLast(std::size_t fieldsEach);
     // 3072 numbers, column by column; 255 sets a cell. `mask` must be clear.
     void readMask(Maske& mask);
@@ -52,6 +53,7 @@ public:
 private:
     std::size_t left() const { return static_cast<std::size_t>(end_ - at_); }
     bool atSeparator() const { return *at_ == ',' || *at_ == '\r' || *at_ == '\n'; }
+    bool emptyAtEnd();
     void begin(TextView expected);
     void finish();
     std::int32_t number(TextView expected);
@@ -68,6 +70,7 @@ private:
     const char* at_;
     const char* field_;         // where the present field begins
     std::size_t finished_ = 0;  // so many fields have been read
+    bool ended_ = false;        // the empty text at the end has been read
 };
 
 }  // namespace zentrox

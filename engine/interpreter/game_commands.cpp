@@ -1,8 +1,11 @@
 // The doors out of a room: the mini-games, saved games, the credits and the end.
+#include <algorithm>
+
 #include "engine/interpreter/interpreter.h"
 #include "engine/language/words.h"
 #include "engine/state/felder.h"
 #include "engine/state/merker.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 
@@ -27,27 +30,50 @@ bool spieleMemory(const Spiel& spiel, const Zustand& z) {
     return istText(z.Übergabe, "W");
 }
 
+// A name in a list for the length of a scope.
+class Offen {
+public:
+    Offen(std::vector<Text>& liste, Text name) : liste_(liste) { liste_.push_back(std::move(name)); }
+    ~Offen() { liste_.pop_back(); }
+    Offen(const Offen&) = delete;
+    Offen& operator=(const Offen&) = delete;
+
+private:
+    std::vector<Text>& liste_;
+};
+
 }  // namespace
 
 void Interpreter::Spielen(Lauf& lauf) {
     const auto feld = [&](int n) { return upper(Trim(Feld(lauf.argument(), ",", n))); };
     const Text name = feld(1);
     const Text merker = feld(2);
-    z_.Übergabe = feld(3);
+    const bool steht = std::find(offeneSpiele_.begin(), offeneSpiele_.end(), name) != offeneSpiele_.end();
     bool sieg = false;
-    if (const auto spiel = spiele_.find(name); spiel != spiele_.end()) {
-        const Queue::Reason grund(platform_.queue, "Spiel " + name);
-        if (name == "MEMORY") {
-            sieg = spieleMemory(spiel->second, z_);
-        } else {
-            spiel->second();
-            sieg = gewonnen(z_.Übergabe);
-        }
+    // A window stands once at most: a tick that starts the game again under it has lost, and leaves alone what the
+    // game hands over.
+    if (!steht) {
+        z_.Übergabe = feld(3);
+        if (const auto spiel = spiele_.find(name); spiel != spiele_.end()) sieg = spiele(lauf, name, spiel->second);
     }
     if (sieg)
         MerkerSetzen(z_, merker);
     else
         MerkerLöschen(z_, merker);
+}
+
+// A game whose data is missing is told of, and lost.
+bool Interpreter::spiele(const Lauf& lauf, const Text& name, const Spiel& spiel) {
+    const Offen offen(offeneSpiele_, name);
+    const Queue::Reason grund(platform_.queue, "Spiel " + name);
+    try {
+        if (name == "MEMORY") return spieleMemory(spiel, z_);
+        spiel();
+        return gewonnen(z_.Übergabe);
+    } catch (const DataError& fehler) {
+        auslassen(lauf, fehler);
+        return false;
+    }
 }
 
 // The words count exactly, blanks and case included.

@@ -6,11 +6,17 @@
 
 #include "engine/language/limits.h"
 #include "engine/state/felder.h"
-#include "platform/values/error.h"
+#include "engine/state/mangel.h"
+#include "platform/machine/system.h"
 
 namespace zentrox {
 
 namespace {
+
+// What of the stack a run may leave unused: enough for a box, a game and what the machine does below them.
+constexpr std::size_t StapelReserve = std::size_t{256} * 1024;
+// So many instructions without a wait, and the window is asked whether it is to close.
+constexpr std::uint32_t AnweisungenBisZurFrage = 1U << 16U;
 
 // Counts how many runs stand inside each other.
 class Ebene {
@@ -86,19 +92,42 @@ Interpreter::Interpreter(Platform& platform, Zustand& zustand, Medien& medien, R
 void Interpreter::SkriptAusführen(const Skript& skript, int objektIndex, Text parameter) {
     assert(objektIndex >= -1 && objektIndex <= z_.AktuellerRaum.LetztesObjekt);
     if (objektIndex != -1 && !z_.AktuellerRaum.Objekte[static_cast<std::size_t>(objektIndex)].Aktiv) return;
-    prüfeTiefe();
-    const Ebene ebene(tiefe_);
-    const Queue::Reason grund(platform_.queue, laufName(skript, objektIndex));
+    const Text name = laufName(skript, objektIndex);
+    const Queue::Reason grund(platform_.queue, name);
+    Lauf lauf{skript, std::move(parameter), "Raum " + z_.RaumDatei + ", " + name};
+    ausführen(lauf, objektIndex);
+}
 
+std::optional<Text> Interpreter::RaumStarten() {
+    if (raumRunde_ != platform_.queue.turns()) räumeOhneWarten_ = 0;
+    raumRunde_ = platform_.queue.turns();
+    if (++räumeOhneWarten_ > MeisteRäumeOhneWarten)
+        throw Ausweglos("Raum " + z_.RaumDatei + Text(": Räume führen ohne Ende und ohne Warten zueinander."_t));
+    Lauf lauf{z_.AktuellerRaum.Startskript, {}, "Raum " + z_.RaumDatei + ", Startskript"};
+    lauf.start = true;
+    ausführen(lauf, -1);
+    letzterOrt_ = std::move(lauf.ort);
+    return std::move(lauf.nächsterRaum);
+}
+
+void Interpreter::ImRaumBleiben(const DataError& fehler) {
+    MangelMelden(platform_, z_, fehler.message(), letzterOrt_ + ", Raumwechsel");
+    schließen(letzterZeiger_);
+}
+
+void Interpreter::ausführen(Lauf& lauf, int objektIndex) {
+    prüfePlatz();
+    const Ebene ebene(tiefe_);
     const auto anfang = platform_.queue.heldMark();
     raum_.CountDownAn(false);
     z_.SkriptLäuft = true;
     const std::int32_t zeigerLetzter = z_.ZeigerLetzter;
     eröffnen();
-    Lauf lauf{skript, std::move(parameter)};
-    if (beobachter_ != nullptr) lauf.nummer = beobachter_->Beginnt(skript, z_.RaumDatei, objektIndex);
+    if (beobachter_ != nullptr) lauf.nummer = beobachter_->Beginnt(lauf.skript, z_.RaumDatei, objektIndex);
     durchlaufen(lauf);
     platform_.queue.disownHeld(anfang);
+    ++läufe_;
+    if (lauf.nächsterRaum) letzterZeiger_ = zeigerLetzter;
     if (lauf.schlussSchritte) schließen(zeigerLetzter);
 }
 
@@ -118,8 +147,33 @@ void Interpreter::durchlaufen(Lauf& lauf) {
         verfolgen(lauf);
 #endif
         if (beobachter_ != nullptr) beobachter_->Anweisung(lauf.nummer, lauf.zeiger);
-        if (findOpcode(lauf.befehl()) != nullptr) (this->*handlers[static_cast<std::size_t>(lauf.befehl())])(lauf);
+        if (++anweisungen_ == AnweisungenBisZurFrage) prüfeSchleife();
+        if (findOpcode(lauf.befehl()) == nullptr) continue;
+        try {
+            (this->*handlers[static_cast<std::size_t>(lauf.befehl())])(lauf);
+        } catch (const Ausweglos&) {
+            throw;
+        } catch (const DataError& fehler) {
+            auslassen(lauf, fehler);
+        }
     }
+}
+
+// A loop without a wait holds everything up; a person can still close the window.
+void Interpreter::prüfeSchleife() {
+    anweisungen_ = 0;
+    const bool gewartet = letzteRunde_ != platform_.queue.turns();
+    letzteRunde_ = platform_.queue.turns();
+    if (!gewartet && platform_.backend.wantsToClose()) raum_.Entladen();
+}
+
+// The command is left out, and the script goes on behind it.
+void Interpreter::auslassen(const Lauf& lauf, const DataError& fehler) {
+    Text ort = lauf.ort;
+    if (!lauf.amEnde())
+        if (const Opcode* const opcode = findOpcode(lauf.befehl()))
+            ort += ", Befehl " + std::to_string(lauf.zeiger + 1) + ": " + Text(opcode->name);
+    MangelMelden(platform_, z_, fehler.message(), ort);
 }
 
 void Interpreter::schließen(std::int32_t zeigerLetzter) {
@@ -131,15 +185,19 @@ void Interpreter::schließen(std::int32_t zeigerLetzter) {
     raum_.ZeigerAuffrischen();
 }
 
-void Interpreter::prüfeTiefe() const {
-    if (tiefe_ < TiefsterLauf) return;
-    throw DataError("Raum " + z_.RaumDatei + ": mehr als " + std::to_string(TiefsterLauf) +
-                    Text(" Skripte stehen ineinander; führen hier Räume ohne Ende zueinander?"_t));
+bool Interpreter::PlatzFürLauf() const {
+    return stackLeft() > 2 * StapelReserve;
+}
+
+void Interpreter::prüfePlatz() const {
+    if (stackLeft() > StapelReserve) return;
+    throw Ausweglos(
+        "Raum " + z_.RaumDatei + ": " + std::to_string(tiefe_) +
+        Text(" Skripte stehen ineinander, jedes wartet auf das nächste. Für noch eines ist kein Platz."_t));
 }
 
 // For the reasons of a wait and for the trace.
 Text Interpreter::laufName(const Skript& skript, int objektIndex) const {
-    if (&skript == &z_.AktuellerRaum.Startskript) return "Lade " + z_.RaumDatei;
     if (&skript == &z_.AktuellerRaum.CountDownSkript) return "CountDown";
     if (objektIndex == -1) return "Skript";
     return "Skript " + z_.AktuellerRaum.Objekte[static_cast<std::size_t>(objektIndex)].Name;

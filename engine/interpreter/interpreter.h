@@ -8,6 +8,7 @@
 #include "engine/interpreter/spieltabelle.h"
 #include "engine/language/opcodes.h"
 #include "platform/platform.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 
@@ -23,19 +24,32 @@ public:
 
     // Runs a script to its end. `objektIndex` is the object of the room that it belongs to, -1 for none; a run for
     // an object that is not `Aktiv` changes nothing. `parameter` is the dropped item's name in upper case. A script
-    // of an object has to be a copy, since a room change overwrites the objects; a room's own two scripts run in
-    // place. Throws `DataError` when runs nest too deep.
+    // of an object has to be a copy, since a room change overwrites the objects; the count-down's runs in place. A
+    // command that finds its data missing is told of in a box and left out. Throws `Ausweglos` when the stack has
+    // no room for one more run.
     void SkriptAusführen(const Skript& skript, int objektIndex, Text parameter);
+    // Runs the `Startskript` of `AktuellerRaum`, in place. Gives the path of the room that it leads on to: nothing
+    // of it is left to do then but the closing steps, which that room's run does as well. So rooms follow each
+    // other without standing inside each other.
+    std::optional<Text> RaumStarten();
+    // The room that `RaumStarten` has led on to can't be read: it is told of, and the run ends where it is.
+    void ImRaumBleiben(const DataError& fehler);
+
+    // False when the stack is nearly used up by runs inside runs, so that what can be left out had better be.
+    bool PlatzFürLauf() const;
 
 private:
     // What an opcode does, in the order of the table.
     using Handler = void (Interpreter::*)(Lauf&);
     static const std::array<Handler, OpcodeAnzahl> handlers;
 
+    void ausführen(Lauf& lauf, int objektIndex);
     void eröffnen();
     void durchlaufen(Lauf& lauf);
     void schließen(std::int32_t zeigerLetzter);
-    void prüfeTiefe() const;
+    void prüfePlatz() const;
+    void prüfeSchleife();
+    void auslassen(const Lauf& lauf, const DataError& fehler);
     Text laufName(const Skript& skript, int objektIndex) const;
     void verfolgen(const Lauf& lauf) const;
 
@@ -68,9 +82,11 @@ private:
     void Musik(Lauf& lauf);
     void Auswahl(Lauf& lauf);
     Text baueAuswahl(const Lauf& lauf);
+    std::int32_t warteAufWahl(const Text& text);
 
     // Games and system.
     void Spielen(Lauf& lauf);
+    bool spiele(const Lauf& lauf, const Text& name, const Spiel& spiel);
     void System(Lauf& lauf);
 
     // Picture.
@@ -89,6 +105,14 @@ private:
     const Spieltabelle& spiele_;
     Beobachter* const beobachter_;
     int tiefe_ = 0;
+    std::uint64_t läufe_ = 0;         // so many have ended
+    std::vector<Text> offeneSpiele_;  // whose windows stand
+    std::uint64_t letzteRunde_ = 0;   // the turn of the queue that `anweisungen_` counts from
+    std::uint32_t anweisungen_ = 0;   // so many without a wait
+    std::uint64_t raumRunde_ = 0;     // likewise of rooms
+    int räumeOhneWarten_ = 0;
+    Text letzterOrt_;                  // of the start script that has ended last
+    std::int32_t letzterZeiger_ = -1;  // and the `ZeigerLetzter` that it found
 };
 
 }  // namespace zentrox

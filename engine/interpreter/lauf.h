@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 
 #include "engine/state/zustand.h"
 
@@ -10,7 +11,10 @@ namespace zentrox {
 
 struct Lauf {
     const Skript& skript;
-    Text parameter;  // in upper case, by the caller
+    Text parameter;      // in upper case, by the caller
+    Text ort;            // for people: the room, and whose script it is
+    bool start = false;  // the start script of a room, which the next room's takes the place of
+    std::optional<Text> nächsterRaum{};
     std::int32_t zeiger = 0;
     bool schluss = false;         // the run is over and `skript` is not touched again
     bool schlussSchritte = true;  // whether the closing steps belong to its end

@@ -1,6 +1,7 @@
 // What a script shows: pictures, zooms, fades, and the two frames with portraits.
 #include "engine/interpreter/interpreter.h"
 #include "engine/state/felder.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 
@@ -36,7 +37,9 @@ void Interpreter::RahmenZu(Lauf& /*lauf*/) {
 
 void Interpreter::Portrait(Lauf& lauf) {
     const bool links = Val(Feld(lauf.argument(), ",", 1)) == 1;
-    raum_.Portrait(links, z_.PfadGraphics + Dateiname(Trim(Feld(lauf.argument(), ",", 2))));
+    const Text datei = Dateiname(Trim(Feld(lauf.argument(), ",", 2)));
+    if (datei.empty()) throw DataError("Es ist kein Bild genannt.");
+    raum_.Portrait(links, z_.PfadGraphics + datei);
 }
 
 void Interpreter::Blende(Lauf& lauf) {

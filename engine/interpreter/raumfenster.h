@@ -11,11 +11,14 @@ class Raumfenster {
 public:
     virtual ~Raumfenster() = default;
 
-    // Loads a room file, full path, and runs its `Startskript`.
+    // Loads a room file, full path, and runs its `Startskript`, then the rooms that this one leads on to. Throws
+    // `DataError`, with nothing changed, where the room can't be read.
     virtual void Lade(TextView Name) = 0;
     virtual void BildLaden(TextView Bild) = 0;
     virtual void ZeigText(TextView Text) = 0;
     virtual void WegText(TextView Text) = 0;
+    // False when what `ZeigText` has shown last has been painted over or taken away.
+    virtual bool TextSteht() const { return true; }
     // Pixels, in the font of `Picture1`; every line end starts a further line.
     virtual int TextHöhe(TextView Text) = 0;
     virtual void ZoomIN(std::int32_t FX1, std::int32_t FY1, std::int32_t FX2, std::int32_t FY2) = 0;

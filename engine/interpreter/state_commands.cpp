@@ -30,8 +30,11 @@ void Interpreter::LöscheMerker(Lauf& lauf) {
 }
 
 void Interpreter::Raumwechsel(Lauf& lauf) {
-    raum_.Lade(z_.PfadRooms + Text(lauf.argument()));
+    Text pfad = z_.PfadRooms + Text(lauf.argument());
     lauf.schluss = true;
+    if (!lauf.start) return raum_.Lade(pfad);
+    lauf.nächsterRaum = std::move(pfad);
+    lauf.schlussSchritte = false;
 }
 
 // There is no place for one more than the list holds; it is left out.

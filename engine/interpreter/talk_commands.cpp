@@ -34,6 +34,35 @@ Text stimmDatei(const Files& files, const Text& pfad) {
     return stamm + (files.exists(stamm + "mp3") ? "mp3" : "wav");
 }
 
+// A choice that stands open while a tick's run opens another one comes back when that one is done.
+class WahlDarunter {
+public:
+    explicit WahlDarunter(Zustand& z) : z_(z), ergebnis_(z.AuswahlErgebnis) {
+        if (!steht()) return;
+        texte_ = z.AuswahlTexte;
+        kanten_ = z.AuswahlKanten;
+        höhe_ = z.AuswahlHöhe;
+    }
+    ~WahlDarunter() {
+        if (!steht()) return;
+        z_.AuswahlTexte = std::move(texte_);
+        z_.AuswahlKanten = std::move(kanten_);
+        z_.AuswahlHöhe = höhe_;
+        z_.AuswahlErgebnis = ergebnis_;
+    }
+    WahlDarunter(const WahlDarunter&) = delete;
+    WahlDarunter& operator=(const WahlDarunter&) = delete;
+
+private:
+    bool steht() const { return ergebnis_ == -1 || ergebnis_ == -2; }
+
+    Zustand& z_;
+    std::int32_t ergebnis_;
+    std::vector<Text> texte_;
+    std::vector<std::int32_t> kanten_;
+    std::int32_t höhe_ = 0;
+};
+
 }  // namespace
 
 void Interpreter::Ton(Lauf& lauf) {
@@ -56,6 +85,11 @@ void Interpreter::Film(Lauf& lauf) {
     medien_.VideoStart(z_.PfadMovies + Dateiname(lauf.argument()));
     const auto abgebrochen = [this] { return z_.TastenCode == key::escape; };
     platform_.queue.disownHeld();
+    // A tick may start a run that waits inside this wait; the film does not stand still meanwhile.
+    const int tiefe = tiefe_;
+    const Timer weiter(platform_.queue, shortestPeriod, true, [this, tiefe] {
+        if (tiefe_ > tiefe) raum_.FilmBild();
+    });
     while (!abgebrochen()) {
         platform_.queue.waitUntil("Film", abgebrochen, platform_.backend.nextFrame());
         raum_.FilmBild();
@@ -81,22 +115,38 @@ void Interpreter::Musik(Lauf& lauf) {
 }
 
 void Interpreter::Auswahl(Lauf& lauf) {
+    const WahlDarunter darunter(z_);
     const Text text = baueAuswahl(lauf);
     z_.AuswahlErgebnis = -2;
     raum_.ZeigText(text);
-    raum_.ZeigerStandard();
-    z_.ZeigerLetzter = -1;
-    z_.AuswahlErgebnis = -1;
     platform_.queue.disownHeld();
-    raum_.ZeigerAuffrischen();
-    z_.MausTaste = 0;
-    platform_.queue.waitUntil("Auswahl", [this] { return z_.AuswahlErgebnis != -1; });
+    const std::int32_t wahl = warteAufWahl(text);
     platform_.queue.disownHeld();
     raum_.ZeigerEigen();
     z_.ZeigerLetzter = 1;
     raum_.WegText(text);
     medien_.StimmeFrei();
-    zumFall(lauf, z_.AuswahlErgebnis);
+    zumFall(lauf, wahl);
+}
+
+// Gives the option that is clicked. A run that a tick has started meanwhile leaves the choice as it was: it waits
+// on, and where something was painted over its lines they are shown again.
+std::int32_t Interpreter::warteAufWahl(const Text& text) {
+    for (;;) {
+        raum_.ZeigerStandard();
+        z_.ZeigerLetzter = -1;
+        z_.AuswahlErgebnis = -1;
+        raum_.ZeigerAuffrischen();
+        z_.MausTaste = 0;
+        const auto läufe = läufe_;
+        platform_.queue.waitUntil("Auswahl", [this, läufe] { return z_.AuswahlErgebnis != -1 || läufe_ != läufe; });
+        if (z_.AuswahlErgebnis != -1) return z_.AuswahlErgebnis;
+        z_.SkriptLäuft = true;
+        if (raum_.TextSteht()) continue;
+        z_.AuswahlErgebnis = -2;
+        raum_.ZeigText(text);
+        platform_.queue.disownHeld();
+    }
 }
 
 // Fills the tables of the choice and gives the whole text that is shown. Its edges are measured on the text as it
@@ -105,9 +155,8 @@ Text Interpreter::baueAuswahl(const Lauf& lauf) {
     const TextView argument = lauf.argument();
     const std::int32_t n = std::max(Runden(Val(Feld(argument, "|", 1))), 0);
     if (n > MeisteOptionen)
-        throw DataError("Raum " + z_.RaumDatei + ", Befehl " + std::to_string(lauf.zeiger) +
-                        Text(": \"Auswahl\" mit "_t) + std::to_string(n) + Text(" Möglichkeiten; höchstens "_t) +
-                        std::to_string(MeisteOptionen) + Text(" sind möglich"_t));
+        throw DataError(std::to_string(n) + Text(" Möglichkeiten; höchstens "_t) + std::to_string(MeisteOptionen) +
+                        Text(" sind möglich."_t));
     z_.AuswahlTexte.assign(static_cast<std::size_t>(n) + 1, {});
     z_.AuswahlKanten.assign(static_cast<std::size_t>(n) + 1, 0);
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <bitset>
 #include <cstdint>
+#include <set>
 #include <variant>
 #include <vector>
 
@@ -103,6 +104,8 @@ struct Zustand {
 
     // What `WarteFrame` remembers: when it returned last.
     std::int32_t LetzterFrame = 0;
+    // What has been told of data that is missing.
+    std::set<Text> GemeldeteMängel;
 };
 
 }  // namespace zentrox

@@ -157,6 +157,8 @@ std::vector<Text> Files::list(TextView directory) const {
 }
 
 void Files::failUnreadable(TextView path) const {
+    if (path.ends_with('\\'))
+        throw DataError("Es ist keine Datei genannt, nur ihr Verzeichnis \"" + display(path) + "\".");
     throw DataError("Die Datei \"" + display(path) + "\" kann nicht gelesen werden.");
 }
 

@@ -1,10 +1,15 @@
 #include "platform/machine/system.h"
 
+#ifdef __EMSCRIPTEN__
+#include <emscripten/stack.h>
+#endif
+#include <pthread.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
+#include <limits>
 #include <system_error>
 
 namespace zentrox {
@@ -26,6 +31,27 @@ std::filesystem::path libraryDirectoryFor(const std::filesystem::path& programDi
 std::filesystem::path dataDirectoryFor(const std::filesystem::path& programDirectory) {
     return (programDirectory / ZENTROX_DATA_FROM_PROGRAM).lexically_normal();
 }
+
+#ifdef __EMSCRIPTEN__
+std::size_t stackLeft() {
+    return emscripten_stack_get_free();
+}
+#else
+std::size_t stackLeft() {
+    static const char* const lowest = [] {
+        void* base = nullptr;
+        std::size_t size = 0;
+        pthread_attr_t attributes;
+        if (pthread_getattr_np(pthread_self(), &attributes) != 0) return static_cast<const char*>(nullptr);
+        pthread_attr_getstack(&attributes, &base, &size);
+        pthread_attr_destroy(&attributes);
+        return static_cast<const char*>(base);
+    }();
+    const auto* const here = static_cast<const char*>(__builtin_frame_address(0));
+    if (lowest == nullptr || here < lowest) return std::numeric_limits<std::size_t>::max();
+    return static_cast<std::size_t>(here - lowest);
+}
+#endif
 
 bool startProcess(const std::vector<std::string>& command) {
     if (command.empty()) return false;

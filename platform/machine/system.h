@@ -1,6 +1,7 @@
 // The few things about the running process that both programs need before anything else.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -16,6 +17,9 @@ std::filesystem::path programDirectory();
 // can be moved. Neither need be there.
 std::filesystem::path libraryDirectoryFor(const std::filesystem::path& programDirectory);
 std::filesystem::path dataDirectoryFor(const std::filesystem::path& programDirectory);
+
+// What is left of the running thread's stack, in bytes, as far as it is known; more than any need where it is not.
+std::size_t stackLeft();
 
 // Starts a program without a shell and without waiting for it; a name without a slash is sought in the search path.
 // False if it can't be started.

@@ -10,6 +10,7 @@ namespace {
 
 constexpr Milliseconds frame = 16;
 constexpr std::uint8_t held = 128;
+constexpr int patience = 50;  // questions without a wait; each stands for some ten thousand instructions
 
 }  // namespace
 
@@ -38,6 +39,7 @@ void ProbeBackend::beginAnew() {
 }
 
 std::optional<Input> ProbeBackend::nextInput() {
+    asked_ = 0;
     if (handedOver_ || person_ == nullptr) {
         handedOver_ = false;
         return std::nullopt;
@@ -65,6 +67,11 @@ void ProbeBackend::sleep(std::optional<Milliseconds> until) {
 
 Milliseconds ProbeBackend::nextFrame() {
     return now_ + frame;
+}
+
+bool ProbeBackend::wantsToClose() {
+    if (++asked_ == patience && person_ != nullptr) person_->stuck();
+    return false;
 }
 
 void ProbeBackend::opened(Window& window) {

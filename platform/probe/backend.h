@@ -20,6 +20,8 @@ public:
     virtual bool ready() = 0;
     // When it wants to be asked at the latest.
     virtual std::optional<Milliseconds> due() = 0;
+    // The program has gone on for long without a wait and is not likely to end.
+    virtual void stuck() {}
 };
 
 class ProbeBackend : public Backend {
@@ -51,6 +53,7 @@ public:
     void reshaped(Window& /*window*/) override {}
     void pointerChanged(Window& /*window*/) override {}
     void present() override {}
+    bool wantsToClose() override;
     void messageBoxOpened(const MessageBox& box) override;
     std::array<std::uint8_t, 256> keys() override { return keys_; }
     std::string clipboard() override { return clipboard_; }
@@ -66,6 +69,7 @@ private:
     std::function<void()> clockMoved_;
     Milliseconds now_ = 0;
     bool handedOver_ = false;  // one input a turn
+    int asked_ = 0;            // so often without a wait whether to close
     bool restartWanted_ = false;
     std::array<std::uint8_t, 256> keys_{};
     std::string clipboard_;

@@ -35,6 +35,7 @@ public:
     void pointerChanged(Window& window) override;
     void present() override;
     std::optional<Milliseconds> presentDue() override { return presentDue_; }
+    bool wantsToClose() override { return events_.closeWanted(); }
     std::array<std::uint8_t, 256> keys() override { return events_.keys(); }
     std::string clipboard() override;
     void setClipboard(const std::string& text) override;

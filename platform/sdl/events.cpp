@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/values/error.h"
+#include "platform/values/keys.h"
 
 namespace zentrox::sdl {
 
@@ -43,6 +44,13 @@ std::optional<Input> Events::next() {
     const Input input = pending_.front();
     pending_.pop_front();
     return input;
+}
+
+bool Events::closeWanted() {
+    SDL_Event event;
+    while (screen_.ready() && SDL_PollEvent(&event) != 0) take(event);
+    return std::any_of(pending_.begin(), pending_.end(),
+                       [](const Input& input) { return input.kind == Input::Kind::close; });
 }
 
 // What is pending stays: the queue knows what of it was meant for another window.
@@ -188,6 +196,8 @@ bool Events::takeOwnKey(const SDL_KeyboardEvent& event) {
     const bool altEnter = sym == SDLK_RETURN && (event.keysym.mod & KMOD_ALT) != 0;
     if (sym != SDLK_F11 && sym != SDLK_F8 && !altEnter) return false;
     if (event.type != SDL_KEYDOWN || event.repeat != 0) return true;
+    // Nor is Alt a key that was pressed alone.
+    if (altEnter) pending_.push_back({.kind = Input::Kind::keyUp, .code = key::alt, .lost = true});
     if (sym == SDLK_F8)
         screen_.setEnlarging(after(screen_.enlarging()));
     else
@@ -203,6 +213,7 @@ void Events::takeKey(const SDL_KeyboardEvent& event) {
     input.kind = down ? Input::Kind::keyDown : Input::Kind::keyUp;
     input.code = virtualCode(event.keysym);
     input.repeat = event.repeat != 0;
+    input.lost = !down && SDL_GetKeyboardFocus() == nullptr;
     input.shift = (event.keysym.mod & KMOD_SHIFT) != 0;
     input.control = (event.keysym.mod & KMOD_CTRL) != 0;
     if (down && !input.repeat) taps_.note(input.code, SDL_GetTicks64());

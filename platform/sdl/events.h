@@ -22,6 +22,8 @@ public:
     // `ProgramEnd` when the process is asked to end.
     std::optional<Input> next();
     bool pending() const { return !pending_.empty(); }
+    // True if one of the things that wait to be told is a wish to close the topmost window.
+    bool closeWanted();
 
     // Another window is the topmost one now.
     void windowsChanged();

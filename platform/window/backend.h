@@ -25,6 +25,7 @@ struct Input {
     int clicks = 1;                // press
     int code = 0;                  // keyDown, keyUp: virtual code; wheel: lines, up positive
     bool repeat = false;           // keyDown: the keyboard repeats a held key
+    bool lost = false;             // keyUp: nobody let it go, the keyboard went to another program
     bool shift = false;            // press, keyDown
     bool control = false;          // keyDown
     char character = 0;            // keyPress
@@ -57,6 +58,9 @@ public:
     virtual void present() = 0;
     // When `present` wants to be called again without anything happening; nothing if it does not.
     virtual std::optional<Milliseconds> presentDue() { return std::nullopt; }
+    // Asked now and then by work that has gone on for long without a wait: true when a person wants the topmost
+    // window closed.
+    virtual bool wantsToClose() { return false; }
     virtual void messageBoxOpened(const MessageBox& /*box*/) {}
 
     // The state of all keys by virtual code; 128 in a byte is held.

@@ -132,9 +132,12 @@ void Queue::deliver(const Input& input) {
             return;
         case Kind::wheel: return routing.wheel(input.at, input.code);
         case Kind::keyDown: return deliverKey(*window, input);
-        case Kind::keyUp:
-            if (held_.keyUp(input.code)) routing.keyUp(input.code);
+        case Kind::keyUp: {
+            const bool belongs = held_.keyUp(input.code);
+            if (belongs && input.lost) window->onHeldLost();
+            if (belongs && !input.lost) routing.keyUp(input.code);
             return;
+        }
         case Kind::keyPress:
             if (held_.characterBelongs()) routing.keyPress(input.character);
             return;
@@ -173,6 +176,7 @@ void Queue::disownHeld(HeldInputs::Mark since) {
 // Each timer that is due when this begins fires once, the earliest deadline first; a handler may make and end
 // timers.
 void Queue::serveTimers() {
+    ++turns_;
     serveToolTip();
     const Milliseconds now = clock();
     std::vector<std::pair<Milliseconds, Timer*>> due;

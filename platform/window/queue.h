@@ -62,6 +62,9 @@ public:
     // For loops that draw as often as the machine allows: serves and shows one frame of the display.
     void nextFrame(TextView why);
 
+    // Counts the turns, so that a long piece of work can see whether it has ever waited.
+    std::uint64_t turns() const { return turns_; }
+
     // Why the program waits, from the outermost to the innermost: "Lade Keller.lsd > Text > Dialog".
     Text reasons() const;
     // The innermost of them, empty if it does not wait.
@@ -115,6 +118,7 @@ private:
     std::vector<Window*> windows_;
     HeldInputs held_;
     std::vector<Text> reasons_;
+    std::uint64_t turns_ = 0;
     std::optional<Milliseconds> toolTipDue_;
 };
 

@@ -1,7 +1,9 @@
 // How a run begins and ends, and what may happen inside it.
 #include "engine/files/raumdatei.h"
 #include "engine/language/limits.h"
+#include "engine/state/mangel.h"
 #include "engine/state/merker.h"
+#include "platform/machine/system.h"
 #include "platform/values/error.h"
 #include "tests/engine/engine_fixture.h"
 
@@ -15,9 +17,12 @@ protected:
     // Makes the fake window enter rooms as the real one does.
     void betreteRäume() {
         raum.onLade = [this](TextView pfad) {
-            z.RaumDatei = pfad.substr(pfad.rfind('\\') + 1);
-            z.AktuellerRaum = readRoom(platform.files, pfad);
-            interpreter.SkriptAusführen(z.AktuellerRaum.Startskript, -1, "");
+            for (std::optional<Text> weiter = Text(pfad); weiter;) {
+                z.RaumDatei = weiter->substr(weiter->rfind('\\') + 1);
+                const Queue::Reason grund(platform.queue, "Lade " + z.RaumDatei);
+                z.AktuellerRaum = readRoom(platform.files, *weiter);
+                weiter = interpreter.RaumStarten();
+            }
         };
     }
     void raumdatei(TextView name, TextView startskript, TextView countDown = "-1") {
@@ -113,9 +118,8 @@ TEST_F(Runs, ARoomChangeEndsTheRunBehindTheRunOfTheNewRoom) {
     for (const Text& n : raum.notes)
         if (!n.starts_with("ZeigerLaden") && n != "VersteckeLeiste") notizen.push_back(n);
     EXPECT_EQ(notizen, (Notizen{"CountDown off", "BildLaden g\\a1", "Lade " + z.PfadRooms + "b.lsd",
-                                "CountDown off", "BildLaden g\\b1", "Lade " + z.PfadRooms + "c.lsd",
-                                "CountDown off", "BildLaden g\\c1", "CountDown off", "CountDown 2000",
-                                "CountDown on", "BildLaden g\\c2", "CountDown on", "ZeigerAuffrischen",
+                                "CountDown off", "BildLaden g\\b1", "CountDown off", "BildLaden g\\c1",
+                                "CountDown off", "CountDown 2000", "CountDown on", "BildLaden g\\c2",
                                 "CountDown on", "ZeigerAuffrischen", "CountDown on", "ZeigerAuffrischen"}));
     EXPECT_EQ(z.RaumDatei, "c.lsd");
     EXPECT_FALSE(z.SkriptLäuft);
@@ -168,31 +172,92 @@ TEST_F(Runs, ShorterScriptsMayTakeThePlaceOfAWaitingOne) {
     EXPECT_EQ(raum.notes.back(), "ZeigerAuffrischen");
 }
 
-TEST_F(Runs, RoomsThatLeadToEachOtherAreStopped) {
+TEST_F(Runs, RoomsThatLeadToEachOtherWithoutAWaitAreStopped) {
     raumdatei("hin.lsd", "0,4,\"her.lsd\"");
     raumdatei("her.lsd", "0,4,\"hin.lsd\"");
     betreteRäume();
-    try {
-        führeAus({{"Raumwechsel", "hin.lsd"}});
-        FAIL();
-    } catch (const DataError& error) {
-        EXPECT_NE(error.message().find("her.lsd"), Text::npos) << error.message();
-        EXPECT_NE(error.message().find(std::to_string(TiefsterLauf)), Text::npos);
-    }
+    EXPECT_THROW(führeAus({{"Raumwechsel", "hin.lsd"}}), Ausweglos);
     // Behind the failure everything is as before a run.
     EXPECT_EQ(platform.queue.reasons(), "");
     EXPECT_EQ(notizen({{"ZeigBild", "x"}}).back(), "BildLaden g\\x");
 }
 
-TEST_F(Runs, AChainOfRoomsMayBeAsDeepAsTheBound) {
-    int betreten = 0;
-    raum.onLade = [&](TextView) {
-        ++betreten;
-        const Skript weiter = test::skript({{"Raumwechsel", "x"}});
-        interpreter.SkriptAusführen(betreten < TiefsterLauf - 1 ? weiter : Skript{}, -1, "");
+// A hub: text, room, text, room, as long as the player likes.
+TEST_F(Runs, RoomsThatFollowEachOtherDoNotStandInsideEachOther) {
+    raumdatei("hin.lsd", "4,0,\"ENDE\",9,,2,\"x\",4,\"her.lsd\",10,");
+    raumdatei("her.lsd", "4,0,\"ENDE\",9,,2,\"x\",4,\"hin.lsd\",10,");
+    betreteRäume();
+    std::vector<std::size_t> stapel;
+    raum.onZeigText = [&](TextView) {
+        stapel.push_back(stackLeft());
+        if (stapel.size() == 3000) MerkerSetzen(z, "ENDE");
+        nach(10, [this] { z.TastenCode = 65; });
     };
-    führeAus({{"Raumwechsel", "x"}});
-    EXPECT_EQ(betreten, TiefsterLauf - 1);
+    führeAus({{"Raumwechsel", "hin.lsd"}});
+    EXPECT_EQ(stapel.size(), 3000U);
+    EXPECT_EQ(stapel.front(), stapel.back());
+}
+
+TEST_F(Runs, RunsNestAsDeepAsTheStackGoesAndThenStop) {
+    int tiefe = 0;
+    raum.onZeigText = [&](TextView) {
+        ++tiefe;
+        führeAus({{"Text", "x"}});
+    };
+    EXPECT_THROW(führeAus({{"Text", "x"}}), Ausweglos);
+    EXPECT_GT(tiefe, 1000);
+    EXPECT_EQ(platform.queue.reasons(), "");
+    EXPECT_TRUE(interpreter.PlatzFürLauf());
+}
+
+// A command that finds nothing to work with is told of once, with its place, and left out.
+TEST_F(Runs, WhatIsMissingIsToldOfAndLeftOut) {
+    z.RaumDatei = "Keller.lsd";
+    raum.onLade = [](TextView) { throw DataError("Der Raum fehlt."); };
+    backend.key(key::enter);
+    EXPECT_EQ(weg({{"ZeigBild", "1"}, {"Raumwechsel", "weg.lsd"}, {"ZeigBild", "2"}}), "1");
+    EXPECT_FALSE(z.SkriptLäuft) << "the run has ended with its closing steps";
+    EXPECT_EQ(weg({{"ZeigBild", "1"}, {"Raumwechsel", "weg.lsd"}}), "1");
+    ASSERT_EQ(backend.boxes.size(), 1U);
+    EXPECT_EQ(backend.boxes[0].text, "Der Raum fehlt.\r\n\r\nRaum Keller.lsd, Skript, Befehl 2: Raumwechsel");
+
+    spiele["PONG"] = [] { throw DataError("Der Ball fehlt."); };
+    MerkerSetzen(z, "SIEG");
+    backend.key(key::enter);
+    EXPECT_EQ(weg({{"Spiel", "PONG,SIEG"}, {"ZeigBild", "2"}}), "2");
+    EXPECT_FALSE(MerkerGesetzt(z, "SIEG")) << "a game that can't be played is lost";
+}
+
+TEST_F(Runs, AWindowStandsOnceAtMost) {
+    int fenster = 0;
+    spiele["PONG"] = [&] {
+        ++fenster;
+        z.Übergabe = true;
+        MerkerSetzen(z, "INNEN");
+        führeAus({{"Spiel", "PONG,INNEN,5"}});  // as a tick would
+    };
+    führeAus({{"Spiel", "PONG,AUSSEN"}, {"Spiel", "PONG,AUSSEN"}});
+    EXPECT_EQ(fenster, 2) << "one behind the other";
+    EXPECT_TRUE(MerkerGesetzt(z, "AUSSEN"));
+    EXPECT_FALSE(MerkerGesetzt(z, "INNEN"));
+}
+
+TEST_F(Runs, AFilmGoesOnWhileATicksRunWaits) {
+    sound.videoEnd = 2000;
+    int bilder = 0;
+    int währendText = 0;
+    raum.onFilmBild = [&] { ++bilder; };
+    raum.onZeigText = [&](TextView) {
+        währendText = -bilder;
+        nach(500, [this] { z.TastenCode = 65; });
+    };
+    raum.onWegText = [&] { währendText += bilder; };
+    Timer tick(platform.queue, 300, true, [&] {
+        tick.setEnabled(false);
+        führeAus({{"Text", "Tick"}});
+    });
+    führeAus({{"Film", "f"}});
+    EXPECT_GE(währendText, 25);
 }
 
 TEST_F(Runs, TheEndOfTheProgramLeavesEveryWait) {

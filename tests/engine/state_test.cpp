@@ -159,6 +159,17 @@ TEST_F(Warten, TimersRunMeanwhile) {
     EXPECT_EQ(ticks, 3);
 }
 
+// The mark is shared: one that returns inside another one's wait moves that one's end.
+TEST_F(Warten, OneInsideAnotherMovesItsEnd) {
+    Timer tick(platform.queue, 30, true, [&] {
+        tick.setEnabled(false);
+        WarteFrame(z, platform, 50);
+        EXPECT_EQ(backend.now, 50);
+    });
+    WarteFrame(z, platform, 100);
+    EXPECT_EQ(backend.now, 150);
+}
+
 TEST_F(Warten, EndsWhenItIsToldSo) {
     bool closed = false;
     const Timer timer(platform.queue, 30, true, [&] { closed = true; });

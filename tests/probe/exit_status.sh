@@ -35,8 +35,12 @@ expect 1 'expected room Nie.lsd, found that there is none' $'until idle\ngo Nie.
 expect 1 'longer than --timeout' $'until idle\nwait 2000000000' --args Ziehen.lsd --timeout 1
 expect 2 '^-:1: expected the name of a window, found Fenster' 'expect not window Fenster'
 # A story that stops with a failure box: a fault of the story, but for a walk that looks for the box.
-expect 1 'fehlt.bmp' $'wait 50\nkey enter\nuntil ended' --args Fehler_bild.lsd
+expect 1 'ohne Ende' $'wait 50\nkey enter\nuntil window Menu' --args Fehler_kreis.lsd
+expect 1 'ohne Ende' 'wait 50' --args Fehler_kreis.lsd
+expect 0 nothing $'until window MsgBox\nkey enter\nuntil window Menu' --args Fehler_kreis.lsd
+# So is data that is missing, though the game goes on without it.
+expect 1 'fehlt.bmp' $'wait 50\nkey enter\nuntil idle' --args Fehler_bild.lsd
 expect 1 'fehlt.bmp' 'wait 50' --args Fehler_bild.lsd
-expect 0 nothing $'until window MsgBox\nkey enter\nuntil ended' --args Fehler_bild.lsd
+expect 0 nothing $'until window MsgBox\nkey enter\nuntil idle' --args Fehler_bild.lsd
 expect 2 '^-:1: expected ' 'walk on'
 exit $status

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <iterator>
 #include <sstream>
+#include <utility>
 
 #include "main/spiel.h"
 #include "platform/codec/zip.h"
@@ -64,7 +65,8 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     const int status = Spielen(platform, zustand, arguments, options.ran.empty() ? nullptr : &ran);
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);
-    return status;
+    // Data that is missing is a fault of the story, though the game goes on without it.
+    return status == 0 && !zustand.GemeldeteMängel.empty() ? failed : status;
 }
 
 // A directory that goes with the process, for the saved games of a packed story.
@@ -104,6 +106,13 @@ void tellWhatRan(const Options& options, const probe::Ran& ran) {
     }
 }
 
+// A story that has ended with a box which the walk did not look for has failed.
+void needNoFailure(int status, const probe::ProbeBackend& backend, const probe::Player& player) {
+    if (status == 0 || backend.lastBox() == nullptr || backend.boxExpected) return;
+    throw probe::WalkFailure{player.place() + ": expected the story to go on, found the failure \"" +
+                             probe::onOneLine(backend.lastBox()->text) + '"'};
+}
+
 int play(const Options& options) {
     probe::Walk walk = probe::parseWalk(options.walk, readWalk(options.walk));
     fs::create_directories(options.pictures);
@@ -117,12 +126,12 @@ int play(const Options& options) {
     const Files files = filesOf(options, scratch);
     int result = 0;
     try {
-        int status = live(options, files, backend, player, ran, fromUtf8(options.arguments));
-        while (backend.restartWanted() && !player.over()) status = live(options, files, backend, player, ran, {});
+        Text arguments = fromUtf8(options.arguments);
+        do {
+            const int status = live(options, files, backend, player, ran, std::exchange(arguments, {}));
+            needNoFailure(status, backend, player);
+        } while (backend.restartWanted() && !player.over());
         backend.trace("end");
-        if (status != 0 && backend.lastBox() != nullptr && !backend.boxExpected)
-            throw probe::WalkFailure{player.place() + ": expected the story to go on, found the failure \"" +
-                                     probe::onOneLine(backend.lastBox()->text) + '"'};
         player.finish();
     } catch (const probe::WalkFailure& failure) {
         std::cout.flush();

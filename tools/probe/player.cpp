@@ -100,6 +100,10 @@ bool Player::ready() {
     return true;
 }
 
+void Player::stuck() {
+    fail("the script to wait or to end", "that it runs in a loop without a wait; " + seen());
+}
+
 std::optional<Milliseconds> Player::due() {
     if (steps_.empty() || !somethingShown()) return std::nullopt;
     const Step& step = steps_.front();

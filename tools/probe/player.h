@@ -80,6 +80,7 @@ public:
     std::optional<Input> next() override;
     bool ready() override;
     std::optional<Milliseconds> due() override;
+    void stuck() override;
 
     // --- the commands, each called when its turn has come
     void wait(const Command& command);

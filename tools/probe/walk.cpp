@@ -174,11 +174,12 @@ int keyCode(const std::string& name) {
         int code;
     };
     static constexpr std::array keys{
-        Named{"space", key::space}, Named{"enter", key::enter},   Named{"escape", key::escape},
-        Named{"tab", key::tab},     Named{"home", key::home},     Named{"backspace", key::backspace},
-        Named{"delete", key::del},  Named{"end", key::end},       Named{"up", key::up},
-        Named{"down", key::down},   Named{"left", key::left},     Named{"right", key::right},
-        Named{"comma", key::comma}, Named{"period", key::period},
+        Named{"space", key::space},     Named{"enter", key::enter},   Named{"escape", key::escape},
+        Named{"tab", key::tab},         Named{"home", key::home},     Named{"backspace", key::backspace},
+        Named{"delete", key::del},      Named{"end", key::end},       Named{"up", key::up},
+        Named{"down", key::down},       Named{"left", key::left},     Named{"right", key::right},
+        Named{"comma", key::comma},     Named{"period", key::period}, Named{"shift", key::shift},
+        Named{"control", key::control}, Named{"alt", key::alt},
     };
     if (name.size() == 1 && name[0] >= 'a' && name[0] <= 'z') return name[0] - 'a' + 'A';
     if (name.size() == 1 && name[0] >= '0' && name[0] <= '9') return name[0];
