@@ -42,11 +42,13 @@ Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spielta
       Picture1(platform.fonts, &Frame1, {{0, 0}, ansicht}, gelb),
       Picture2(platform.fonts, {1, 1}),
       Picture3(platform.fonts, saubereAnsicht),
-      Picture4(platform.fonts, {ansicht.w, 1}),
       Picture5(platform.fonts, anfangPicture5.size(), blau),
-      Timer1(platform.queue, zeigerTakt, true, [this] { Timer1_Timer(); }),
+      Timer1(platform.queue, zeigerTakt, true, [this] { zeiger_.Takt(); }),
       RM(platform.queue, musikTakt, false, [this] { medien_.SongPrüfen(); }),
-      CountDown(platform.queue, 0, false, [this] { CountDown_Timer(); }) {
+      CountDown(platform.queue, 0, false, [this] { CountDown_Timer(); }),
+      zeiger_(*this, platform, zustand),
+      leiste_(platform, zustand, Picture1, Picture3, Picture5),
+      aufschub_(zustand) {
     minimum = kleinstes;
     Hintergrund.name = "Hintergrund";
     Picture1.name = "Picture1";
@@ -125,7 +127,7 @@ std::optional<Text> Form1::betreten(Raum raum, TextView Name) {
     CountDown.setEnabled(false);
     CountDown.setPeriod(0);
     CountDown.setEnabled(true);
-    ++besuch_;
+    aufschub_.RaumBetreten();
     z_.RaumDatei = Dateiname(Name);
     const Queue::Reason grund(platform_.queue, "Lade " + z_.RaumDatei);
     z_.AktuellerRaum = std::move(raum);
@@ -196,7 +198,7 @@ void Form1::Form_KeyDown(int code) {
     z_.TastenCode = static_cast<std::int16_t>(code);
     if (z_.SkriptLäuft) return;
     const bool lädtSkript = code == key::f1 || code == key::f2;
-    if (lädtSkript && aufschieben([this, code] { Form_KeyDown(code); })) return;
+    if (lädtSkript && aufschub_.Halten([this, code] { Form_KeyDown(code); })) return;
     if (code == key::f2 || code == key::f1) {
         z_.SkriptLäuft = true;
         if (code == key::f2) SpielSpeichern();
@@ -211,7 +213,7 @@ void Form1::Form_KeyDown(int code) {
         } else {
             VersteckeLeiste();
         }
-        nachholen();
+        aufschub_.Nachholen();
     }
 }
 
@@ -224,25 +226,8 @@ void Form1::onHeldLost() {
 
 // Ticks whose runs all wait inside each other are left out before the stack is full.
 void Form1::CountDown_Timer() {
-    if (aufschieben([this] { CountDown_Timer(); }, true) || !interpreter_.PlatzFürLauf()) return;
+    if (aufschub_.Halten([this] { CountDown_Timer(); }, true) || !interpreter_.PlatzFürLauf()) return;
     interpreter_.SkriptAusführen(z_.AktuellerRaum.CountDownSkript, -1, "");
-}
-
-bool Form1::aufschieben(std::function<void()> nachher, bool tick) {
-    if (!z_.LeisteBewegt || z_.SkriptLäuft) return false;
-    // A timer that could not fire in time fires once.
-    const auto schonTick = [](const Aufgeschoben& a) { return a.tick; };
-    if (tick && std::any_of(aufgeschoben_.begin(), aufgeschoben_.end(), schonTick)) return true;
-    aufgeschoben_.push_back({besuch_, tick, std::move(nachher)});
-    return true;
-}
-
-void Form1::nachholen() {
-    while (!aufgeschoben_.empty() && !z_.LeisteBewegt) {
-        const Aufgeschoben eines = std::move(aufgeschoben_.front());
-        aufgeschoben_.pop_front();
-        if (eines.besuch == besuch_) eines.tun();
-    }
 }
 
 void Form1::Form_QueryUnload(int status) {

@@ -2,9 +2,6 @@
 // of the room view and the keyboard, and it opens the first room. All that follows is an answer to an event.
 #pragma once
 
-#include <deque>
-#include <functional>
-#include <map>
 #include <optional>
 #include <set>
 #include <vector>
@@ -14,6 +11,9 @@
 #include "platform/platform.h"
 #include "platform/values/error.h"
 #include "platform/window/surface.h"
+#include "room/aufschub.h"
+#include "room/leiste.h"
+#include "room/zeiger.h"
 
 namespace zentrox {
 
@@ -43,13 +43,13 @@ public:
     void Portrait(bool links, TextView Bild) override;
     void FilmBild() override;
     void FilmEnde() override;
-    void GegenständeLaden() override;
-    void ZeigeLeiste();
-    void VersteckeLeiste() override;
+    void GegenständeLaden() override { leiste_.GegenständeLaden(); }
+    void ZeigeLeiste() { leiste_.Zeige(); }
+    void VersteckeLeiste() override { leiste_.Verstecke(); }
     void ZeigerAuffrischen() override;
-    void ZeigerLaden(TextView Pfad) override;
-    void ZeigerEigen() override;
-    void ZeigerStandard() override;
+    void ZeigerLaden(TextView Pfad) override { zeiger_.Laden(Pfad); }
+    void ZeigerEigen() override { zeiger_.Eigen(); }
+    void ZeigerStandard() override { zeiger_.Standard(); }
     void CountDownAn(bool an) override { CountDown.setEnabled(an); }
     void CountDownPeriode(std::int64_t ms) override { CountDown.setPeriod(ms); }
     std::int64_t CountDownPeriode() const override { return CountDown.period(); }
@@ -78,7 +78,6 @@ private:
     void Form_KeyDown(int code);
     [[noreturn]] void Form_QueryUnload(int status = 0);
     void CountDown_Timer();
-    void Timer1_Timer();
     void Hintergrund_MouseMove();
     void Picture1_MouseDown(Button Taste, float X, float Y);
     void Picture1_MouseMove(float X, float Y);
@@ -89,14 +88,7 @@ private:
     void ThrowError(TextView Message);
     Text ersterRaum() const;
 
-    // --- pointer
-    enum class Zeigerart { pfeil, frage, eigen };
-    Zeigerart zeigerart() const;
-    void zeigerFrage();
-    // What shows over nothing: the held item, or the arrow.
-    void zeigerÜberNichts();
-    void zeigerHeiß();
-    void zeigerFürObjekt(const RaumObjekt& objekt);
+    // --- the mouse
     void bewegtInLeiste(int X, int Y);
     void bewegtImRaum(int X, int Y);
     void bewegtInAuswahl(float Y);
@@ -108,27 +100,6 @@ private:
     void losImRaum(int X, int Y);
     // What a release in the room does later acts with the item that was held then.
     void losImRaumNachher(int taste, int X, int Y, const Text& gehalten);
-    bool inLeiste(int Y) const;
-    int leisteOben() const { return Picture1.height() - z_.LeisteHöhe; }
-    // The slot of `Inventar` under a point of the bar, -1 for an empty cell.
-    int slotBei(int X, int Y) const;
-    Text gegenstandName(int slot) const;
-    Text cursor(TextView datei) const { return z_.PfadCursors + Text(datei); }
-
-    // --- bar
-    float leisteVolleHöhe() const;
-    void leisteStrich();
-    void gegenstandZeichnen(int slot);
-
-    // An event that would start a script while the bar slides waits until the slide is done: each with the state
-    // that it had, in the order in which they came. They fall with the room that they were meant for.
-    struct Aufgeschoben {
-        std::uint64_t besuch;
-        bool tick;
-        std::function<void()> tun;
-    };
-    bool aufschieben(std::function<void()> nachher, bool tick = false);
-    void nachholen();
 
     // --- transitions
     struct Region {
@@ -152,19 +123,15 @@ private:
     Surface Picture1;
     Surface Picture2;
     Surface Picture3;
-    Surface Picture4;
     Surface Picture5;
     Timer Timer1;
     Timer RM;
     Timer CountDown;
 
     int AuswahlZeile = -1;
-    float LeisteVoll = 0;
-
-    Text eigenerZeiger_;                   // the icon loaded last, full path
-    std::map<Text, bool> geprüfteZeiger_;  // whether an icon can be used
-    std::deque<Aufgeschoben> aufgeschoben_;
-    std::uint64_t besuch_ = 0;      // counts the rooms that were entered
+    Zeiger zeiger_;
+    Leiste leiste_;
+    Aufschub aufschub_;
     bool druckVorLeiste_ = false;   // the button went down before the bar stood
     std::set<int> umschalter_;      // the modifier keys that are held
     int alleiniger_ = 0;            // of these the one that no other key has joined

@@ -39,14 +39,14 @@ struct Stand {
 // A game whose room is missing or damaged leaves everything as it is.
 bool Form1::SpielLaden() {
     Stand vorher(z_);
-    const auto besuch = besuch_;
+    const auto besuch = aufschub_.Besuch();
     const Milliseconds periode = CountDown.period();
     try {
         return zentrox::SpielLaden(platform_, z_, *this);
     } catch (const Ausweglos&) {
         throw;
     } catch (const DataError& fehler) {
-        if (besuch != besuch_) throw;
+        if (besuch != aufschub_.Besuch()) throw;
         vorher.zurück(z_);
         GegenständeLaden();
         CountDown.setPeriod(periode);
