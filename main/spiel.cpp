@@ -52,7 +52,7 @@ int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beo
 }
 
 // A CD that the story brings along gives way to all others, since the last one found counts.
-void titelÜbernehmen(Platform& platform, Zustand& zustand) {
+void takeTitle(Platform& platform, Zustand& zustand) {
     zustand.Titel = TitelLesen(platform.files);
     const Text& cd = zustand.Titel.CD;
     if (!cd.empty())
@@ -64,7 +64,7 @@ void titelÜbernehmen(Platform& platform, Zustand& zustand) {
 
 int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
     try {
-        titelÜbernehmen(platform, zustand);
+        takeTitle(platform, zustand);
         return fenster(platform, zustand, kommandozeile, beobachter);
     } catch (const DataError& error) {
         try {

@@ -63,43 +63,43 @@ TEST_F(Commands, ItemsComeAndGo) {
             {{"NimmGegenstand", "x\\ball.bmp"}, {"NimmGegenstand", "Seil.bmp"}, {"NimmGegenstand", "ball.bmp"}}),
         Notizen(3, "GegenstaendeLaden"));
     EXPECT_EQ(inventar(), (Notizen{"i\\ball.bmp", "i\\Seil.bmp", "i\\ball.bmp"}));
-    führeAus({{"GibGegenstand", "y\\BALL.bmp"}});
+    execute({{"GibGegenstand", "y\\BALL.bmp"}});
     EXPECT_EQ(inventar(), (Notizen{"i\\ball.bmp", "i\\Seil.bmp"})) << "of two equal ones the last one goes";
     EXPECT_EQ(z.Inventar[2], "");
     raum.notes.clear();
     EXPECT_EQ(notizen({{"GibGegenstand", "hut.bmp"}}), Notizen{"GegenstaendeLaden"});
-    führeAus({{"GibGegenstand", "ball.bmp"}});
+    execute({{"GibGegenstand", "ball.bmp"}});
     EXPECT_EQ(inventar(), Notizen{"i\\Seil.bmp"});
     EXPECT_EQ(z.Inventar[1], "");
-    führeAus({{"GibGegenstand", "seil.BMP"}, {"GibGegenstand", "seil.BMP"}});
+    execute({{"GibGegenstand", "seil.BMP"}, {"GibGegenstand", "seil.BMP"}});
     EXPECT_EQ(z.InventarLetzter, -1);
 }
 
 TEST_F(Commands, TheInventoryIsFullAt51) {
-    for (int i = 0; i < 60; ++i) führeAus({{"NimmGegenstand", "g" + std::to_string(i)}});
+    for (int i = 0; i < 60; ++i) execute({{"NimmGegenstand", "g" + std::to_string(i)}});
     EXPECT_EQ(z.InventarLetzter, 50);
     EXPECT_EQ(z.Inventar[50], "i\\g50");
-    führeAus({{"GibGegenstand", "g50"}});
+    execute({{"GibGegenstand", "g50"}});
     EXPECT_EQ(z.InventarLetzter, 49);
 }
 
 TEST_F(Commands, ObjectsAreFoundByTheirNames) {
     objekte({"Tür"_t, " TÜR "_t, "Fenster", "tür"_t});
-    führeAus({{"ObjektAn", "tür"_t}});
+    execute({{"ObjektAn", "tür"_t}});
     const auto aktive = [&] {
         Text alle;
         for (const RaumObjekt& o : z.AktuellerRaum.Objekte) alle += o.Aktiv ? '1' : '0';
         return alle;
     };
     EXPECT_EQ(aktive(), "1001") << "blanks count";
-    führeAus({{"ObjektAn", " tür "_t}, {"ObjektAus", "TÜR"_t}, {"ObjektAn", "Tor"}});
+    execute({{"ObjektAn", " tür "_t}, {"ObjektAus", "TÜR"_t}, {"ObjektAn", "Tor"}});
     EXPECT_EQ(aktive(), "0100");
 
-    führeAus({{"SetzeZeiger", " Tür ,cursors\\ hand.ico "_t}, {"SetzeZeiger", "Keller,x.ico"}});
+    execute({{"SetzeZeiger", " Tür ,cursors\\ hand.ico "_t}, {"SetzeZeiger", "Keller,x.ico"}});
     Text zeiger;
     for (const RaumObjekt& o : z.AktuellerRaum.Objekte) zeiger += o.Zeiger + ";";
     EXPECT_EQ(zeiger, "hand.ico;hand.ico;;hand.ico;") << "blanks do not count here";
-    führeAus({{"SetzeZeiger", "Tür"_t}});
+    execute({{"SetzeZeiger", "Tür"_t}});
     EXPECT_EQ(z.AktuellerRaum.Objekte[0].Zeiger, "");
 }
 
@@ -113,16 +113,16 @@ TEST_F(Commands, TheEvilCounterKeepsItsFlag) {
          {Schritt{"1", 1, true}, Schritt{"1", 2, true}, Schritt{"-2", 0, false}, Schritt{"0.4", 0, false},
           Schritt{"1.5", 2, true}, Schritt{"0.5", 2, true}, Schritt{" -5", -3, false}, Schritt{"viel", -3, false},
           Schritt{"1e30", 2147483647, true}}) {
-        führeAus({{"BöseÄndern"_t, s.argument}});
+        execute({{"BöseÄndern"_t, s.argument}});
         EXPECT_EQ(z.BösePunkte, s.punkte) << s.argument;
         EXPECT_EQ(MerkerGesetzt(z, "BÖSE"_t), s.merker) << s.argument;
     }
     z.BösePunkte = 1;
-    führeAus({{"LöscheMerker"_t, "böse"_t}, {"BöseÄndern"_t, "1"}});
+    execute({{"LöscheMerker"_t, "böse"_t}, {"BöseÄndern"_t, "1"}});
     EXPECT_EQ(z.BösePunkte, 2);
     EXPECT_FALSE(MerkerGesetzt(z, "BÖSE"_t)) << "only a crossing sets the flag again";
     z.BösePunkte = 0;
-    führeAus({{"SetzeMerker", "böse"_t}, {"BöseÄndern"_t, "-1"}});
+    execute({{"SetzeMerker", "böse"_t}, {"BöseÄndern"_t, "-1"}});
     EXPECT_TRUE(MerkerGesetzt(z, "BÖSE"_t)) << "and only a crossing clears it";
 }
 
@@ -133,7 +133,7 @@ TEST_F(Commands, TheCountDownHasAPeriodInSeconds) {
     };
     for (const Schritt& s : {Schritt{"10", 10'000}, Schritt{"1.5", 1500}, Schritt{"0.0125", 12}, Schritt{"", 0},
                              Schritt{"-3", 0}, Schritt{"9999999", 2147483647}}) {
-        führeAus({{"CountDownSetzen", s.argument}});
+        execute({{"CountDownSetzen", s.argument}});
         EXPECT_EQ(raum.countDown, s.ms) << s.argument;
         EXPECT_TRUE(raum.countDownOn);
     }
@@ -154,7 +154,7 @@ TEST_F(Commands, PictureCommandsHandOnTheirFields) {
 TEST_F(Commands, AVoiceIsFoundInEitherFormat) {
     directory.write("sounds/ja.mp3", "");
     directory.write("sounds/nein.wav", "");
-    führeAus({{"Ton", "x\\ja.wav"}, {"Ton", "ja.mp3"}, {"Ton", "nein.mp3"}, {"Ton", "fehlt.mp3"}});
+    execute({{"Ton", "x\\ja.wav"}, {"Ton", "ja.mp3"}, {"Ton", "nein.mp3"}, {"Ton", "fehlt.mp3"}});
     EXPECT_EQ(sound.notes,
               (Notizen{"voice " + sounds("ja.mp3"), "voice off", "voice " + sounds("ja.mp3"), "voice off",
                        "voice " + sounds("nein.wav"), "voice off", "voice " + sounds("fehlt.wav")}));
@@ -162,38 +162,38 @@ TEST_F(Commands, AVoiceIsFoundInEitherFormat) {
 }
 
 TEST_F(Commands, ARefusalIsOneOfNineRemarks) {
-    std::set<Text> gehört;
-    for (int i = 0; i < 300; ++i) führeAus({{"Fehlerton"}});
+    std::set<Text> heard;
+    for (int i = 0; i < 300; ++i) execute({{"Fehlerton"}});
     for (const Text& note : sound.notes)
-        if (note != "voice off") gehört.insert(note.substr(note.rfind('\\') + 1));
-    EXPECT_EQ(gehört, (std::set<Text>{"Error10.mp3", "Error11.mp3", "Error12.mp3", "Error13.mp3", "Error14.mp3",
-                                      "Error15.mp3", "Error16.mp3", "Error17.mp3", "Error18.mp3"}));
+        if (note != "voice off") heard.insert(note.substr(note.rfind('\\') + 1));
+    EXPECT_EQ(heard, (std::set<Text>{"Error10.mp3", "Error11.mp3", "Error12.mp3", "Error13.mp3", "Error14.mp3",
+                                     "Error15.mp3", "Error16.mp3", "Error17.mp3", "Error18.mp3"}));
 }
 
 TEST_F(Commands, MusicStartsAndStops) {
     directory.write("musics/schule.mid", "");
-    führeAus({{"Musik", " m\\schule.mid ,1"}});
+    execute({{"Musik", " m\\schule.mid ,1"}});
     EXPECT_EQ(sound.song, z.PfadMusics + "schule.mid");
-    führeAus({{"Musik", " ,schule.mid"}});
+    execute({{"Musik", " ,schule.mid"}});
     EXPECT_EQ(sound.song, "");
-    führeAus({{"Musik", "schule.mid"}, {"Musik", "fehlt.mid"}});
+    execute({{"Musik", "schule.mid"}, {"Musik", "fehlt.mid"}});
     EXPECT_EQ(sound.song, "");
 }
 
 TEST_F(Commands, ATextWaitsForAPressAndCutsTheVoiceOff) {
     z.TastenCode = key::space;  // held since before
     z.MausTaste = 2;
-    std::int64_t gedrückt = 0;
+    std::int64_t pressedAt = 0;
     raum.onZeigText = [&](TextView) {
         z.TastenCode = 65;  // while the text opens
         nach(700, [&] {
-            gedrückt = backend.now;
+            pressedAt = backend.now;
             z.MausTaste = 1;
         });
     };
     EXPECT_EQ(notizen({{"Ton", "a.mp3"}, {"Text", " Hallo, du#da "}, {"ZeigBild", "danach"}}),
               (Notizen{"ZeigText  Hallo, du#da ", "WegText  Hallo, du#da ", "BildLaden g\\danach"}));
-    EXPECT_EQ(gedrückt, 700);
+    EXPECT_EQ(pressedAt, 700);
     EXPECT_EQ(backend.now, 700);
     EXPECT_EQ(sound.notes.back(), "voice off");
     EXPECT_EQ(z.Stimme, 0U);
@@ -201,7 +201,7 @@ TEST_F(Commands, ATextWaitsForAPressAndCutsTheVoiceOff) {
 
 TEST_F(Commands, AFilmPlaysToItsEndOrUntilEscape) {
     sound.videoEnd = 1000;
-    führeAus({{"Film", "x\\intro.mpg"}});
+    execute({{"Film", "x\\intro.mpg"}});
     EXPECT_EQ(sound.notes, (Notizen{"video mo\\intro.mpg", "video off"}));
     EXPECT_GE(backend.now, 1000);
     EXPECT_LT(backend.now, 1000 + 17);
@@ -211,15 +211,15 @@ TEST_F(Commands, AFilmPlaysToItsEndOrUntilEscape) {
     nach(100, [this] { z.MausTaste = 2; });
     nach(100, [this] { z.TastenCode = 65; });
     nach(100, [this] { z.TastenCode = key::escape; });
-    führeAus({{"Film", "intro.mpg"}});
+    execute({{"Film", "intro.mpg"}});
     EXPECT_GE(backend.now - beginn, 300);
     EXPECT_LT(backend.now - beginn, 300 + 33);
 
     z.TastenCode = 0;
     sound.videoEnd = 0;  // a video that can't be played
-    const std::int64_t ohne = backend.now;
-    führeAus({{"Film", "fehlt.mpg"}});
-    EXPECT_LT(backend.now - ohne, 17);
+    const std::int64_t without = backend.now;
+    execute({{"Film", "fehlt.mpg"}});
+    EXPECT_LT(backend.now - without, 17);
 }
 
 TEST_F(Commands, AChoiceMeasuresItsLines) {
@@ -275,7 +275,7 @@ TEST_F(Commands, AChoiceOfTooManyOptionsIsAnError) {
         EXPECT_EQ(text, "Ja?\r\n\r\n\r\n");
         nach(50, [this] { z.AuswahlErgebnis = 1; });
     };
-    führeAus({{"Auswahl", "-5|Ja?|Ja"}});
+    execute({{"Auswahl", "-5|Ja?|Ja"}});
     EXPECT_EQ(z.AuswahlTexte.size(), 1U);
 }
 
@@ -288,11 +288,11 @@ TEST_F(Commands, AGameSetsOrClearsItsFlag) {
     };
     spiele["JUMP"] = [] {};  // leaves no outcome
     ergebnis = true;
-    führeAus({{"Spiel", " pong , sieg , zaubertrank "}});
+    execute({{"Spiel", " pong , sieg , zaubertrank "}});
     EXPECT_EQ(gelesen, "ZAUBERTRANK");
     EXPECT_TRUE(MerkerGesetzt(z, "SIEG"));
     ergebnis = false;
-    führeAus({{"Spiel", "Pong,Sieg"}});
+    execute({{"Spiel", "Pong,Sieg"}});
     EXPECT_EQ(gelesen, "");
     EXPECT_FALSE(MerkerGesetzt(z, "SIEG")) << "a lost game takes back an earlier win";
 
@@ -305,7 +305,7 @@ TEST_F(Commands, AGameSetsOrClearsItsFlag) {
           Case{"JUMP,M,1x", false}, Case{"JUMP,M", false}, Case{"SCHACH,M,1", false}, Case{"", false}}) {
         MerkerSetzen(z, "M");
         if (c.sieg) MerkerLöschen(z, "M");
-        führeAus({{"Spiel", c.argument}});
+        execute({{"Spiel", c.argument}});
         EXPECT_EQ(MerkerGesetzt(z, "M"), c.sieg || c.argument.empty()) << c.argument;
     }
 }
@@ -314,13 +314,13 @@ TEST_F(Commands, MemoryIsPlayedUntilItIsDecided) {
     std::vector<TextView> ergebnisse{"U", "U", "W", "L", "U", "L"};
     std::size_t spiel = 0;
     spiele["MEMORY"] = [&] { z.Übergabe = Text(ergebnisse.at(spiel++)); };
-    führeAus({{"Spiel", "Memory,M"}});
+    execute({{"Spiel", "Memory,M"}});
     EXPECT_EQ(spiel, 3U);
     EXPECT_TRUE(MerkerGesetzt(z, "M"));
-    führeAus({{"Spiel", "Memory,M"}});
+    execute({{"Spiel", "Memory,M"}});
     EXPECT_EQ(spiel, 4U);
     EXPECT_FALSE(MerkerGesetzt(z, "M"));
-    führeAus({{"Spiel", "Memory,M"}});
+    execute({{"Spiel", "Memory,M"}});
     EXPECT_EQ(spiel, 6U);
 }
 
@@ -328,7 +328,7 @@ TEST_F(Commands, SystemKnowsThreeWords) {
     EXPECT_EQ(notizen({{"System", "Save"}, {"System", "Abspann"}, {"System", "Open"}, {"ZeigBild", "x"}}),
               (Notizen{"SpielSpeichern", "Abspann", "SpielLaden", "BildLaden g\\x"}));
     for (const char* wort : {"open", " Open", "Ende", ""}) {
-        EXPECT_THROW(führeAus({{"System", wort}, {"ZeigBild", "x"}}), ProgramEnd) << wort;
+        EXPECT_THROW(execute({{"System", wort}, {"ZeigBild", "x"}}), ProgramEnd) << wort;
         EXPECT_EQ(raum.commandNotes(), Notizen{"Entladen"});
     }
 }

@@ -13,17 +13,17 @@
 
 namespace zentrox::test {
 
-struct Zeile {
+struct Line {
     TextView befehl;
     TextView argument = {};
 };
 
-inline Skript skript(const std::vector<Zeile>& zeilen) {
+inline Skript skript(const std::vector<Line>& lines) {
     Skript s;
-    for (const Zeile& zeile : zeilen) {
-        const Opcode* const row = findOpcode(zeile.befehl);
-        s.Befehl.push_back(row != nullptr ? row->number : std::stoi(Text(zeile.befehl)));
-        s.Argument.emplace_back(zeile.argument);
+    for (const Line& line : lines) {
+        const Opcode* const row = findOpcode(line.befehl);
+        s.Befehl.push_back(row != nullptr ? row->number : std::stoi(Text(line.befehl)));
+        s.Argument.emplace_back(line.argument);
     }
     s.Letzter = static_cast<std::int32_t>(s.Befehl.size()) - 1;
     return s;
@@ -53,7 +53,7 @@ protected:
         z.PfadMusics = root + "musics\\";
     }
     // Any key, pressed a moment after each text has opened.
-    void drückeBeiText() {
+    void pressAtText() {
         raum.onZeigText = [this](TextView) { nach(50, [this] { z.TastenCode = 65; }); };
     }
     // Lets something happen while the script waits.
@@ -61,18 +61,18 @@ protected:
         backend.wait(ms);
         backend.then(std::move(was));
     }
-    void führeAus(const std::vector<Zeile>& zeilen, Text parameter = {}) {
-        interpreter.SkriptAusführen(skript(zeilen), -1, std::move(parameter));
+    void execute(const std::vector<Line>& lines, Text parameter = {}) {
+        interpreter.SkriptAusführen(skript(lines), -1, std::move(parameter));
     }
     // What a script's commands have asked of the room window.
-    std::vector<Text> notizen(const std::vector<Zeile>& zeilen, Text parameter = {}) {
-        führeAus(zeilen, std::move(parameter));
+    std::vector<Text> notizen(const std::vector<Line>& lines, Text parameter = {}) {
+        execute(lines, std::move(parameter));
         return raum.commandNotes();
     }
     // The pictures that a script has shown, as one line: "1 2 3". They mark which way it took.
-    Text weg(const std::vector<Zeile>& zeilen, Text parameter = {}) {
+    Text weg(const std::vector<Line>& lines, Text parameter = {}) {
         Text alle;
-        for (const Text& notiz : notizen(zeilen, std::move(parameter)))
+        for (const Text& notiz : notizen(lines, std::move(parameter)))
             if (notiz.starts_with("BildLaden g\\")) alle += (alle.empty() ? "" : " ") + notiz.substr(12);
         return alle;
     }

@@ -12,7 +12,7 @@ namespace zentrox {
 namespace {
 
 // A room with every kind of field, one entry a field. Its one object's mask has two cells set.
-std::vector<Text> kleinerRaum() {
+std::vector<Text> smallRoom() {
     std::vector<Text> felder{"\"bilder\\Keller.jpg\"", "1", "2", "\"Dunkel, und kalt.\"", "31", "\"1.5\"", "0"};
     const std::vector<Text> objekt{"#TRUE#",       "0",      "2",      "\"Eine Tür\"", "#FALSE#", "-1", "1", "-1",
                                    "\"hand.ico\"", "#TRUE#", "\"Tür\""};
@@ -30,7 +30,7 @@ Text verbunden(const std::vector<Text>& felder, const std::function<Text(std::si
     return datei;
 }
 
-void erwarteKleinenRaum(const Raum& raum) {
+void expectSmallRoom(const Raum& raum) {
     EXPECT_EQ(raum.Bild, "bilder\\Keller.jpg");
     EXPECT_EQ(raum.Startskript.Befehl, (std::vector<std::int32_t>{2, 31}));
     EXPECT_EQ(raum.Startskript.Argument, (std::vector<Text>{"Dunkel, und kalt.", "1.5"}));
@@ -50,18 +50,18 @@ void erwarteKleinenRaum(const Raum& raum) {
 }
 
 TEST(RoomFile, LinesCarryNoMeaning) {
-    const auto felder = kleinerRaum();
+    const auto felder = smallRoom();
     std::mt19937 chance(7);
     const std::vector<Text> alle{",", "\r\n", "\n", "\r", ", ", " ,", "  \r\n ", "\t,"};
     for (const Text& trenner : alle) {
         SCOPED_TRACE(testing::PrintToString(trenner));
-        erwarteKleinenRaum(parseRoom(verbunden(felder, [&](std::size_t) { return trenner; }), "x"));
+        expectSmallRoom(parseRoom(verbunden(felder, [&](std::size_t) { return trenner; }), "x"));
     }
     for (int i = 0; i < 20; ++i)
-        erwarteKleinenRaum(
+        expectSmallRoom(
             parseRoom(verbunden(felder, [&](std::size_t) { return alle[chance() % alle.size()]; }), "x"));
     // The last field needs no separator behind it.
-    erwarteKleinenRaum(
+    expectSmallRoom(
         parseRoom(verbunden(felder, [&](std::size_t i) { return i + 1 == felder.size() ? "" : "\r\n"; }), "x"));
 }
 
@@ -80,7 +80,7 @@ TEST(RoomFile, ALongPictureNameIsCut) {
 }
 
 TEST(RoomFile, OnlyTheValue255SetsACell) {
-    auto felder = kleinerRaum();
+    auto felder = smallRoom();
     const std::size_t maske = felder.size() - 3 - Maskenspalten * Maskenzeilen;
     struct Case {
         const char* feld;
@@ -94,8 +94,8 @@ TEST(RoomFile, OnlyTheValue255SetsACell) {
     for (std::size_t i = 0; i < cases.size(); ++i)
         EXPECT_EQ(raum.Objekte[0].Maske.at(0, 5 + static_cast<int>(i)), cases[i].gesetzt) << cases[i].feld;
     // Blanks alone part numbers as well.
-    const Text leer = verbunden(kleinerRaum(), [](std::size_t i) { return i < 18 || i > 3000 ? "," : "  "; });
-    erwarteKleinenRaum(parseRoom(leer, "x"));
+    const Text leer = verbunden(smallRoom(), [](std::size_t i) { return i < 18 || i > 3000 ? "," : "  "; });
+    expectSmallRoom(parseRoom(leer, "x"));
 }
 
 TEST(Fields, TextsAndTruths) {
@@ -147,58 +147,57 @@ TEST(Readers, AListBelowMinusOneIsEmptyAndTheLastTextMayBe) {
 TEST(BadFiles, MessagesNameTheFileTheFieldAndTheLine) {
     const auto raum = [](const Text& datei) { return meldung([&] { parseRoom(datei, "rooms\\Keller.lsd"); }); };
     EXPECT_EQ(raum(""),
-              "Raumdatei rooms\\Keller.lsd: Feld 1 (Zeile 1): hier endet die Datei, erwartet war ein Text");
+              "Raumdatei rooms\\Keller.lsd: Feld 1 (Line 1): hier endet die Datei, erwartet war ein Text");
     EXPECT_EQ(raum("a.jpg\r\n-1\r\n-1\r\n"),
-              "Raumdatei rooms\\Keller.lsd: Feld 4 (Zeile 4): hier endet die Datei, erwartet war eine Zahl");
+              "Raumdatei rooms\\Keller.lsd: Feld 4 (Line 4): hier endet die Datei, erwartet war eine Zahl");
     EXPECT_EQ(raum("a.jpg,-1\nviele,-1"),
-              "Raumdatei rooms\\Keller.lsd: Feld 3 (Zeile 2): gefunden wurde \"viele\", erwartet war eine Zahl");
+              "Raumdatei rooms\\Keller.lsd: Feld 3 (Line 2): gefunden wurde \"viele\", erwartet war eine Zahl");
     EXPECT_EQ(raum("a.jpg\r-1\r-1\r2147483648"),
-              "Raumdatei rooms\\Keller.lsd: Feld 4 (Zeile 4): die Zahl 2147483648 ist zu groß oder zu klein");
-    EXPECT_EQ(
-        raum("a.jpg,-1,2147483647,1,2,3"),
-        "Raumdatei rooms\\Keller.lsd: Feld 3 (Zeile 1): der letzte Index 2147483647 passt nicht in die Datei, "
-        "so viel steht nicht mehr darin");
+              "Raumdatei rooms\\Keller.lsd: Feld 4 (Line 4): die Zahl 2147483648 ist zu groß oder zu klein");
+    EXPECT_EQ(raum("a.jpg,-1,2147483647,1,2,3"),
+              "Raumdatei rooms\\Keller.lsd: Feld 3 (Line 1): der letzte Index 2147483647 passt nicht in die Datei, "
+              "so viel steht nicht mehr darin");
     EXPECT_EQ(raum("\"a.jpg,-1,-1,-1"),
-              "Raumdatei rooms\\Keller.lsd: Feld 1 (Zeile 1): dem Text fehlt das schließende Anführungszeichen");
+              "Raumdatei rooms\\Keller.lsd: Feld 1 (Line 1): dem Text fehlt das schließende Anführungszeichen");
     EXPECT_EQ(meldung([] { parseSkript("0,3\x01", "items\\x0.skp"); }),
-              "Skriptdatei items\\x0.skp: Feld 2 (Zeile 1): gefunden wurde \"3?\", erwartet war eine Zahl");
+              "Skriptdatei items\\x0.skp: Feld 2 (Line 1): gefunden wurde \"3?\", erwartet war eine Zahl");
     EXPECT_EQ(meldung([] { FieldReader("WAHR,1", "x").readTruth(); }),
-              "x: Feld 1 (Zeile 1): gefunden wurde \"WAHR\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
+              "x: Feld 1 (Line 1): gefunden wurde \"WAHR\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
     EXPECT_EQ(meldung([] { FieldReader("#MAYBE#", "x").readTruth(); }),
-              "x: Feld 1 (Zeile 1): gefunden wurde \"#MAYBE#\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
-    for (const char* keineZahl : {"-", "+", "+-5", "- 5", "5a", "0x1F", "\"5\"", "1.5", "#TRUE#"})
-        EXPECT_NE(meldung([&] { FieldReader(keineZahl, "x").readNumber(); }), "no error") << keineZahl;
+              "x: Feld 1 (Line 1): gefunden wurde \"#MAYBE#\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
+    for (const char* noNumber : {"-", "+", "+-5", "- 5", "5a", "0x1F", "\"5\"", "1.5", "#TRUE#"})
+        EXPECT_NE(meldung([&] { FieldReader(noNumber, "x").readNumber(); }), "no error") << noNumber;
 }
 
 TEST(BadFiles, AMaskIsCountedToo) {
-    auto felder = kleinerRaum();
+    auto felder = smallRoom();
     felder[18 + 1000] = "x";
     EXPECT_EQ(meldung([&] { parseRoom(verbunden(felder, [](std::size_t) { return "\r\n"; }), "x"); }),
-              "Raumdatei x: Feld 1019 (Zeile 1019): gefunden wurde \"x\", erwartet war eine Zahl");
+              "Raumdatei x: Feld 1019 (Line 1019): gefunden wurde \"x\", erwartet war eine Zahl");
 }
 
 // A cut file is an error wherever it is cut, but where only the end of the last field is gone.
 TEST(BadFiles, EveryCutOfARoomIsAnError) {
     for (const char* trenner : {",", "\r\n"}) {
-        const Text ganz = verbunden(kleinerRaum(), [&](std::size_t) { return trenner; });
-        const std::size_t vollständig = ganz.rfind("\"\"") + 2;
-        for (std::size_t cut = 0; cut < ganz.size(); ++cut) {
+        const Text whole = verbunden(smallRoom(), [&](std::size_t) { return trenner; });
+        const std::size_t complete = whole.rfind("\"\"") + 2;
+        for (std::size_t cut = 0; cut < whole.size(); ++cut) {
             // A copy of exactly this size, so that a read behind its end is seen.
-            const std::vector<char> bytes(ganz.begin(), ganz.begin() + static_cast<std::ptrdiff_t>(cut));
-            const bool fehler = meldung([&] { parseRoom({bytes.data(), bytes.size()}, "x"); }) != "no error";
+            const std::vector<char> bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(cut));
+            const bool failed = meldung([&] { parseRoom({bytes.data(), bytes.size()}, "x"); }) != "no error";
             // Behind a comma the last text may be left out, which is empty.
-            const bool ganzOhne = *trenner == ',' && cut == vollständig - 2;
-            EXPECT_EQ(fehler, cut < vollständig && !ganzOhne) << cut;
+            const bool wholeWithout = *trenner == ',' && cut == complete - 2;
+            EXPECT_EQ(failed, cut < complete && !wholeWithout) << cut;
         }
     }
 }
 
 TEST(BadFiles, RandomBytesNeverCrash) {
     std::mt19937 chance(11);
-    const Text ganz = verbunden(kleinerRaum(), [](std::size_t) { return ","; });
+    const Text whole = verbunden(smallRoom(), [](std::size_t) { return ","; });
     const TextView zeichen = "0123456789-+ ,\r\n\"#TRUEFALS\t.x\0\xFF";
     for (int runde = 0; runde < 4000; ++runde) {
-        Text datei = ganz.substr(0, chance() % 2 == 0 ? 120 : ganz.size());
+        Text datei = whole.substr(0, chance() % 2 == 0 ? 120 : whole.size());
         for (auto n = chance() % 20; n > 0; --n)
             datei[chance() % std::min<std::size_t>(datei.size(), 200)] = zeichen[chance() % zeichen.size()];
         if (runde % 4 == 0)
@@ -225,7 +224,7 @@ TEST(ScriptFile, AMissingFileIsAnEmptyScriptOrARefusal) {
     EXPECT_EQ(LadeSkript(files, items + "ball0.skp").Argument.at(0), "Ein Ball.");
     directory.write("items/ball1.skp", "");
     EXPECT_EQ(meldung([&] { LadeSkript(files, items + "ball1.skp"); }),
-              "Skriptdatei items\\ball1.skp: Feld 1 (Zeile 1): hier endet die Datei, erwartet war eine Zahl");
+              "Skriptdatei items\\ball1.skp: Feld 1 (Line 1): hier endet die Datei, erwartet war eine Zahl");
     EXPECT_NE(meldung([&] { readRoom(files, items + "gibtsnicht.lsd"); }).find("items\\gibtsnicht.lsd"),
               Text::npos);
 }

@@ -15,7 +15,7 @@ using Notizen = std::vector<Text>;
 class Runs : public test::EngineTest {
 protected:
     // Makes the fake window enter rooms as the real one does.
-    void betreteRäume() {
+    void enterRooms() {
         raum.onLade = [this](TextView pfad) {
             for (std::optional<Text> weiter = Text(pfad); weiter;) {
                 z.RaumDatei = weiter->substr(weiter->rfind('\\') + 1);
@@ -25,7 +25,7 @@ protected:
             }
         };
     }
-    void raumdatei(TextView name, TextView startskript, TextView countDown = "-1") {
+    void roomFile(TextView name, TextView startskript, TextView countDown = "-1") {
         directory.write("rooms/" + Text(name), "bild.jpg," + Text(startskript) + ",-1," + Text(countDown) + "\r\n");
     }
 };
@@ -68,33 +68,33 @@ TEST_F(Runs, ARunWaitsForTheSlideOfTheBar) {
     z.LeisteBewegt = true;
     nach(300, [this] { z.LeisteBewegt = false; });
     raum.onVersteckeLeiste = [&] { EXPECT_EQ(backend.now, 300); };
-    führeAus({});
+    execute({});
     EXPECT_FALSE(z.SkriptLäuft);
 }
 
 TEST_F(Runs, NothingYieldsButWhatWaits) {
     bool bedient = false;
     backend.then([&] { bedient = true; });
-    führeAus({{"SetzeMerker", "A"},
-              {"WennMerker", "A"},
-              {"NimmGegenstand", "x"},
-              {"EndeWenn"},
-              {"Ton", "x.mp3"},
-              {"Musik", "m"},
-              {"CountDownSetzen", "5"},
-              {"ZeigBild", "b"},
-              {"Portrait", "1,b"},
-              {"RahmenZu"}});
+    execute({{"SetzeMerker", "A"},
+             {"WennMerker", "A"},
+             {"NimmGegenstand", "x"},
+             {"EndeWenn"},
+             {"Ton", "x.mp3"},
+             {"Musik", "m"},
+             {"CountDownSetzen", "5"},
+             {"ZeigBild", "b"},
+             {"Portrait", "1,b"},
+             {"RahmenZu"}});
     EXPECT_FALSE(bedient);
 }
 
 TEST_F(Runs, TheReasonsOfAWaitTellTheStory) {
-    raumdatei("Keller.lsd", "0,2,\"Zu.\"");
-    betreteRäume();
-    Text gründe;
+    roomFile("Keller.lsd", "0,2,\"Zu.\"");
+    enterRooms();
+    Text reasons;
     raum.onZeigText = [&](TextView) {
         nach(10, [&] {
-            gründe = platform.queue.reasons();
+            reasons = platform.queue.reasons();
             z.TastenCode = 65;
         });
     };
@@ -102,14 +102,14 @@ TEST_F(Runs, TheReasonsOfAWaitTellTheStory) {
     z.AktuellerRaum.LetztesObjekt = 0;
     z.AktuellerRaum.Objekte[0] = {.Name = Text("Tür"_t), .Aktiv = true};
     interpreter.SkriptAusführen(test::skript({{"Raumwechsel", "Keller.lsd"}}), 0, "");
-    EXPECT_EQ(gründe, "Skript Tür > Lade Keller.lsd > Text"_t);
+    EXPECT_EQ(reasons, "Skript Tür > Lade Keller.lsd > Text"_t);
     EXPECT_EQ(platform.queue.reasons(), "");
 }
 
 TEST_F(Runs, ARoomChangeEndsTheRunBehindTheRunOfTheNewRoom) {
-    raumdatei("b.lsd", "1,5,\"b1\",4,\"c.lsd\"");
-    raumdatei("c.lsd", "4,5,\"c1\",31,\"2\",10,\"\",10,\"\",5,\"c2\"");
-    betreteRäume();
+    roomFile("b.lsd", "1,5,\"b1\",4,\"c.lsd\"");
+    roomFile("c.lsd", "4,5,\"c1\",31,\"2\",10,\"\",10,\"\",5,\"c2\"");
+    enterRooms();
     // The room's own script runs in place and is overwritten under its own feet.
     z.AktuellerRaum.Startskript = test::skript(
         {{"ZeigBild", "a1"}, {"Raumwechsel", "b.lsd"}, {"ZeigBild", "a2"}, {"ZeigBild", "a3"}, {"ZeigBild", "a4"}});
@@ -132,7 +132,7 @@ TEST_F(Runs, ALoadedGameEndsTheRunWithoutItsClosingSteps) {
         raum.notes.clear();
         return true;
     };
-    führeAus({{"System", "Open"}, {"ZeigBild", "x"}});
+    execute({{"System", "Open"}, {"ZeigBild", "x"}});
     EXPECT_TRUE(raum.notes.empty());
     EXPECT_EQ(z.ZeigerLetzter, 1) << "what the loaded room's run found";
 }
@@ -140,8 +140,8 @@ TEST_F(Runs, ALoadedGameEndsTheRunWithoutItsClosingSteps) {
 // A count-down that a script has started ticks in its later waits, and may even leave the room: the outer run then
 // goes on at its place in the new room's script.
 TEST_F(Runs, ACountDownMayChangeTheRoomUnderAWaitingScript) {
-    raumdatei("neu.lsd", "4,5,\"n0\",5,\"n1\",5,\"n2\",5,\"n3\",5,\"n4\"");
-    betreteRäume();
+    roomFile("neu.lsd", "4,5,\"n0\",5,\"n1\",5,\"n2\",5,\"n3\",5,\"n4\"");
+    enterRooms();
     z.AktuellerRaum.Startskript = test::skript({{"CountDownSetzen", "1"}, {"Text", "Tick"}, {"ZeigBild", "alt"}});
     z.AktuellerRaum.CountDownSkript = test::skript({{"Raumwechsel", "neu.lsd"}});
     Timer countDown(platform.queue, 1000, true, [&] {
@@ -158,8 +158,8 @@ TEST_F(Runs, ACountDownMayChangeTheRoomUnderAWaitingScript) {
 }
 
 TEST_F(Runs, ShorterScriptsMayTakeThePlaceOfAWaitingOne) {
-    raumdatei("neu.lsd", "-1");
-    betreteRäume();
+    roomFile("neu.lsd", "-1");
+    enterRooms();
     z.AktuellerRaum.Startskript =
         test::skript({{"ZeigBild", "1"}, {"Auswahl", "1|Ja?|Ja"}, {"Fall", "1"}, {"ZeigBild", "2"}});
     raum.onZeigText = [this](TextView) {
@@ -173,10 +173,10 @@ TEST_F(Runs, ShorterScriptsMayTakeThePlaceOfAWaitingOne) {
 }
 
 TEST_F(Runs, RoomsThatLeadToEachOtherWithoutAWaitAreStopped) {
-    raumdatei("hin.lsd", "0,4,\"her.lsd\"");
-    raumdatei("her.lsd", "0,4,\"hin.lsd\"");
-    betreteRäume();
-    EXPECT_THROW(führeAus({{"Raumwechsel", "hin.lsd"}}), Ausweglos);
+    roomFile("hin.lsd", "0,4,\"her.lsd\"");
+    roomFile("her.lsd", "0,4,\"hin.lsd\"");
+    enterRooms();
+    EXPECT_THROW(execute({{"Raumwechsel", "hin.lsd"}}), Ausweglos);
     // Behind the failure everything is as before a run.
     EXPECT_EQ(platform.queue.reasons(), "");
     EXPECT_EQ(notizen({{"ZeigBild", "x"}}).back(), "BildLaden g\\x");
@@ -184,16 +184,16 @@ TEST_F(Runs, RoomsThatLeadToEachOtherWithoutAWaitAreStopped) {
 
 // A hub: text, room, text, room, as long as the player likes.
 TEST_F(Runs, RoomsThatFollowEachOtherDoNotStandInsideEachOther) {
-    raumdatei("hin.lsd", "4,0,\"ENDE\",9,,2,\"x\",4,\"her.lsd\",10,");
-    raumdatei("her.lsd", "4,0,\"ENDE\",9,,2,\"x\",4,\"hin.lsd\",10,");
-    betreteRäume();
+    roomFile("hin.lsd", "4,0,\"ENDE\",9,,2,\"x\",4,\"her.lsd\",10,");
+    roomFile("her.lsd", "4,0,\"ENDE\",9,,2,\"x\",4,\"hin.lsd\",10,");
+    enterRooms();
     std::vector<std::size_t> stapel;
     raum.onZeigText = [&](TextView) {
         stapel.push_back(stackLeft());
         if (stapel.size() == 3000) MerkerSetzen(z, "ENDE");
         nach(10, [this] { z.TastenCode = 65; });
     };
-    führeAus({{"Raumwechsel", "hin.lsd"}});
+    execute({{"Raumwechsel", "hin.lsd"}});
     EXPECT_EQ(stapel.size(), 3000U);
     EXPECT_EQ(stapel.front(), stapel.back());
 }
@@ -202,9 +202,9 @@ TEST_F(Runs, RunsNestAsDeepAsTheStackGoesAndThenStop) {
     int tiefe = 0;
     raum.onZeigText = [&](TextView) {
         ++tiefe;
-        führeAus({{"Text", "x"}});
+        execute({{"Text", "x"}});
     };
-    EXPECT_THROW(führeAus({{"Text", "x"}}), Ausweglos);
+    EXPECT_THROW(execute({{"Text", "x"}}), Ausweglos);
     EXPECT_GT(tiefe, 1000);
     EXPECT_EQ(platform.queue.reasons(), "");
     EXPECT_TRUE(interpreter.PlatzFürLauf());
@@ -234,9 +234,9 @@ TEST_F(Runs, AWindowStandsOnceAtMost) {
         ++fenster;
         z.Übergabe = true;
         MerkerSetzen(z, "INNEN");
-        führeAus({{"Spiel", "PONG,INNEN,5"}});  // as a tick would
+        execute({{"Spiel", "PONG,INNEN,5"}});  // as a tick would
     };
-    führeAus({{"Spiel", "PONG,AUSSEN"}, {"Spiel", "PONG,AUSSEN"}});
+    execute({{"Spiel", "PONG,AUSSEN"}, {"Spiel", "PONG,AUSSEN"}});
     EXPECT_EQ(fenster, 2) << "one behind the other";
     EXPECT_TRUE(MerkerGesetzt(z, "AUSSEN"));
     EXPECT_FALSE(MerkerGesetzt(z, "INNEN"));
@@ -245,27 +245,27 @@ TEST_F(Runs, AWindowStandsOnceAtMost) {
 TEST_F(Runs, AFilmGoesOnWhileATicksRunWaits) {
     sound.videoEnd = 2000;
     int bilder = 0;
-    int währendText = 0;
+    int duringText = 0;
     raum.onFilmBild = [&] { ++bilder; };
     raum.onZeigText = [&](TextView) {
-        währendText = -bilder;
+        duringText = -bilder;
         nach(500, [this] { z.TastenCode = 65; });
     };
-    raum.onWegText = [&] { währendText += bilder; };
+    raum.onWegText = [&] { duringText += bilder; };
     Timer tick(platform.queue, 300, true, [&] {
         tick.setEnabled(false);
-        führeAus({{"Text", "Tick"}});
+        execute({{"Text", "Tick"}});
     });
-    führeAus({{"Film", "f"}});
-    EXPECT_GE(währendText, 25);
+    execute({{"Film", "f"}});
+    EXPECT_GE(duringText, 25);
 }
 
 TEST_F(Runs, TheEndOfTheProgramLeavesEveryWait) {
-    for (const std::vector<test::Zeile>& s :
-         {std::vector<test::Zeile>{{"Text", "a"}}, {{"Auswahl", "1|a|b"}}, {{"Film", "f"}}}) {
+    for (const std::vector<test::Line>& s :
+         {std::vector<test::Line>{{"Text", "a"}}, {{"Auswahl", "1|a|b"}}, {{"Film", "f"}}}) {
         sound.videoEnd = 10'000;
         nach(100, [] { Queue::endProgram(3); });
-        EXPECT_THROW(führeAus(s), ProgramEnd);
+        EXPECT_THROW(execute(s), ProgramEnd);
         EXPECT_EQ(platform.queue.reasons(), "");
     }
 }

@@ -50,7 +50,7 @@ TEST(Felder, NumbersAtTheFrontOfTexts) {
         TextView text;
         double erwartet;
     };
-    const double ohneEnde = std::numeric_limits<double>::infinity();
+    const double withoutEnd = std::numeric_limits<double>::infinity();
     for (const Case& c : {
              Case{"12", 12},      Case{" 2", 2},
              Case{"-3.5x", -3.5}, Case{"+7", 7},
@@ -61,8 +61,8 @@ TEST(Felder, NumbersAtTheFrontOfTexts) {
              Case{"+-4", 0},      Case{"1e3", 1000},
              Case{"1e", 1},       Case{"0x10", 0},
              Case{"--1", 0},      Case{".", 0},
-             Case{"1 2", 1},      Case{"1e999", ohneEnde},
-             Case{"1e-999", 0},   Case{"-1e999", -ohneEnde},
+             Case{"1 2", 1},      Case{"1e999", withoutEnd},
+             Case{"1e-999", 0},   Case{"-1e999", -withoutEnd},
          })
         EXPECT_EQ(Val(c.text), c.erwartet) << c.text;
     EXPECT_EQ(Zahl(" 1.5 "), 1.5);
