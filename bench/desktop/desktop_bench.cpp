@@ -46,7 +46,7 @@ private:
     pid_t id_ = 0;
 };
 
-// An X server without a screen, and a look at its middle.
+// An X server without a screen, and a look at where the room is and no text.
 class Screen {
 public:
     Screen() : server_({XVFB_PROGRAM, ":97", "-screen", "0", "800x600x24", "-nolisten", "tcp"}) {
@@ -64,7 +64,7 @@ public:
 
     // The root window is black where no picture stands.
     bool shown() const {
-        XImage* const image = XGetImage(display_, DefaultRootWindow(display_), 400, 300, 1, 1, AllPlanes, ZPixmap);
+        XImage* const image = XGetImage(display_, DefaultRootWindow(display_), 120, 100, 1, 1, AllPlanes, ZPixmap);
         const bool lit = (XGetPixel(image, 0, 0) & 0xFFFFFFU) != 0;
         XDestroyImage(image);
         return lit;
