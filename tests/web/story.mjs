@@ -23,11 +23,25 @@ for (const name of readdirSync(directory))
 const app = path.join(place, "app", readdirSync(path.join(place, "app"))[0]);
 const story = JSON.parse(readFileSync(path.join(app, "story.json")));
 writeFileSync(path.join(place, story.engine.u), gzipSync(readFileSync(path.join(engine, "zentrox-watched.wasm")), { level: 1 }));
-cpSync(path.join(engine, "zentrox-watched.js"), path.join(app, "engine.js"));
+// The emscripten helper for calls takes one made while the game waits for part of that wait; this one does not.
+const ask = `Module["ask"] = function (what, name) {
+    var stack = stackSave();
+    var texts = [what, name].map(function (text) {
+        var room = lengthBytesUTF8(text) + 1;
+        var place = stackAlloc(room);
+        stringToUTF8(text, place, room);
+        return place;
+    });
+    var answer = UTF8ToString(_zentroxAsk(texts[0], texts[1]));
+    stackRestore(stack);
+    return answer;
+};`;
+const script = readFileSync(path.join(engine, "zentrox-watched.js"), "utf8");
+writeFileSync(path.join(app, "engine.js"), script.replace(`Module["callMain"]=callMain;`, `Module["callMain"]=callMain;${ask}`));
 const main = path.join(app, "main.js");
 writeFileSync(main, readFileSync(main, "utf8")
     .replace("engine = await makeEngine(module);", `engine = await makeEngine(module);
-    window.zentroxAsk = (what, name) => engine.ccall("zentroxAsk", "string", ["string", "string"], [what, name]);`));
+    window.zentroxAsk = (what, name) => engine.ask(what, name);`));
 rmSync(path.join(place, "sw.js"));
 
 const server = await serve([place, directory]);

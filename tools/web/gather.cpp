@@ -14,7 +14,8 @@ std::string discRoot(std::size_t number) {
 
 std::vector<StoryFile> gather(const fs::path& directory, const std::string& root) {
     std::vector<StoryFile> files;
-    for (fs::recursive_directory_iterator entry(directory), end; entry != end; ++entry) {
+    constexpr auto links = fs::directory_options::follow_directory_symlink;
+    for (fs::recursive_directory_iterator entry(directory, links), end; entry != end; ++entry) {
         const std::string name = entry->path().filename().string();
         const bool saves = entry.depth() == 0 && lower(name) == "saves";
         if (name.starts_with(".") || saves) {
