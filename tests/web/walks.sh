@@ -56,6 +56,8 @@ for walk in "$source"/demo/walks/*.walk; do
 done
 for walk in "$source"/tests/walks/*.walk; do
     name=$(basename "$walk" .walk)
+    # Under node nothing decodes the pictures of a film, which these look at.
+    case $name in film | ton) echo "walks-$name: left out, it looks at a film"; continue ;; esac
     both "walks-$name" "$walk" --dir "$build/tests/walks/data" --args "${name^}.lsd"
 done
 for walk in "$source"/tests/games/*.walk; do

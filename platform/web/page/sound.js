@@ -88,7 +88,11 @@ export class Sound {
         }
         if (track === song) {
             this.player.pause();
-            if (playing.url) URL.revokeObjectURL(playing.url);
+            if (!playing.url) return;
+            // It lets go of the file before the file goes.
+            this.player.removeAttribute("src");
+            this.player.load();
+            URL.revokeObjectURL(playing.url);
         }
     }
 
