@@ -1,5 +1,5 @@
-// Events that would start a script while the bar slides. They wait until the slide is done, in the order in which they
-// came, and fall with the room that they were meant for.
+// Events that would start a script while the bar slides. They wait until the slide is done, in the order in which
+// they came, and fall with the room that they were meant for.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// All that the player does with the mouse in a room: what lies under the pointer, and which script a release starts.
+// All that the player does with the mouse in a room: what lies under the pointer, and which script a release
+// starts.
 #include <cmath>
 
 #include "engine/files/raumdatei.h"

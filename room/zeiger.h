@@ -39,7 +39,7 @@ private:
     Window& fenster_;
     Platform& platform_;
     Zustand& z_;
-    Text eigener_;                    // full path
+    Text eigener_;                   // full path
     std::map<Text, bool> geprüfte_;  // whether an icon can be used
 };
 

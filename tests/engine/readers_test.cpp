@@ -147,24 +147,25 @@ TEST(Readers, AListBelowMinusOneIsEmptyAndTheLastTextMayBe) {
 TEST(BadFiles, MessagesNameTheFileTheFieldAndTheLine) {
     const auto raum = [](const Text& datei) { return meldung([&] { parseRoom(datei, "rooms\\Keller.lsd"); }); };
     EXPECT_EQ(raum(""),
-              "Raumdatei rooms\\Keller.lsd: Feld 1 (Line 1): hier endet die Datei, erwartet war ein Text");
+              "Raumdatei rooms\\Keller.lsd: Feld 1 (Zeile 1): hier endet die Datei, erwartet war ein Text");
     EXPECT_EQ(raum("a.jpg\r\n-1\r\n-1\r\n"),
-              "Raumdatei rooms\\Keller.lsd: Feld 4 (Line 4): hier endet die Datei, erwartet war eine Zahl");
+              "Raumdatei rooms\\Keller.lsd: Feld 4 (Zeile 4): hier endet die Datei, erwartet war eine Zahl");
     EXPECT_EQ(raum("a.jpg,-1\nviele,-1"),
-              "Raumdatei rooms\\Keller.lsd: Feld 3 (Line 2): gefunden wurde \"viele\", erwartet war eine Zahl");
+              "Raumdatei rooms\\Keller.lsd: Feld 3 (Zeile 2): gefunden wurde \"viele\", erwartet war eine Zahl");
     EXPECT_EQ(raum("a.jpg\r-1\r-1\r2147483648"),
-              "Raumdatei rooms\\Keller.lsd: Feld 4 (Line 4): die Zahl 2147483648 ist zu groß oder zu klein");
-    EXPECT_EQ(raum("a.jpg,-1,2147483647,1,2,3"),
-              "Raumdatei rooms\\Keller.lsd: Feld 3 (Line 1): der letzte Index 2147483647 passt nicht in die Datei, "
-              "so viel steht nicht mehr darin");
+              "Raumdatei rooms\\Keller.lsd: Feld 4 (Zeile 4): die Zahl 2147483648 ist zu groß oder zu klein");
+    EXPECT_EQ(
+        raum("a.jpg,-1,2147483647,1,2,3"),
+        "Raumdatei rooms\\Keller.lsd: Feld 3 (Zeile 1): der letzte Index 2147483647 passt nicht in die Datei, "
+        "so viel steht nicht mehr darin");
     EXPECT_EQ(raum("\"a.jpg,-1,-1,-1"),
-              "Raumdatei rooms\\Keller.lsd: Feld 1 (Line 1): dem Text fehlt das schließende Anführungszeichen");
+              "Raumdatei rooms\\Keller.lsd: Feld 1 (Zeile 1): dem Text fehlt das schließende Anführungszeichen");
     EXPECT_EQ(meldung([] { parseSkript("0,3\x01", "items\\x0.skp"); }),
-              "Skriptdatei items\\x0.skp: Feld 2 (Line 1): gefunden wurde \"3?\", erwartet war eine Zahl");
+              "Skriptdatei items\\x0.skp: Feld 2 (Zeile 1): gefunden wurde \"3?\", erwartet war eine Zahl");
     EXPECT_EQ(meldung([] { FieldReader("WAHR,1", "x").readTruth(); }),
-              "x: Feld 1 (Line 1): gefunden wurde \"WAHR\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
+              "x: Feld 1 (Zeile 1): gefunden wurde \"WAHR\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
     EXPECT_EQ(meldung([] { FieldReader("#MAYBE#", "x").readTruth(); }),
-              "x: Feld 1 (Line 1): gefunden wurde \"#MAYBE#\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
+              "x: Feld 1 (Zeile 1): gefunden wurde \"#MAYBE#\", erwartet war #TRUE#, #FALSE# oder eine Zahl");
     for (const char* noNumber : {"-", "+", "+-5", "- 5", "5a", "0x1F", "\"5\"", "1.5", "#TRUE#"})
         EXPECT_NE(meldung([&] { FieldReader(noNumber, "x").readNumber(); }), "no error") << noNumber;
 }
@@ -173,7 +174,7 @@ TEST(BadFiles, AMaskIsCountedToo) {
     auto felder = smallRoom();
     felder[18 + 1000] = "x";
     EXPECT_EQ(meldung([&] { parseRoom(verbunden(felder, [](std::size_t) { return "\r\n"; }), "x"); }),
-              "Raumdatei x: Feld 1019 (Line 1019): gefunden wurde \"x\", erwartet war eine Zahl");
+              "Raumdatei x: Feld 1019 (Zeile 1019): gefunden wurde \"x\", erwartet war eine Zahl");
 }
 
 // A cut file is an error wherever it is cut, but where only the end of the last field is gone.
@@ -224,7 +225,7 @@ TEST(ScriptFile, AMissingFileIsAnEmptyScriptOrARefusal) {
     EXPECT_EQ(LadeSkript(files, items + "ball0.skp").Argument.at(0), "Ein Ball.");
     directory.write("items/ball1.skp", "");
     EXPECT_EQ(meldung([&] { LadeSkript(files, items + "ball1.skp"); }),
-              "Skriptdatei items\\ball1.skp: Feld 1 (Line 1): hier endet die Datei, erwartet war eine Zahl");
+              "Skriptdatei items\\ball1.skp: Feld 1 (Zeile 1): hier endet die Datei, erwartet war eine Zahl");
     EXPECT_NE(meldung([&] { readRoom(files, items + "gibtsnicht.lsd"); }).find("items\\gibtsnicht.lsd"),
               Text::npos);
 }
