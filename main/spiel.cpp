@@ -1,6 +1,10 @@
 #include "main/spiel.h"
 
+#include <algorithm>
+#include <cassert>
 #include "engine/files/titeldatei.h"
+
+#include "engine/language/games.h"
 #include "games/bruhks/bruhks.h"
 #include "games/fight/fight.h"
 #include "games/jump/jump.h"
@@ -25,12 +29,16 @@ Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
     const auto zeigt = [&](void (*spiel)(Platform&, Zustand&, Medien&)) {
         return [&, spiel] { spiel(platform, zustand, medien); };
     };
-    return {
+    Spieltabelle tabelle{
         {"BRUHKS", zeigt(BruhksZeigen)}, {"ESEL", zeigt(Form2Zeigen)},
         {"HDW", zeigt(HDWZeigen)},       {"JUMP", zeigt(JumpZeigen)},
         {"MEMORY", zeigt(MemoryZeigen)}, {"PI", zeigt(PIZeigen)},
         {"PONG", zeigt(PongZeigen)},     {Text("PRÜGEL"_t), zeigt(PrügelZeigen)},
     };
+    assert(tabelle.size() == Spiele().size() && std::all_of(Spiele().begin(), Spiele().end(), [&](auto& spiel) {
+               return tabelle.contains(spiel.name);
+           }));
+    return tabelle;
 }
 
 int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {

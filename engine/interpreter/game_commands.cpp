@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "engine/interpreter/interpreter.h"
+#include "engine/language/games.h"
 #include "engine/language/words.h"
 #include "engine/state/felder.h"
 #include "engine/state/merker.h"
@@ -23,8 +24,8 @@ bool istText(const Übergabewert& wert, TextView gesucht) {
     return text != nullptr && *text == gesucht;
 }
 
-// Memory is played again until it is not a draw.
-bool spieleMemory(const Spiel& spiel, const Zustand& z) {
+// Played again until it is not a draw.
+bool spieleBisEntschieden(const Spiel& spiel, const Zustand& z) {
     do spiel();
     while (istText(z.Übergabe, "U"));
     return istText(z.Übergabe, "W");
@@ -67,7 +68,8 @@ bool Interpreter::spiele(const Lauf& lauf, const Text& name, const Spiel& spiel)
     const Offen offen(offeneSpiele_, name);
     const Queue::Reason grund(platform_.queue, "Spiel " + name);
     try {
-        if (name == "MEMORY") return spieleMemory(spiel, z_);
+        const SpielArt* const art = findSpiel(name);
+        if (art != nullptr && art->kenntUnentschieden) return spieleBisEntschieden(spiel, z_);
         spiel();
         return gewonnen(z_.Übergabe);
     } catch (const DataError& fehler) {

@@ -9,7 +9,7 @@
 namespace zentrox {
 
 // Shows the window of a game modally and returns when it has closed. It finds its parameter in `Übergabe` and
-// leaves its outcome there: a truth, or for "MEMORY" one of the texts "W", "L" and "U".
+// leaves its outcome there: a truth, or for one that knows a draw one of the texts "W", "L" and "U".
 using Spiel = std::function<void()>;
 
 // By the names of `Spiele()`.

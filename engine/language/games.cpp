@@ -39,7 +39,7 @@ constexpr std::array spiele{
     SpielArt{"PRÜGEL"_t, "Prügel"_t, "Prügelei"_t, prügel},
     SpielArt{"BRUHKS", "Bruhks", "Bruhks", {}},
     SpielArt{"PONG", "Pong", "Pong", pong},
-    SpielArt{"MEMORY", "Memory", "Memory", memory},
+    SpielArt{"MEMORY", "Memory", "Memory", memory, true},
 };
 
 }  // namespace

@@ -15,6 +15,8 @@ struct SpielArt {
     // Below the directory of games. Without one of them the game shows a message and counts as lost; sounds and
     // songs may be missing.
     std::span<const TextView> dateien;
+    // It leaves "W", "L" or "U" as its outcome, and is played again as long as it is "U", a draw.
+    bool kenntUnentschieden = false;
 };
 
 // All of them, in the order in which the names are tested.

@@ -32,7 +32,7 @@ constexpr std::array forms{
     Form{Arg::portrait,      2, 2, "links|rechts \"DATEI\"",  "links oder rechts und eine Bilddatei",       "Which frame (1 and 2 mean the same), and a file in `graphics`."},
     Form{Arg::choice,        1, anyNumber, "\"FRAGE\" ...",   "eine Frage in Anführungszeichen",            "The question, lines as in a text."},
     Form{Arg::option,        1, anyNumber, "\"ANTWORT\" ...", "den Text der Möglichkeit in Anführungszeichen", "The option's text, lines as in a text."},
-    Form{Arg::game,          2, 3, "SPIEL MERKER [PARAMETER]", "ein Spiel, einen Merker und vielleicht einen Parameter", "`PI`, `JUMP`, `ESEL`, `HDW`, `PRÜGEL`, `BRUHKS`, `PONG` or `MEMORY`; the flag that tells the outcome; for `PRÜGEL` perhaps `zaubertrank`."},
+    Form{Arg::game,          2, 3, "SPIEL MERKER [PARAMETER]", "ein Spiel, einen Merker und vielleicht einen Parameter", "A game, which is {}; the flag that tells the outcome; for `PRÜGEL` perhaps `zaubertrank`."},
     Form{Arg::label,         1, 1, "MARKE",                   "den Namen einer Marke",                      "The name of a label in this script."},
     Form{Arg::word,          1, 1, "WORT",                    "ein Wort: Open, Save, Abspann oder Ende",    "`Open`, `Save` or `Abspann`, exactly so; any other word closes the room window."},
     Form{Arg::seconds,       1, 1, "SEKUNDEN",                "eine Zahl von Sekunden",                     "Seconds, with a point for fractions; 0 switches it off."},

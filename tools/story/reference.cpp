@@ -1,6 +1,7 @@
 #include "tools/story/reference.h"
 
 #include "tools/story/grammar.h"
+#include "tools/story/words.h"
 
 namespace zentrox::story {
 
@@ -39,6 +40,18 @@ std::string asCode(std::string_view text) {
     return text.empty() ? std::string() : "`" + inCell(text) + "`";
 }
 
+// The names of the games stand for themselves in what is said of an argument.
+std::string meaningOf(const Form& form) {
+    std::string meaning = form.meaning;
+    const std::size_t place = meaning.find("{}");
+    if (place == std::string::npos) return meaning;
+    std::string names;
+    const auto games = gameNames();
+    for (const Text& game : games)
+        names += (&game == &games.front() ? "" : &game == &games.back() ? " or " : ", ") + asCode(toUtf8(game));
+    return meaning.replace(place, 2, names);
+}
+
 std::string commandsWith(Arg arg) {
     std::string names;
     for (const Opcode& opcode : opcodes())
@@ -56,8 +69,8 @@ std::string referencePage() {
     page += argumentsHead;
     for (const Form& form : allForms())
         if (form.arg != Arg::none)
-            page +=
-                "| " + asCode(form.usage) + " | " + inCell(form.meaning) + " | " + commandsWith(form.arg) + " |\n";
+            page += "| " + asCode(form.usage) + " | " + inCell(meaningOf(form)) + " | " + commandsWith(form.arg) +
+                    " |\n";
     return page;
 }
 
