@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cassert>
-#include "engine/files/titeldatei.h"
 
+#include "engine/files/titeldatei.h"
 #include "engine/language/games.h"
 #include "games/bruhks/bruhks.h"
 #include "games/fight/fight.h"
