@@ -9,6 +9,9 @@ namespace zentrox::prove {
 
 namespace {
 
+// So many states are looked at to find out whether a game that went a little otherwise could be won.
+constexpr std::size_t mostLooks = 20000;
+
 std::size_t at(std::int32_t index) {
     return static_cast<std::size_t>(index);
 }
@@ -29,8 +32,9 @@ bool changes(Op op) {
 
 class LossFinder {
 public:
-    LossFinder(const Program& program, Search& search)
+    LossFinder(const Program& program, const std::vector<char>& matters, Search& search)
         : program_(program),
+          matters_(matters),
           search_(search),
           store_(search.store()),
           machine_(search.machine()) {
@@ -94,8 +98,9 @@ private:
             effects.emplace_back(stack_.frames.back().script, stack_.frames.back().index);
         }
         for (const TraceStep& step : trace_) {
-            const auto& nodes = program_.scripts[at(step.script)].nodes;
-            if (at(step.index) + 1 < nodes.size() && changes(nodes[at(step.index)].op))
+            const Script& script = program_.scripts[at(step.script)];
+            if (at(step.index) + 1 < script.nodes.size() && changes(script.nodes[at(step.index)].op) &&
+                matters_[at(script.first + step.index)])
                 effects.emplace_back(step.script, step.index);
         }
         if (!effects.empty()) return effects;
@@ -114,7 +119,7 @@ private:
         for (const bool gives : {true, false})
             for (const auto& effect : effects) {
                 const Node& node = program_.scripts[at(effect.first)].nodes[at(effect.second)];
-                if ((node.op == Op::give) == gives && isAlive(without(from, to, node))) return effect;
+                if ((node.op == Op::give) == gives && canBeWon(without(from, to, node))) return effect;
             }
         for (auto effect = effects.rbegin(); effect != effects.rend(); ++effect)
             if (program_.scripts[at(effect->first)].nodes[at(effect->second)].op == Op::room) return *effect;
@@ -156,6 +161,31 @@ private:
         return id != nobody && (store_.mark(id) & (mark::alive | mark::after)) == mark::alive;
     }
 
+    // Plays on from a state that no play may ever come to.
+    bool canBeWon(const State& start) {
+        const auto words = static_cast<std::size_t>(store_.wordCount());
+        std::set<std::vector<std::uint64_t>> seen;
+        std::vector<State> todo{start};
+        std::vector<Action> actions;
+        for (std::size_t i = 0; i < todo.size() && i < mostLooks; ++i) {
+            const State from = todo[i];
+            if (store_.find(from.words.data()) != nobody) {
+                if (isAlive(from)) return true;
+                continue;
+            }
+            machine_.actions(from, actions);
+            for (const Action action : actions) {
+                State to = from;
+                const Outcome outcome = machine_.step(to, action);
+                if (outcome.ended) return true;
+                if (outcome.kind == Outcome::Kind::on &&
+                    seen.emplace(to.words.begin(), to.words.begin() + static_cast<std::ptrdiff_t>(words)).second)
+                    todo.push_back(to);
+            }
+        }
+        return false;
+    }
+
     std::vector<std::string> missing(const State& to) const {
         std::vector<std::string> all;
         for (const Item& item : program_.items) {
@@ -176,6 +206,7 @@ private:
     }
 
     const Program& program_;
+    const std::vector<char>& matters_;
     Search& search_;
     Store& store_;
     Machine machine_;
@@ -187,8 +218,8 @@ private:
 
 }  // namespace
 
-std::vector<LosingStep> findLosingSteps(const Program& program, Search& search) {
-    return LossFinder(program, search).find();
+std::vector<LosingStep> findLosingSteps(const Program& program, const std::vector<char>& matters, Search& search) {
+    return LossFinder(program, matters, search).find();
 }
 
 }  // namespace zentrox::prove

@@ -13,6 +13,7 @@ struct LosingStep {
 };
 
 // One for each instruction, the one that is reached in the fewest steps first. `search` must know what is alive.
-std::vector<LosingStep> findLosingSteps(const Program& program, Search& search);
+// `matters` tells of each node whether it can have a part in it.
+std::vector<LosingStep> findLosingSteps(const Program& program, const std::vector<char>& matters, Search& search);
 
 }  // namespace zentrox::prove

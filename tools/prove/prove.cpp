@@ -55,10 +55,13 @@ private:
 
     // False if some item can be carried more than once, which asks for another layout of the state.
     bool search() {
+        const Asked asked{[this](std::int32_t script, std::int32_t index) {
+                              return program_.scripts[at(script)].nodes[at(index)].ending != -1;
+                          },
+                          nullptr, nullptr};
+        losers_ = Influence(program_).of(asked).nodes;
         if (options_.reduced) {
-            reduced_ = projectFor({[this](std::int32_t script, std::int32_t index) {
-                return program_.scripts[at(script)].nodes[at(index)].ending != -1;
-            }});
+            reduced_ = projectFor(asked);
             if (!scout()) return false;
         } else {
             reduced_ = program_;
@@ -160,6 +163,10 @@ private:
         questions_->add(seen, program_);
         return walkText(program_, *stacks_, played, title);
     }
+    // Behind "nach".
+    static std::string stepsThen(std::size_t count) {
+        return std::to_string(count) + (count == 1 ? " Schritt" : " Schritten");
+    }
     static std::string steps(std::size_t count) {
         return std::to_string(count) + (count == 1 ? " Schritt" : " Schritte");
     }
@@ -179,11 +186,11 @@ private:
     void tellDeadEnds() {
         if (report_.endings.empty()) return;
         search_->findAlive();
-        for (const LosingStep& losing : findLosingSteps(reduced_, *search_)) {
+        for (const LosingStep& losing : findLosingSteps(reduced_, losers_, *search_)) {
             const story::Place place = program_.placeOf(losing.script, losing.index);
             report_.findings.error(place, "verbaut", lossInWords(losing));
             DeadEnd dead{place, static_cast<std::uint32_t>(losing.way.size()), {}};
-            dead.walk = walk(losing.way, "Sackgasse nach " + steps(losing.way.size()));
+            dead.walk = walk(losing.way, "Sackgasse nach " + stepsThen(losing.way.size()));
             report_.dead.push_back(std::move(dead));
         }
     }
@@ -191,7 +198,8 @@ private:
         const auto played = play(program_, *stacks_, losing.way, nullptr);
         const PlayedStep& last = played.back();
         std::string text = "hinter diesem Schritt ist kein Ende mehr zu erreichen (" +
-                           inWords(program_, last.before, last.action) + ", nach " + steps(losing.way.size()) + ")";
+                           inWords(program_, last.before, last.action) + ", nach " + stepsThen(losing.way.size()) +
+                           ")";
         if (last.after.stack() == hangs) text += "; das Spiel kommt aus seiner Schleife nicht mehr heraus";
         if (last.after.stack() == stops) text += "; den Raum gibt es nicht, das Spiel bricht ab";
         std::vector<std::string> gone;
@@ -323,6 +331,7 @@ private:
     Program program_;
     Program reduced_;
     std::vector<std::vector<char>> matters_;
+    std::vector<char> losers_;  // nodes that can have a part in a dead end
     bool evilCounts_ = true;
     std::unique_ptr<Stacks> stacks_;
     std::unique_ptr<Questions> questions_;

@@ -80,8 +80,11 @@ void Search::run() {
     for (const std::int16_t ending : outcome.endings) noteHit(ending, nobody, {}, 0);
     if (outcome.kind == Outcome::Kind::on) {
         std::array<std::uint64_t, 2 * mostWords> packed;
-        const auto added = addFirst(pack(first, packed), nobody, 0);
-        if (outcome.ended) store_.mark(added.id) |= mark::after;
+        const std::uint64_t* const words = pack(first, packed);
+        if (outcome.ended)
+            late_.push_back({nobody, 0, {words, words + store_.wordCount()}});
+        else
+            addFirst(words, nobody, 0);
     }
     for (std::uint32_t level = 0; complete_ && takeLevel(level); ++level) {
     }

@@ -20,7 +20,7 @@ std::size_t at(std::int32_t index) {
     return static_cast<std::size_t>(index);
 }
 
-std::string quoted(const std::string& word) {
+std::string inQuotes(const std::string& word) {
     return '"' + word + '"';
 }
 
@@ -62,12 +62,12 @@ private:
         const Action action = step.action;
         const Room& room = program_.rooms[at(step.before.room())];
         const auto item = [&](std::int32_t index) {
-            return quoted(toUtf8(story::itemName(program_.items[at(index)].file)));
+            return inQuotes(toUtf8(story::itemName(program_.items[at(index)].file)));
         };
         switch (action.kind) {
             case Kind::use: return click(room, step.before, action.a, "use ", "left");
             case Kind::look: return click(room, step.before, action.a, "look ", "right");
-            case Kind::give: return line("give " + item(action.a) + " " + quoted(nameOf(room, action.b)));
+            case Kind::give: return line("give " + item(action.a) + " " + inQuotes(nameOf(room, action.b)));
             case Kind::useItem: return line("use item " + item(action.a));
             case Kind::lookItem: return line("look item " + item(action.a));
             case Kind::combine: return line("combine " + item(action.a) + " " + item(action.b));
@@ -92,7 +92,7 @@ private:
             const bool active = other.bit == -1 ? other.active : state.bit(other.bit);
             if (!other.reached || !active || !equalIgnoringCase(fromUtf8(nameOf(room, i)), fromUtf8(name)))
                 continue;
-            if (i == index && !name.empty()) return line(word + quoted(name));
+            if (i == index && !name.empty()) return line(word + inQuotes(name));
             break;
         }
         const Point place = cellOf(room, index);
@@ -145,28 +145,37 @@ private:
         const std::int32_t command = commandAt(step.script, step.index);
         const TextView argument = argumentOf(*script.source, at(std::max(step.index, 0)));
         if (command == "Film"_op || (command == "System"_op && argument == "Abspann")) {
-            read();
+            readOneByOne();
             slow_ = true;
         }
         if (command != "Text"_op) return;
         const std::string text = lineOf(argument);
         if (isLast) {
             read();
-            if (!text.empty()) line("until text " + quoted(text) + (slow_ ? patience : ""));
+            if (!text.empty()) line("until text " + inQuotes(text) + (slow_ ? patience : ""));
             if (text.empty()) line("wait 400");
             return;
         }
         if (slow_ && texts_.empty() && !text.empty()) {
-            line("until text " + quoted(text) + patience);
+            line("until text " + inQuotes(text) + patience);
             slow_ = false;
         }
         texts_.push_back(text);
+    }
+    // Texts before something that takes longer than a walk waits while it reads.
+    void readOneByOne() {
+        for (std::size_t i = 0; i < texts_.size(); ++i) {
+            if (i > 0 && !texts_[i - 1].empty()) line("until not text " + inQuotes(texts_[i - 1]));
+            line(texts_[i].empty() ? "wait 400" : "until text " + inQuotes(texts_[i]) + patience);
+            line("key enter");
+        }
+        texts_.clear();
     }
     void read() {
         if (texts_.empty()) return;
         std::string command = "read";
         for (const std::string& text : texts_)
-            if (!text.empty()) command += " " + quoted(text);
+            if (!text.empty()) command += " " + inQuotes(text);
         line(command);
         texts_.clear();
     }
