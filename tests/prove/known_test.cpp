@@ -275,6 +275,23 @@ TEST(Known, WhatNoPlayComesTo) {
             << reduced;
 }
 
+// The game tells of it in a box, ends the script and goes on.
+TEST(Known, ARoomThatIsNotThere) {
+    const Proof proof(startRoom(object("Loch", 0, R"(        Links
+            SetzeMerker GEFALLEN
+            Raumwechsel "Nirgends.lsd"
+            SetzeMerker NIE
+)") + object("Tor", 100, R"(        Links
+            WennMerker GEFALLEN
+                Raumwechsel "Ende.lsd"
+            EndeWenn
+)")));
+    EXPECT_EQ(proof.endings(), "gut 2");
+    EXPECT_EQ(proof.dead(), "");
+    EXPECT_EQ(proof.findings(), "nie-gespielt 7");
+    EXPECT_NE(proof.report.endings.front().walk.find("until window MsgBox\nkey enter\n"), std::string::npos);
+}
+
 TEST(Known, ASilencedDeadEnd) {
     const Proof proof(startRoom(object("Knopf", 0, R"(        Links
             // stumm: verbaut

@@ -48,7 +48,7 @@ void Stacks::load(std::uint32_t number, Stack& stack) const {
     stack.running = number != idle;
     stack.timer = number == idle;
     stack.answer = 0;
-    if (number == idle || number == hangs || number == stops) return;
+    if (number == idle || number == hangs) return;
     const auto names = static_cast<std::uint32_t>(program_.itemNames.size());
     const std::uint32_t known = static_cast<std::uint32_t>(program_.decisions.size()) * names;
     if (number <= known) {
@@ -88,7 +88,7 @@ Machine::Machine(const Program& program, Stacks& stacks, bool evilCounts)
 
 void Machine::actions(const State& state, std::vector<Action>& out) {
     out.clear();
-    if (state.stack() == hangs || state.stack() == stops) return;
+    if (state.stack() == hangs) return;
     stacks_.load(state.stack(), stack_);
     const bool ticks = stack_.timer && state.bit(program_.layout.countDown);
     if (stack_.frames.empty()) {
@@ -357,14 +357,11 @@ void Machine::answer(std::int32_t option) {
     if (script.nodes[at(before)].ending != -1) reach(script.nodes[at(before)].ending);
 }
 
-// Enters a room: the running script is over but for its closing steps, which those of the room's own script do as
-// well. A room's own scripts run in place, so that those that stand below go on in the new room's.
+// Enters a room; where there is none by that name, the run ends and the player stays. The running script is over
+// but for its closing steps, which those of the room's own script do as well. A room's own scripts run in place, so
+// that those that stand below go on in the new room's.
 void Machine::enter(std::int32_t room) {
-    if (room == -1) {
-        state_->setStack(stops);
-        over_ = true;
-        return;
-    }
+    if (room == -1) return pop();
     const Room& to = program_.rooms[at(room)];
     seen.rooms[at(room)] = 1;
     state_->setRoom(room);

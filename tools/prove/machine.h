@@ -45,10 +45,9 @@ private:
     static unsigned shift(int index) { return static_cast<unsigned>(index) % 64; }
 };
 
-// A stack of 0: the player may click. These stand for a game that hangs or has stopped for good.
+// A stack of 0: the player may click. The other one stands for a game that hangs for good.
 constexpr std::uint32_t idle = 0;
 constexpr std::uint32_t hangs = 0xFFFFFFFF;
-constexpr std::uint32_t stops = 0xFFFFFFFE;
 
 // One script in progress.
 struct Frame {

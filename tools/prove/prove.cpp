@@ -201,7 +201,6 @@ private:
                            inWords(program_, last.before, last.action) + ", nach " + stepsThen(losing.way.size()) +
                            ")";
         if (last.after.stack() == hangs) text += "; das Spiel kommt aus seiner Schleife nicht mehr heraus";
-        if (last.after.stack() == stops) text += "; den Raum gibt es nicht, das Spiel bricht ab";
         std::vector<std::string> gone;
         std::vector<std::string> carried;
         for (const Item& item : program_.items) {

@@ -148,6 +148,12 @@ private:
             readOneByOne();
             slow_ = true;
         }
+        if (command == "Raumwechsel"_op && at(step.index) < script.nodes.size() &&
+            script.nodes[at(step.index)].a == -1 && missing_.insert({step.script, step.index}).second) {
+            readOneByOne();
+            line("until window MsgBox");
+            line("key enter");
+        }
         if (command != "Text"_op) return;
         const std::string text = lineOf(argument);
         if (isLast) {
@@ -191,7 +197,8 @@ private:
     std::string out_;
     Stack stack_;
     std::vector<std::string> texts_;
-    bool slow_ = false;  // a film or the credits run
+    std::set<std::pair<std::int32_t, std::int32_t>> missing_;  // rooms that a box has told of; it does so once
+    bool slow_ = false;                                        // a film or the credits run
 };
 
 }  // namespace
