@@ -163,11 +163,11 @@ Game& Player::room(const std::string& wanted) {
 }
 
 void Player::whenFree(const std::string& wanted, Unfold then) {
-    Game& game = room(wanted);
+    room(wanted);
     const auto asked = [this] { return game_->standingText() || game_->choiceOpen(); };
     const auto busy = [this, asked] { return game_->scriptRuns() && inRoomWindow() && !asked(); };
     if (busy()) pushUntil([busy] { return !busy(); }, scriptLimit, wanted + " to be clicked");
-    push(Unfold([this, &game, wanted, asked, then = std::move(then)] {
+    push(Unfold([this, wanted, asked, then = std::move(then)] {
         if (asked()) fail(wanted + " to be clicked", seen());
         then();
     }));
