@@ -8,11 +8,11 @@ german=(engine room saves menu games media)
 english=(platform main tools tests bench fuzz)
 status=0
 
-# The identifiers with an umlaut below these folders, each once; comments, texts and characters aside.
+# The identifiers with an umlaut below these folders, each once; texts, characters and comments aside.
 names_in() {
-    grep -rhE --include='*.h' --include='*.cpp' '[äöüßÄÖÜ]' "$@" |
-        sed -E -e 's/\\.//g' -e 's/"[^"]*"//g' -e "s/'[^']*'//g" -e 's#//.*##' | grep -E '[][(){};=,<>]' |
-        grep -oP '[\wäöüßÄÖÜ]*[a-zäöüß][\wäöüßÄÖÜ]*' | grep '[äöüßÄÖÜ]' | sort -u
+    find "$@" \( -name '*.h' -o -name '*.cpp' \) -exec cat {} + |
+        perl -0pe 's/R"(\w*)\(.*?\)\1"//gs; s/\\.//g; s/"[^"\n]*"//g; s/\x27[^\x27\n]*\x27//g; s#//.*##g' |
+        grep -oP '[\wäöüßÄÖÜ]*[äöüßÄÖÜ][\wäöüßÄÖÜ]*' | sort -u
 }
 
 known=$(names_in "${german[@]}")
