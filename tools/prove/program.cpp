@@ -58,6 +58,11 @@ std::int32_t behindSkip(const std::vector<std::int32_t>& commands, std::int32_t 
     return at + 1;
 }
 
+// Named here, since not every compiler takes them for constants inside of a template.
+constexpr std::int32_t choiceBegins = "Auswahl"_op;
+constexpr std::int32_t choiceEnds = "EndeAuswahl"_op;
+constexpr std::int32_t caseBegins = "Fall"_op;
+
 template <class Fits>
 std::int32_t behindCase(const Skript& script, std::int32_t at, const Fits& fits) {
     const auto end = static_cast<std::int32_t>(script.Befehl.size());
@@ -65,9 +70,9 @@ std::int32_t behindCase(const Skript& script, std::int32_t at, const Fits& fits)
     while (depth != -1) {
         if (++at >= end) return end;
         const std::int32_t command = script.Befehl[static_cast<std::size_t>(at)];
-        if (command == "EndeAuswahl"_op) --depth;
-        if (command == "Auswahl"_op) ++depth;
-        if (command == "Fall"_op && depth == 0 && fits(argumentOf(script, static_cast<std::size_t>(at)))) break;
+        if (command == choiceEnds) --depth;
+        if (command == choiceBegins) ++depth;
+        if (command == caseBegins && depth == 0 && fits(argumentOf(script, static_cast<std::size_t>(at)))) break;
     }
     return at + 1;
 }
