@@ -41,7 +41,7 @@ Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
     return tabelle;
 }
 
-int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
+int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter& beobachter) {
     try {
         Medien medien(platform, zustand);
         const Spieltabelle tabelle = spiele(platform, zustand, medien);
@@ -73,7 +73,8 @@ void takeTitle(Platform& platform, Zustand& zustand) {
 int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
     try {
         takeTitle(platform, zustand);
-        return fenster(platform, zustand, kommandozeile, beobachter);
+        Beobachter niemand;
+        return fenster(platform, zustand, kommandozeile, beobachter != nullptr ? *beobachter : niemand);
     } catch (const DataError& error) {
         try {
             showMessageBox(platform, {"Zentrox", error.message(), MessageBox::Icon::critical});

@@ -17,6 +17,7 @@ public:
     // True if `nachher` is done later. Of the ticks of a timer that could not fire only one is.
     bool Halten(std::function<void()> nachher, bool tick = false);
     bool Leer() const { return wartend_.empty(); }
+    void Verwerfen() { wartend_.clear(); }
     // Does what waits, if nothing slides.
     void Nachholen();
 

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "engine/files/raumdatei.h"
+#include "engine/interpreter/sprung.h"
 #include "engine/language/directories.h"
 #include "engine/state/felder.h"
 #include "engine/state/mangel.h"
@@ -30,12 +31,13 @@ constexpr double strichfarben = 1231312312;
 }  // namespace
 
 Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile,
-             Beobachter* beobachter)
+             Beobachter& beobachter)
     : Window(platform, "Form1", zustand.Titel.Name, kleinstes, Frame::sizable),
       platform_(platform),
       z_(zustand),
       medien_(medien),
       kommandozeile_(std::move(kommandozeile)),
+      beobachter_(beobachter),
       interpreter_(platform, zustand, medien, *this, spiele, beobachter),
       Hintergrund(platform.fonts, &root(), {{0, 0}, kleinstes}),
       Frame1(&root(), {{0, 0}, rahmen}),
@@ -61,7 +63,8 @@ Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spielta
 void Form1::Zeigen() {
     try {
         Form_Load();
-        platform_.queue.waitUntil("Form1", [] { return false; });
+        beobachter_.Öffnet(*this);
+        weiterlaufen([this] { Lade(z_.PfadRooms + ersterRaum()); });
     } catch (const DataError& fehler) {
         // What can't be gone on from ends in the menu.
         try {
@@ -71,6 +74,36 @@ void Form1::Zeigen() {
         }
     }
     Form_QueryUnload(1);
+}
+
+void Form1::weiterlaufen(std::function<void()> tun) {
+    for (;;) {
+        try {
+            tun();
+            platform_.queue.waitUntil("Form1", [] { return false; });
+        } catch (Sprung& sprung) {
+            tun = std::move(sprung.weiter);
+        }
+        aufgeben();
+    }
+}
+
+// As it is between two scripts, whatever stood on the picture.
+void Form1::aufgeben() {
+    platform_.queue.disownHeld();
+    interpreter_.Aufgeben();
+    aufschub_.Verwerfen();
+    leiste_.Weg();
+    medien_.StimmeFrei();
+    medien_.VideoStop();
+    filmLäuft_ = false;
+    textband_.reset();
+    AuswahlZeile = -1;
+    Picture1.setAutoRedraw(true);
+    Picture1.setPicture(Picture3.image());
+    CountDown.setEnabled(true);
+    zeiger_.Standard();
+    z_.ZeigerLetzter = -1;
 }
 
 void Form1::Form_Load() {
@@ -84,7 +117,6 @@ void Form1::Form_Load() {
     AuswahlZeile = -1;
     tonStarten();
     open();
-    Lade(z_.PfadRooms + ersterRaum());
 }
 
 void Form1::tonStarten() {
@@ -133,6 +165,7 @@ std::optional<Text> Form1::betreten(Raum raum, TextView Name) {
     z_.AktuellerRaum = std::move(raum);
     z_.AktuellerRaum.Bild = Trim(z_.AktuellerRaum.Bild);
     raumbildLaden();
+    beobachter_.Betritt(z_.RaumDatei);
     return interpreter_.RaumStarten();
 }
 

@@ -19,12 +19,12 @@ namespace zentrox {
 
 class Form1 : public Window, public Raumfenster {
 public:
-    // All of these must outlive it. `kommandozeile` names the first room, if it is not empty; `beobachter` may be
-    // null.
+    // All of these must outlive it. `kommandozeile` names the first room, if it is not empty.
     Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile,
-          Beobachter* beobachter = nullptr);
+          Beobachter& beobachter);
+    ~Form1() override { beobachter_.Schließt(); }
 
-    // Starts sound, shows the window, opens the first room and serves the queue from then on. Leaves only by the
+    // Starts sound, shows the window, enters the first room and serves the queue from then on. Leaves only by the
     // end of the process.
     [[noreturn]] void Zeigen();
 
@@ -73,6 +73,10 @@ private:
     // Tells of missing data, where no script's command asked for it.
     void melden(const DataError& fehler);
 
+    // Goes on from where a wait was left by a `Sprung`, until the process ends.
+    [[noreturn]] void weiterlaufen(std::function<void()> tun);
+    void aufgeben();
+
     void Form_Load();
     void Form_Resize();
     void Form_KeyDown(int code);
@@ -116,6 +120,7 @@ private:
     Zustand& z_;
     Medien& medien_;
     Text kommandozeile_;
+    Beobachter& beobachter_;
     Interpreter interpreter_;
 
     Surface Hintergrund;

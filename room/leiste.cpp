@@ -122,6 +122,11 @@ void Leiste::Verstecke() {
     Picture1.setAutoRedraw(true);
     Picture1.copy(Picture3.image(), {0, oben(), W, z_.LeisteHöhe}, {0, oben()});
     Picture1.refresh();
+    Weg();
+}
+
+void Leiste::Weg() {
+    z_.LeisteOffen = false;
     z_.LeisteHöhe = 0;
     z_.LeisteWinkel = 0;
     z_.LeisteZu = true;

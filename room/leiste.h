@@ -17,6 +17,8 @@ public:
     // Slide it up or down and serve the queue meanwhile; return when it stands or is gone.
     void Zeige();
     void Verstecke();
+    // No bar any more; the picture is left to who calls.
+    void Weg();
 
     // Points are in pixels of `Picture1`. Until it stands nothing is in it.
     bool Enthält(int Y) const { return z_.LeisteOffen && Y >= oben(); }

@@ -155,7 +155,8 @@ void Form1::auswahlWählen(float Y) {
 
 void Form1::losInLeiste(int slot) {
     const bool geklickt = z_.GezogenerGegenstand == slot || z_.GezogenerGegenstand == -1;
-    const Text stamm = z_.PfadItems + leiste_.Name(slot);
+    const Text gegenstand = leiste_.Name(slot);
+    const Text stamm = z_.PfadItems + gegenstand;
     const Text endungen = geklickt ? std::to_string(z_.MausTaste - 1) : "2";
     Skript skript;
     try {
@@ -168,6 +169,7 @@ void Form1::losInLeiste(int slot) {
     z_.ZeigerLetzter = -1;
     if (skript.Letzter < 0) return;
     Picture1.setToolTip("");
+    beobachter_.HandeltInLeiste(gegenstand, geklickt ? z_.MausTaste - 1 : 2, geklickt ? Text() : z_.GezogenerName);
     interpreter_.SkriptAusführen(skript, -1, z_.GezogenerName);
     z_.MausTaste = 0;
 }
@@ -187,6 +189,7 @@ void Form1::losImRaum(int X, int Y) {
     if (objekt.HatSkript[k]) {
         // A room change inside the script overwrites the objects.
         const Skript kopie = objekt.Aktion[k];
+        if (objekt.Aktiv) beobachter_.Handelt(i, static_cast<int>(k), fallen ? z_.GezogenerName : Text());
         interpreter_.SkriptAusführen(kopie, i, fallen ? z_.GezogenerName : Text());
     }
     z_.MausTaste = 0;

@@ -23,7 +23,8 @@ struct Engine {
     Medien medien{platform, z};
     test::FakeRaumfenster raum;
     Spieltabelle spiele;
-    Interpreter interpreter{platform, z, medien, raum, spiele};
+    Beobachter niemand;
+    Interpreter interpreter{platform, z, medien, raum, spiele, niemand};
 
     // Runs a script again and again; `steps` instructions are passed in a run, those that a scan walks over
     // included.

@@ -43,7 +43,7 @@ struct RoomStage : test::Stage {
         for (const char* const name :
              {"taste1", "taste2", "ge2", "werfen", "hand1", "hand2", "hand3", "hand4", "hand5"})
             writeFile(directory.path() / "cursors" / (std::string(name) + ".ico"), icon());
-        backend.then([this] { form.emplace(platform, zustand, medien, spiele, "Start.lsd"); });
+        backend.then([this] { form.emplace(platform, zustand, medien, spiele, "Start.lsd", niemand); });
         platform.queue.yield("bench");
         // The room window's start serves the queue for ever; its end comes from inside.
         Timer end(platform.queue, 2000, true, [] { Queue::endProgram(); });
@@ -56,6 +56,7 @@ struct RoomStage : test::Stage {
     Zustand zustand;
     Medien medien{platform, zustand};
     Spieltabelle spiele;
+    Beobachter niemand;
     std::optional<Form1> form;
 };
 

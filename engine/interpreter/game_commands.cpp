@@ -67,15 +67,21 @@ void Interpreter::Spielen(Lauf& lauf) {
 bool Interpreter::spiele(const Lauf& lauf, const Text& name, const Spiel& spiel) {
     const Offen offen(offeneSpiele_, name);
     const Queue::Reason grund(platform_.queue, "Spiel " + name);
+    beobachter_.SpielBeginnt(name);
+    bool sieg = false;
     try {
         const SpielArt* const art = findSpiel(name);
-        if (art != nullptr && art->kenntUnentschieden) return spieleBisEntschieden(spiel, z_);
-        spiel();
-        return gewonnen(z_.Übergabe);
+        if (art != nullptr && art->kenntUnentschieden) {
+            sieg = spieleBisEntschieden(spiel, z_);
+        } else {
+            spiel();
+            sieg = gewonnen(z_.Übergabe);
+        }
     } catch (const DataError& fehler) {
         auslassen(lauf, fehler);
-        return false;
     }
+    beobachter_.SpielEndet(name, sieg);
+    return sieg;
 }
 
 // The words count exactly, blanks and case included.

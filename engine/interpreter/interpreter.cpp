@@ -81,7 +81,7 @@ constexpr std::array<Interpreter::Handler, OpcodeAnzahl> Interpreter::handlers =
 }();
 
 Interpreter::Interpreter(Platform& platform, Zustand& zustand, Medien& medien, Raumfenster& raum,
-                         const Spieltabelle& spiele, Beobachter* beobachter)
+                         const Spieltabelle& spiele, Beobachter& beobachter)
     : platform_(platform),
       z_(zustand),
       medien_(medien),
@@ -113,6 +113,7 @@ std::optional<Text> Interpreter::RaumStarten() {
 void Interpreter::ImRaumBleiben(const DataError& fehler) {
     MangelMelden(platform_, z_, fehler.message(), letzterOrt_ + ", Raumwechsel");
     schließen(letzterZeiger_);
+    if (tiefe_ == 0) beobachter_.Ruht();
 }
 
 void Interpreter::ausführen(Lauf& lauf, int objektIndex) {
@@ -123,12 +124,14 @@ void Interpreter::ausführen(Lauf& lauf, int objektIndex) {
     z_.SkriptLäuft = true;
     const std::int32_t zeigerLetzter = z_.ZeigerLetzter;
     eröffnen();
-    if (beobachter_ != nullptr) lauf.nummer = beobachter_->Beginnt(lauf.skript, z_.RaumDatei, objektIndex);
+    lauf.nummer = beobachter_.Beginnt(lauf.skript, z_.RaumDatei, objektIndex);
     durchlaufen(lauf);
     platform_.queue.disownHeld(anfang);
     ++läufe_;
     if (lauf.nächsterRaum) letzterZeiger_ = zeigerLetzter;
     if (lauf.schlussSchritte) schließen(zeigerLetzter);
+    beobachter_.Endet(lauf.nummer);
+    if (tiefe_ == 1 && !z_.SkriptLäuft) beobachter_.Ruht();
 }
 
 void Interpreter::eröffnen() {
@@ -146,7 +149,7 @@ void Interpreter::durchlaufen(Lauf& lauf) {
 #ifndef NDEBUG
         verfolgen(lauf);
 #endif
-        if (beobachter_ != nullptr) beobachter_->Anweisung(lauf.nummer, lauf.zeiger);
+        beobachter_.Anweisung(lauf.nummer, lauf.zeiger);
         if (++anweisungen_ == AnweisungenBisZurFrage) prüfeSchleife();
         if (findOpcode(lauf.befehl()) == nullptr) continue;
         try {
@@ -183,6 +186,15 @@ void Interpreter::schließen(std::int32_t zeigerLetzter) {
     z_.ZeigerLetzter = zeigerLetzter;
     z_.GezogenerGegenstand = -1;
     raum_.ZeigerAuffrischen();
+}
+
+// `Ebene` and `Offen` have gone with the runs.
+void Interpreter::Aufgeben() {
+    z_.SkriptLäuft = false;
+    z_.AuswahlErgebnis = 0;
+    z_.GezogenerGegenstand = -1;
+    z_.TastenCode = 0;
+    z_.MausTaste = 0;
 }
 
 bool Interpreter::PlatzFürLauf() const {

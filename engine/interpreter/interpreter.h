@@ -16,9 +16,9 @@ class Medien;
 
 class Interpreter {
 public:
-    // All of these must outlive it. `beobachter` may be null.
+    // All of these must outlive it.
     Interpreter(Platform& platform, Zustand& zustand, Medien& medien, Raumfenster& raum, const Spieltabelle& spiele,
-                Beobachter* beobachter = nullptr);
+                Beobachter& beobachter);
     Interpreter(const Interpreter&) = delete;
     Interpreter& operator=(const Interpreter&) = delete;
 
@@ -34,6 +34,9 @@ public:
     std::optional<Text> RaumStarten();
     // The room that `RaumStarten` has led on to can't be read: it is told of, and the run ends where it is.
     void ImRaumBleiben(const DataError& fehler);
+
+    // Forgets the runs that a `Sprung` has cut off.
+    void Aufgeben();
 
     // False when the stack is nearly used up by runs inside runs, so that what can be left out had better be.
     bool PlatzFürLauf() const;
@@ -103,7 +106,7 @@ private:
     Medien& medien_;
     Raumfenster& raum_;
     const Spieltabelle& spiele_;
-    Beobachter* const beobachter_;
+    Beobachter& beobachter_;
     int tiefe_ = 0;
     std::uint64_t läufe_ = 0;         // so many have ended
     std::vector<Text> offeneSpiele_;  // whose windows stand

@@ -67,7 +67,9 @@ private:
 
 void Interpreter::Ton(Lauf& lauf) {
     medien_.StimmeFrei();
-    medien_.TonStart(stimmDatei(platform_.files, z_.PfadSounds + Dateiname(lauf.argument())));
+    const Text datei = stimmDatei(platform_.files, z_.PfadSounds + Dateiname(lauf.argument()));
+    beobachter_.Klingt(datei);
+    medien_.TonStart(datei);
 }
 
 void Interpreter::TextZeigen(Lauf& lauf) {
@@ -75,14 +77,18 @@ void Interpreter::TextZeigen(Lauf& lauf) {
     raum_.ZeigText(text);
     z_.TastenCode = 0;
     z_.MausTaste = 0;
+    beobachter_.Zeigt(text);
     platform_.queue.waitUntil("Text", [this] { return z_.TastenCode != 0 || z_.MausTaste != 0; });
     platform_.queue.disownHeld();
+    beobachter_.Gelesen();
     raum_.WegText(text);
     medien_.StimmeFrei();
 }
 
 void Interpreter::Film(Lauf& lauf) {
-    medien_.VideoStart(z_.PfadMovies + Dateiname(lauf.argument()));
+    const Text datei = z_.PfadMovies + Dateiname(lauf.argument());
+    beobachter_.Film(datei);
+    medien_.VideoStart(datei);
     const auto abgebrochen = [this] { return z_.TastenCode == key::escape; };
     platform_.queue.disownHeld();
     // A tick may start a run that waits inside this wait; the film does not stand still meanwhile.
@@ -98,12 +104,15 @@ void Interpreter::Film(Lauf& lauf) {
     medien_.VideoStop();
     raum_.FilmEnde();
     platform_.queue.disownHeld();
+    beobachter_.FilmEndet();
 }
 
 void Interpreter::Fehlerton(Lauf& /*lauf*/) {
     medien_.StimmeFrei();
     const int nummer = ersterFehlerton + platform_.random.below(Fehlertöne);
-    medien_.TonStart(z_.PfadSounds + "Error" + std::to_string(nummer) + ".mp3");
+    const Text datei = z_.PfadSounds + "Error" + std::to_string(nummer) + ".mp3";
+    beobachter_.Klingt(datei);
+    medien_.TonStart(datei);
 }
 
 void Interpreter::Musik(Lauf& lauf) {
@@ -120,8 +129,10 @@ void Interpreter::Auswahl(Lauf& lauf) {
     z_.AuswahlErgebnis = -2;
     raum_.ZeigText(text);
     platform_.queue.disownHeld();
+    beobachter_.Fragt(z_.AuswahlTexte);
     const std::int32_t wahl = warteAufWahl(text);
     platform_.queue.disownHeld();
+    beobachter_.Gewählt(wahl);
     raum_.ZeigerEigen();
     z_.ZeigerLetzter = 1;
     raum_.WegText(text);

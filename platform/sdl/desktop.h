@@ -21,6 +21,12 @@ public:
     void setFullScreen(bool on);
     Enlarging enlarging() const { return screen_.enlarging(); }
     void setEnlarging(Enlarging how);
+    // What is drawn over the game's picture, see `Scene`; and that it would look different now.
+    void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) {
+        screen_.setOverlay(std::move(overlay));
+        refreshOverlay();
+    }
+    void refreshOverlay() { screen_.expose(); }
     // Called before the clock stands still because the window was minimised, and after it goes on. Who asks the
     // clock in another thread must not between the two.
     std::function<void(bool paused)> onPause;

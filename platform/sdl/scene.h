@@ -2,6 +2,7 @@
 // Knows nothing of the window system.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -29,6 +30,10 @@ public:
     // Moves the topmost window by its title bar, which the pointer took hold of at `grip` of its client area.
     void dragTop(Point to, Point grip);
     void pressCloseBox(bool down);
+
+    // Draws over the windows, in pixels of the game, whenever a part is shown anew, held to that part. `base` is
+    // where the bottommost window's client area stands. The game knows nothing of it.
+    std::function<void(Bitmap& picture, const Rect& base)> overlay;
 
     // True if something would look different after `paint`.
     bool stale() const;

@@ -111,7 +111,7 @@ bool Queue::serveInput() {
 
 void Queue::deliver(const Input& input) {
     Window* const window = active();
-    if (window == nullptr) return;
+    if (window == nullptr || (firstLook && firstLook(input))) return;
     using Kind = Input::Kind;
     if (input.kind != Kind::resize) {
         window->showToolTip(false);

@@ -82,6 +82,10 @@ public:
     void windowOpened(Window& window);
     void windowClosed(Window& window);
 
+    // Asked for each input before the topmost window is told of it; true if that shall not know of it. It may open
+    // windows and wait.
+    std::function<bool(const Input& input)> firstLook;
+
     // A moment between two inputs, for `disownHeld`.
     HeldInputs::Mark heldMark() const { return held_.mark(); }
     // A state of the game is over: what is held down and began behind `since` belonged to it. Nobody gets its

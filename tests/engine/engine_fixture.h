@@ -40,7 +40,8 @@ protected:
     Medien medien{platform, z};
     FakeRaumfenster raum;
     Spieltabelle spiele;
-    Interpreter interpreter{platform, z, medien, raum, spiele};
+    Beobachter niemand;
+    Interpreter interpreter{platform, z, medien, raum, spiele, niemand};
 
     EngineTest() {
         const Text& root = platform.files.programDirectory();

@@ -1,8 +1,12 @@
-// The end of the program in every wait of a walk: all guards run, nothing is leaked, and nothing of it is left.
+// Out of every wait of a walk: by the end of the program, after which nothing is leaked and nothing of it is left,
+// and by a jump to another room, which is then as if it had been entered from nowhere.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <sstream>
 
+#include "engine/interpreter/raumfenster.h"
+#include "engine/interpreter/sprung.h"
 #include "main/spiel.h"
 #include "platform/values/error.h"
 #include "tests/support/fake_sound.h"
@@ -13,25 +17,31 @@
 namespace zentrox::probe {
 namespace {
 
-// Plays on until it is asked for the n-th time, then ends the process from there.
+// Plays on until it is asked for the n-th time, then leaves from there.
 class Impatient : public Person {
 public:
-    Impatient(Player& player, int patience) : player_(player), patience_(patience) {}
+    Impatient(Player& player, int patience, std::function<void()> leave)
+        : player_(player),
+          patience_(patience),
+          leave_(std::move(leave)) {}
     std::optional<Input> next() override {
         if (patience_-- == 0) {
             cut = true;
-            throw ProgramEnd{};
+            leave_();
         }
+        if (cut && then) then();
         return player_.next();
     }
     bool ready() override { return player_.ready(); }
     std::optional<Milliseconds> due() override { return player_.due(); }
 
     bool cut = false;
+    std::function<void()> then;  // at each later turn
 
 private:
     Player& player_;
     int patience_;
+    std::function<void()> leave_;
 };
 
 // True if the walk was cut off, false if it came to its end before.
@@ -39,7 +49,7 @@ bool endsAt(int turn, const Walk& walk, const Text& room, Fonts& fonts) {
     std::ostringstream said;
     ProbeBackend backend(1, nullptr);
     Player player(walk, backend, ".", said);
-    Impatient person(player, turn);
+    Impatient person(player, turn, [] { throw ProgramEnd{}; });
     backend.setPerson(&person);
     Recorder recorder(
         std::filesystem::path(WALK_DATA), [&] { return backend.clock(); }, [](Milliseconds, const Text&) {});
@@ -51,6 +61,57 @@ bool endsAt(int turn, const Walk& walk, const Text& room, Fonts& fonts) {
     EXPECT_TRUE(platform.queue.windows().empty());
     EXPECT_EQ(platform.queue.reasons(), "");
     return person.cut;
+}
+
+// Knows the room window while it stands.
+class Door : public Beobachter {
+public:
+    void Öffnet(Raumfenster& raum) override { room = &raum; }
+    void Schließt() override { room = nullptr; }
+    void Ruht() override { ++rests; }
+
+    Raumfenster* room = nullptr;
+    int rests = 0;
+};
+
+struct Jump {
+    bool cut = false;              // false: the walk came to its end before
+    std::optional<Bitmap> seen{};  // the room behind the jump; nothing if there was no room window yet to jump from
+};
+
+// Jumps to another room at a turn, and ends when that rests.
+Jump jumpsAt(int turn, const Walk& walk, const Text& room, Fonts& fonts) {
+    std::ostringstream said;
+    ProbeBackend backend(1, nullptr);
+    Player player(walk, backend, ".", said);
+    Door door;
+    Recorder recorder(
+        std::filesystem::path(WALK_DATA), [&] { return backend.clock(); }, [](Milliseconds, const Text&) {});
+    Platform platform(backend, fonts, recorder, std::filesystem::path(WALK_DATA));
+    const auto zustand = std::make_unique<Zustand>();
+    bool jumped = false;
+    Impatient person(player, turn, [&] {
+        if (door.room == nullptr) return;
+        jumped = true;
+        door.rests = 0;
+        throw Sprung{[&] { door.room->Lade(zustand->PfadRooms + "Ziehen.lsd"); }};
+    });
+    std::optional<Bitmap> seen;
+    person.then = [&] {
+        if (!jumped || door.rests == 0) return;
+        EXPECT_EQ(platform.queue.windows().size(), 1U);
+        EXPECT_EQ(platform.queue.reasons(), "Form1");
+        EXPECT_TRUE(zustand->LeisteZu && !zustand->SkriptLäuft);
+        seen.emplace(Size{640, 480});
+        seen->copy(platform.queue.active()->compose(), {0, 0});
+        throw ProgramEnd{};
+    };
+    backend.setPerson(&person);
+    Story story(platform, *zustand, recorder);
+    player.attach(&platform, &story);
+    EXPECT_EQ(Spielen(platform, *zustand, room, &door), 0);
+    EXPECT_EQ(door.room, nullptr);
+    return {person.cut, std::move(seen)};
 }
 
 struct Case {
@@ -71,6 +132,23 @@ TEST_P(EndsTest, EveryWaitCanBeLeft) {
     int turn = 0;
     while (endsAt(turn, walk, GetParam().room, *fonts)) turn += GetParam().step;
     EXPECT_GT(turn, 20) << "the walk has hardly begun";
+}
+
+TEST_P(EndsTest, EveryWaitCanBeJumpedOutOf) {
+    if (*GetParam().room == 0) return;  // the menu has no room window
+    const Walk walk = parseWalk("walk", GetParam().walk);
+    const auto fonts = makeFonts();
+    std::optional<Bitmap> expected;
+    int jumps = 0;
+    for (int turn = 0;; turn += GetParam().step) {
+        const auto [cut, seen] = jumpsAt(turn, walk, GetParam().room, *fonts);
+        if (!cut) break;
+        if (!seen) continue;
+        if (!expected) expected = seen;
+        ASSERT_EQ(*seen, *expected) << "turn " << turn;
+        ++jumps;
+    }
+    EXPECT_GT(jumps, 10) << "the walk has hardly begun";
 }
 
 INSTANTIATE_TEST_SUITE_P(

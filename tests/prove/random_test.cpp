@@ -346,7 +346,7 @@ private:
     zentrox::test::FakeRaumfenster raum_;
     Spieltabelle spiele_;
     Watch watch_{*this};
-    Interpreter interpreter_{platform_, z_, medien_, raum_, spiele_, &watch_};
+    Interpreter interpreter_{platform_, z_, medien_, raum_, spiele_, watch_};
     std::vector<int> decisions_;
     std::size_t taken_ = 0;
     bool ended_ = false;
