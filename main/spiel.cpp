@@ -14,6 +14,7 @@
 #include "games/quiz/quiz.h"
 #include "games/riddle/riddle.h"
 #include "media/medien.h"
+#include "menu/datensuche.h"
 #include "menu/menu.h"
 #include "platform/values/error.h"
 #include "room/form1.h"
@@ -41,17 +42,22 @@ Spieltabelle spiele(Platform& platform, Zustand& zustand, Medien& medien) {
     return tabelle;
 }
 
-int fenster(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter& beobachter) {
+int windows(Platform& platform, Zustand& zustand, const Text& kommandozeile, const Extras& extras) {
+    Beobachter nobody;
+    Speicherwart plain;
+    Beobachter& observer = extras.observer != nullptr ? *extras.observer : nobody;
+    Speicherwart& saves = extras.saves != nullptr ? *extras.saves : plain;
     try {
         Medien medien(platform, zustand);
-        const Spieltabelle tabelle = spiele(platform, zustand, medien);
-        const auto form1Zeigen = [&] {
-            Form1 form(platform, zustand, medien, tabelle, kommandozeile, beobachter);
+        const Spieltabelle table = spiele(platform, zustand, medien);
+        const auto showRoom = [&] {
+            Form1 form(platform, zustand, medien, table, kommandozeile, observer, saves);
             form.Zeigen();
         };
+        if (extras.withoutMenu) DatenSuchen(platform.files, platform.roots, zustand);
         // A room named on the command line needs no menu.
-        if (!kommandozeile.empty()) form1Zeigen();
-        Menu menu(platform, zustand, platform.roots, form1Zeigen);
+        if (extras.withoutMenu || !kommandozeile.empty()) showRoom();
+        Menu menu(platform, zustand, platform.roots, showRoom);
         menu.showModal();
         return 0;
     } catch (const ProgramEnd& end) {
@@ -70,11 +76,10 @@ void takeTitle(Platform& platform, Zustand& zustand) {
 
 }  // namespace
 
-int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter) {
+int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, const Extras& extras) {
     try {
         takeTitle(platform, zustand);
-        Beobachter niemand;
-        return fenster(platform, zustand, kommandozeile, beobachter != nullptr ? *beobachter : niemand);
+        return windows(platform, zustand, kommandozeile, extras);
     } catch (const DataError& error) {
         try {
             showMessageBox(platform, {"Zentrox", error.message(), MessageBox::Icon::critical});

@@ -4,12 +4,19 @@
 #include "engine/interpreter/beobachter.h"
 #include "engine/state/zustand.h"
 #include "platform/platform.h"
+#include "saves/saves.h"
 
 namespace zentrox {
 
+// What goes along with a play; each must outlive it.
+struct Extras {
+    Beobachter* observer = nullptr;  // is told of all that happens
+    Speicherwart* saves = nullptr;   // stands round saving and loading
+    bool withoutMenu = false;        // the data is looked for as ever, and the room window comes first
+};
+
 // Opens the first window and plays until the process ends; gives its exit status. Data that can't be used end it
-// with a message box and the status 1. `kommandozeile` is the game's command line, a room file name or empty;
-// `beobachter` is told of every script, unless it is null.
-int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, Beobachter* beobachter = nullptr);
+// with a message box and the status 1. `kommandozeile` is the game's command line, a room file name or empty.
+int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, const Extras& extras = {});
 
 }  // namespace zentrox

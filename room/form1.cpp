@@ -31,13 +31,14 @@ constexpr double strichfarben = 1231312312;
 }  // namespace
 
 Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile,
-             Beobachter& beobachter)
+             Beobachter& beobachter, Speicherwart& speicherwart)
     : Window(platform, "Form1", zustand.Titel.Name, kleinstes, Frame::sizable),
       platform_(platform),
       z_(zustand),
       medien_(medien),
       kommandozeile_(std::move(kommandozeile)),
       beobachter_(beobachter),
+      speicherwart_(speicherwart),
       interpreter_(platform, zustand, medien, *this, spiele, beobachter),
       Hintergrund(platform.fonts, &root(), {{0, 0}, kleinstes}),
       Frame1(&root(), {{0, 0}, rahmen}),
@@ -63,8 +64,10 @@ Form1::Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spielta
 void Form1::Zeigen() {
     try {
         Form_Load();
-        beobachter_.Öffnet(*this);
-        weiterlaufen([this] { Lade(z_.PfadRooms + ersterRaum()); });
+        weiterlaufen([this] {
+            beobachter_.Öffnet(*this);
+            Lade(z_.PfadRooms + ersterRaum());
+        });
     } catch (const DataError& fehler) {
         // What can't be gone on from ends in the menu.
         try {

@@ -14,6 +14,7 @@
 #include "room/aufschub.h"
 #include "room/leiste.h"
 #include "room/zeiger.h"
+#include "saves/saves.h"
 
 namespace zentrox {
 
@@ -21,7 +22,7 @@ class Form1 : public Window, public Raumfenster {
 public:
     // All of these must outlive it. `kommandozeile` names the first room, if it is not empty.
     Form1(Platform& platform, Zustand& zustand, Medien& medien, const Spieltabelle& spiele, Text kommandozeile,
-          Beobachter& beobachter);
+          Beobachter& beobachter, Speicherwart& speicherwart);
     ~Form1() override { beobachter_.Schließt(); }
 
     // Starts sound, shows the window, enters the first room and serves the queue from then on. Leaves only by the
@@ -121,6 +122,7 @@ private:
     Medien& medien_;
     Text kommandozeile_;
     Beobachter& beobachter_;
+    Speicherwart& speicherwart_;
     Interpreter interpreter_;
 
     Surface Hintergrund;

@@ -5,7 +5,6 @@
 #include "engine/state/mangel.h"
 #include "room/abspann.h"
 #include "room/form1.h"
-#include "saves/saves.h"
 
 namespace zentrox {
 
@@ -42,7 +41,7 @@ bool Form1::SpielLaden() {
     const auto besuch = aufschub_.Besuch();
     const Milliseconds periode = CountDown.period();
     try {
-        return zentrox::SpielLaden(platform_, z_, *this);
+        return zentrox::SpielLaden(platform_, z_, *this, speicherwart_);
     } catch (const Ausweglos&) {
         throw;
     } catch (const DataError& fehler) {
@@ -56,7 +55,7 @@ bool Form1::SpielLaden() {
 }
 
 void Form1::SpielSpeichern() {
-    zentrox::SpielSpeichern(platform_, z_, *this);
+    zentrox::SpielSpeichern(platform_, z_, *this, speicherwart_);
 }
 
 void Form1::Abspann() {

@@ -8,6 +8,7 @@
 #include "platform/machine/replace_file.h"
 #include "platform/values/error.h"
 #include "saves/dialog.h"
+#include "saves/laden.h"
 #include "saves/spielstand.h"
 
 namespace zentrox {
@@ -34,23 +35,8 @@ const std::array Gründe{
     Grund{EFBIG, "Der Datenträger nimmt keine so große Datei."_t},
 };
 
-Text grundFür(int code) {
-    for (const Grund& grund : Gründe)
-        if (grund.code == code) return Text(grund.text);
-    return "Fehler " + std::to_string(code) + ".";
-}
-
 void melden(Platform& platform, const Text& text, MessageBox::Icon icon) {
     showMessageBox(platform, {Text(Programmname), text, icon});
-}
-
-// The full path that a person has chosen, empty if none.
-Text fragen(Platform& platform, Zustand& z, TextView titel) {
-    z.Übergabe = Text(titel);
-    Dialog dialog(platform, z);
-    dialog.showModal();
-    const Text* const pfad = std::get_if<Text>(&z.Übergabe);
-    return pfad != nullptr ? *pfad : Text();
 }
 
 bool lesen(const Files& files, const Text& pfad, Zustand& z) {
@@ -61,40 +47,65 @@ bool lesen(const Files& files, const Text& pfad, Zustand& z) {
     }
 }
 
-// A game saved where the data lay elsewhere names its items by paths of there. What this data has by the same name
-// is the same item, and only so commands find it.
-void heimbringen(const Files& files, Zustand& z) {
-    for (std::int32_t i = 0; i <= z.InventarLetzter; ++i) {
-        Text& pfad = z.Inventar[static_cast<std::size_t>(i)];
-        const Text hier = z.PfadItems + Dateiname(pfad);
-        if (!equalIgnoringCase(pfad, hier) && files.exists(hier)) pfad = hier;
+// A game that can't be loaded at all is told of when that is tried.
+bool erwünscht(const Files& files, const Zustand& z, const Text& pfad, Speicherwart& wart) {
+    try {
+        const Ladung ladung = SpielstandPrüfen(files, z, pfad);
+        return ladung.Fehlendes.empty() || wart.TrotzdemLaden(ladung.Fehlendes);
+    } catch (const DataError&) {
+        return true;
     }
 }
 
 }  // namespace
 
-void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum) {
+Text SchreibfehlerText(int code) {
+    for (const Grund& grund : Gründe)
+        if (grund.code == code) return Text(grund.text);
+    return "Fehler " + std::to_string(code) + ".";
+}
+
+Text Speicherwart::Fragen(Platform& platform, Zustand& z, TextView titel) {
+    z.Übergabe = Text(titel);
+    Dialog dialog(platform, z);
+    dialog.showModal();
+    const Text* const pfad = std::get_if<Text>(&z.Übergabe);
+    return pfad != nullptr ? *pfad : Text();
+}
+
+void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum, Speicherwart& wart) {
     if (raum.CountDownPeriode() != 0)
         return melden(platform, Text("Speichern nicht möglich!"_t), MessageBox::Icon::none);
-    const Text pfad = fragen(platform, z, "Spiel speichern");
+    const Text pfad = wart.Fragen(platform, z, "Spiel speichern");
     if (pfad.empty()) return;
+    const Text bytes = SpielstandSchreiben(z);
     try {
         platform.files.makeDirectory(Speicherverzeichnis(platform.files));
-        replaceFile(platform.files.systemPath(pfad), SpielstandSchreiben(z));
+        replaceFile(platform.files.systemPath(pfad), bytes);
     } catch (const std::system_error& fehler) {
         const Text text = "Das Spiel konnte nicht unter " + Dateiname(pfad) + " gespeichert werden!\r\n\r\n";
-        return melden(platform, text + grundFür(fehler.code().value()), MessageBox::Icon::critical);
+        return melden(platform, text + SchreibfehlerText(fehler.code().value()), MessageBox::Icon::critical);
     }
+    wart.Geschrieben(pfad, bytes);
     melden(platform, "Speichern erfolgreich unter " + Dateiname(pfad) + "!", MessageBox::Icon::information);
 }
 
-bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum) {
+void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum) {
+    Speicherwart einfach;
+    SpielSpeichern(platform, z, raum, einfach);
+}
+
+bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum, Speicherwart& wart) {
     raum.CountDownAn(false);
     const Text vorher = z.LetzterSpielstand;
-    const Text pfad = fragen(platform, z, "Spiel laden");
+    const Text pfad = wart.Fragen(platform, z, "Spiel laden");
     if (pfad.empty() || !platform.files.exists(pfad)) {
         // An empty field has named nothing that could be offered again.
         if (equalIgnoringCase(z.LetzterSpielstand, Spielstandendung)) z.LetzterSpielstand = vorher;
+        raum.CountDownAn(true);
+        return false;
+    }
+    if (!erwünscht(platform.files, z, pfad, wart)) {
         raum.CountDownAn(true);
         return false;
     }
@@ -103,14 +114,13 @@ bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum) {
         melden(platform, "Daten nicht geladen!", MessageBox::Icon::information);
         return false;
     }
-    heimbringen(platform.files, z);
-    z.Übergabe = Text();
-    z.GezogenerGegenstand = -1;
-    raum.CountDownAn(true);
-    raum.VersteckeLeiste();
-    raum.GegenständeLaden();
-    raum.Lade(z.PfadRooms + z.RaumDatei);
+    SpielFortsetzen(platform.files, z, raum);
     return true;
+}
+
+bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum) {
+    Speicherwart einfach;
+    return SpielLaden(platform, z, raum, einfach);
 }
 
 }  // namespace zentrox

@@ -43,7 +43,8 @@ struct RoomStage : test::Stage {
         for (const char* const name :
              {"taste1", "taste2", "ge2", "werfen", "hand1", "hand2", "hand3", "hand4", "hand5"})
             writeFile(directory.path() / "cursors" / (std::string(name) + ".ico"), icon());
-        backend.then([this] { form.emplace(platform, zustand, medien, spiele, "Start.lsd", niemand); });
+        backend.then(
+            [this] { form.emplace(platform, zustand, medien, spiele, "Start.lsd", niemand, speicherwart); });
         platform.queue.yield("bench");
         // The room window's start serves the queue for ever; its end comes from inside.
         Timer end(platform.queue, 2000, true, [] { Queue::endProgram(); });
@@ -57,6 +58,7 @@ struct RoomStage : test::Stage {
     Medien medien{platform, zustand};
     Spieltabelle spiele;
     Beobachter niemand;
+    Speicherwart speicherwart;
     std::optional<Form1> form;
 };
 

@@ -109,7 +109,7 @@ Jump jumpsAt(int turn, const Walk& walk, const Text& room, Fonts& fonts) {
     backend.setPerson(&person);
     Story story(platform, *zustand, recorder);
     player.attach(&platform, &story);
-    EXPECT_EQ(Spielen(platform, *zustand, room, &door), 0);
+    EXPECT_EQ(Spielen(platform, *zustand, room, {.observer = &door}), 0);
     EXPECT_EQ(door.room, nullptr);
     return {person.cut, std::move(seen)};
 }

@@ -62,7 +62,7 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     probe::Story story(platform, zustand, recorder);
     player.attach(&platform, &story);
     ran.watch(&zustand);
-    const int status = Spielen(platform, zustand, arguments, options.ran.empty() ? nullptr : &ran);
+    const int status = Spielen(platform, zustand, arguments, {.observer = options.ran.empty() ? nullptr : &ran});
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);
     // Data that is missing is a fault of the story, though the game goes on without it.
