@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Small files to begin with, a directory for each target of pictures, sounds, songs, films, games, walks and archives:
+# Small files to begin with, a directory for each target of pictures, sounds, songs, films, games, walks, archives and titles:
 # fuzz/seeds.sh SOURCES INTO
 set -euo pipefail
 sources=$1 into=$2
-for target in picture sound song film games walk notes zip; do
+for target in picture sound song film games walk notes zip title; do
     rm -rf "$into/fuzz-$target"
     mkdir -p "$into/fuzz-$target"
 done
@@ -22,6 +22,9 @@ convert "${drawn[@]}" "JPEG:$picture/plain.jpg"
 convert "${drawn[@]}" -interlace JPEG "JPEG:$picture/progressive.jpg"
 convert "${drawn[@]}" -colorspace Gray "JPEG:$picture/grey.jpg"
 convert -size 16x16 xc:none -fill white -draw 'circle 8,8 8,3' "ICO:$picture/icon.ico"
+convert "${drawn[@]}" "GIF:$picture/plain.gif"
+convert "${drawn[@]}" -alpha set -interlace GIF "GIF:$picture/interlaced.gif"
+convert -size 16x16 xc:none -fill white -draw 'rectangle 2,2 8,8' "CUR:$picture/pointer.cur"
 convert -size 16x16 xc:red -colors 2 -type Palette "ICO:$picture/shallow.ico"
 
 for bits in 8 16 24 32; do sox -n -r 8000 -b $bits "$sound/$bits.wav" synth 0.05 sine 440; done
@@ -40,4 +43,16 @@ encode -an -c:v flv1 "$film/e.flv"
 cp "$sources/demo/games/quiz/HDW.txt" "$into/fuzz-games"
 echo '3,14159265358979' >"$into/fuzz-games/Pi10000.txt"
 cp "$sources"/demo/walks/*.walk "$sources"/tests/walks/*.walk "$into/fuzz-walk"
+cp "$sources/demo/titel.txt" "$into/fuzz-title"
+printf '/dev/sr0 /media/CD\\040ROM iso9660 ro 0 0\n/dev/sda1 / ext4 rw 0 0\n' >"$into/fuzz-title/mounts"
 cp "$sources"/demo/music/*.notes "$into/fuzz-notes"
+
+# Any bytes are a course of the whole program.
+for target in play opcodes; do
+    rm -rf "$into/fuzz-$target"
+    mkdir -p "$into/fuzz-$target"
+    for seed in 1 2 3 4 5 6 7 8; do
+        LC_ALL=C awk -v seed=$seed 'BEGIN { srand(seed); for (i = 0; i < 80 * seed; ++i) printf "%c", int(rand() * 256) }' \
+            >"$into/fuzz-$target/$seed"
+    done
+done
