@@ -1,4 +1,5 @@
-// All instructions in any order, with arguments that fit and others: a room of them is entered, clicked and waited in.
+// All instructions in any order, with arguments that fit and others: a room of them is entered, clicked and waited
+// in.
 #include <array>
 
 #include "engine/language/opcodes.h"
@@ -12,14 +13,69 @@ using zentrox::Skript;
 using zentrox::fuzz::Course;
 
 // Names that the demo has, and what else an instruction may be given.
-constexpr std::array arguments{
-    "", "A", "B", "1", "2", "0", "-1", "0.5", "3", "99999999999", "1e308", "TESTRAUM.LSD", "Flur.lsd", "Hof.lsd",
-    "fehlt.lsd", "aula.jpg", "orlix.jpg", "fehlt.bmp", "cola.bmp", "COLA", "moehre.bmp", "MOEHRE", "aula.mid",
-    "fehlt.mid", "orlix-start-01.wav", "0,0,640,480", "176,104,352,236", "-5,-5,9999,9999", "600,400,10,10", "nix",
-    "1,orlix.jpg", "2,velmix.jpg", "3,", "DING", "DING,taste1.ico", "DING,fehlt.ico", "2|Frage|Ja|Nein",
-    "3|Frage#zwei|Eins|Zwei|Drei", "0|Frage", "1000|Frage|Eins", "-1|", "Ein Text.#Noch eine Zeile.", "$DText", "$",
-    "PI,A,", "JUMP,A,", "ESEL,A,", "HDW,A,", "PRÜGEL,A,zaubertrank", "BRUHKS,A,", "PONG,A,", "MEMORY,A,", "X,A,1",
-    "Open", "Save", "Abspann", "..\\..\\etc\\passwd", "C:\\x.lsd", "\\etc\\passwd", ",", ",,,,", "|", "###"};
+constexpr std::array arguments{"",
+                               "A",
+                               "B",
+                               "1",
+                               "2",
+                               "0",
+                               "-1",
+                               "0.5",
+                               "3",
+                               "99999999999",
+                               "1e308",
+                               "TESTRAUM.LSD",
+                               "Flur.lsd",
+                               "Hof.lsd",
+                               "fehlt.lsd",
+                               "aula.jpg",
+                               "orlix.jpg",
+                               "fehlt.bmp",
+                               "cola.bmp",
+                               "COLA",
+                               "moehre.bmp",
+                               "MOEHRE",
+                               "aula.mid",
+                               "fehlt.mid",
+                               "orlix-start-01.wav",
+                               "0,0,640,480",
+                               "176,104,352,236",
+                               "-5,-5,9999,9999",
+                               "600,400,10,10",
+                               "nix",
+                               "1,orlix.jpg",
+                               "2,velmix.jpg",
+                               "3,",
+                               "DING",
+                               "DING,taste1.ico",
+                               "DING,fehlt.ico",
+                               "2|Frage|Ja|Nein",
+                               "3|Frage#zwei|Eins|Zwei|Drei",
+                               "0|Frage",
+                               "1000|Frage|Eins",
+                               "-1|",
+                               "Ein Text.#Noch eine Zeile.",
+                               "$DText",
+                               "$",
+                               "PI,A,",
+                               "JUMP,A,",
+                               "ESEL,A,",
+                               "HDW,A,",
+                               "PRÜGEL,A,zaubertrank",
+                               "BRUHKS,A,",
+                               "PONG,A,",
+                               "MEMORY,A,",
+                               "X,A,1",
+                               "Open",
+                               "Save",
+                               "Abspann",
+                               "..\\..\\etc\\passwd",
+                               "C:\\x.lsd",
+                               "\\etc\\passwd",
+                               ",",
+                               ",,,,",
+                               "|",
+                               "###"};
 
 zentrox::Text argument(Course& course) {
     const std::size_t chosen = course.byte();

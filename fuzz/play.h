@@ -58,8 +58,8 @@ private:
     std::vector<std::string> changed_;
 };
 
-// Plays the story, from a room of that name or the menu where it is empty, until the course is over, the program has
-// ended, or it has done all that it may. Throws nothing: whatever the program lets escape ends the process.
+// Plays the story, from a room of that name or the menu where it is empty, until the course is over, the program
+// has ended, or it has done all that it may. Throws nothing: whatever the program lets escape ends the process.
 void play(const Stage& stage, const Text& room, std::uint64_t seed, Course& course);
 
 }  // namespace zentrox::fuzz

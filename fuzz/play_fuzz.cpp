@@ -8,8 +8,9 @@ namespace {
 using zentrox::fuzz::Course;
 using zentrox::fuzz::Stage;
 
-constexpr std::array numbers{"-1", "0", "1", "2", "255", "1000", "32767", "65536", "2147483647", "-2147483648",
-                             "4294967296", "99999999999999999999", "1e308", "nan"};
+constexpr std::array numbers{"-1",    "0",     "1",          "2",           "255",        "1000",
+                             "32767", "65536", "2147483647", "-2147483648", "4294967296", "99999999999999999999",
+                             "1e308", "nan"};
 
 const std::string& someFile(const Stage& stage, Course& course) {
     const bool any = course.byte() % 4 == 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <csignal>
 #include <iostream>
 #include <utility>
 
@@ -17,6 +18,15 @@ constexpr Size roomSize{640, 480};  // a small window that stands alone is not e
 constexpr const char* program = "Zentrox";
 constexpr Uint64 patience = 300;  // milliseconds until a window manager has followed
 
+// A terminal or a session that goes ends the program like any other wish that it end: SDL knows the signal for that
+// one. Who has asked that it be ignored is heard.
+void endOnHangUp() {
+    struct sigaction action {};
+    if (sigaction(SIGHUP, nullptr, &action) != 0 || action.sa_handler != SIG_DFL) return;
+    action.sa_handler = [](int) { static_cast<void>(std::raise(SIGTERM)); };
+    sigaction(SIGHUP, &action, nullptr);
+}
+
 // The plain window surface without acceleration starts faster, takes less memory and costs less than what SDL
 // chooses by itself on a machine without a graphics card. A hint set in the environment wins.
 void startVideo() {
@@ -31,7 +41,7 @@ void startVideo() {
     // Without a display SDL takes a driver that shows nothing; only who names it can want that.
     const bool works = SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
     const std::string_view driver = works ? SDL_GetCurrentVideoDriver() : "";
-    if (works && (driver != "offscreen" || SDL_getenv("SDL_VIDEODRIVER") != nullptr)) return;
+    if (works && (driver != "offscreen" || SDL_getenv("SDL_VIDEODRIVER") != nullptr)) return endOnHangUp();
     std::cerr << "zentrox: no display" << (works ? "" : ": ") << (works ? "" : SDL_GetError()) << '\n';
     throw ProgramEnd{1};
 }

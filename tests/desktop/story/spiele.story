@@ -48,6 +48,12 @@ Raum "Spiele.lsd"
             Rechteck 0 320 159 479
         Links
             Text "Ein Text."
+    Objekt "Schleife"
+        Fläche
+            Rechteck 160 320 319 479
+        Links
+            Marke A
+            Springe A
     Objekt "Ende"
         Fläche
             Rechteck 480 320 639 479

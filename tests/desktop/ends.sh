@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# The real program is told to end, by a signal or because its display is gone, wherever it stands: it is gone within a
+# second, with the status that belongs to it, and the saved game is what it was, with nothing beside it.
+set -uo pipefail
+zentrox=$(realpath "$1") data=$2 out=$3
+. "$(dirname "$0")/display.bash"
+rm -rf "$out"
+mkdir -p "$out/saves"
+cd "$out" || exit 1
+
+# A place in the program, and how to come there from the room.
+room() { :; }
+game() { field 0 0; opened; }
+loop() { field 1 2; sleep 0.3; }
+box() { key F7; opened; }
+dialog() { key F2; opened; key e n d; }
+opened() { eventually looks_other "$room" || fail "$place does not open"; }
+
+begin() {
+    display 1024x768 openbox
+    export ZENTROX_SOUND= SDL_AUDIODRIVER=dummy
+    play "$zentrox" --dir "$data" --saves "$out/saves" Spiele.lsd
+    sleep 0.6
+    eventually shown || fail "no room"
+    room=$(middle)
+}
+shown() { ! blank; }
+
+save_once() {
+    begin
+    place=dialog
+    key F2
+    opened
+    key s Return
+    eventually test -s saves/s.xtc || fail "nothing saved"
+    saved=$(cksum saves/*)
+    tidy
+    xvfb= game=
+}
+
+# ends PLACE STATUS COMMAND...
+ends() {
+    local place=$1 wanted=$2 status begun patience
+    shift 2
+    begin
+    $place
+    sleep 0.2
+    alive || fail "$place: gone before its time"
+    begun=$(date +%s%N)
+    "$@"
+    (sleep 10; kill -KILL "$game") >/dev/null 2>&1 &
+    patience=$!
+    wait "$game" 2>/dev/null
+    status=$?
+    local took=$((($(date +%s%N) - begun) / 1000000))
+    kill $patience
+    [ $status = "$wanted" ] || { cat game.log >&2; fail "$place, $*: status $status instead of $wanted"; }
+    grep -q 'Sanitizer\|runtime error\|terminate' game.log && { cat game.log >&2; fail "$place, $*"; }
+    [ "$(cksum saves/*)" = "$saved" ] || fail "$place, $*: the saved games are others"
+    [ "$(find saves | wc -l)" = 2 ] || fail "$place, $*: something lies beside the saved game"
+    [ "$took" -lt "${ENDS_WITHIN:-1000}" ] || fail "$place, $*: $took ms until it was gone"
+    printf '%-7s %-6s status %d after %4d ms\n' "$place" "$1 $2" $status $took
+    tidy
+    xvfb= game=
+}
+signal() { kill "-$1" "$game"; }
+display_goes() { kill -KILL "$xvfb"; }
+
+save_once
+for where in room game loop box dialog; do
+    ends $where 0 signal TERM
+    ends $where 0 signal HUP
+    ends $where 1 display_goes ""
+done
