@@ -16,6 +16,13 @@
 #include "platform/values/keys.h"
 #include "tools/probe/story.h"
 
+// The fonts live as long as the process, and fontconfig keeps what it has found as distances, not as pointers: it
+// only seems to be lost.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() {
+    return "leak:libfontconfig\n";
+}
+
 namespace zentrox::fuzz {
 
 namespace fs = std::filesystem;

@@ -8,11 +8,12 @@ xvfb= game=
 tidy() { kill $game $xvfb; wait $game $xvfb; } 2>/dev/null
 trap tidy EXIT
 
-# The display number is the first free one; Xvfb writes it to its descriptor.
+# The display number is the first free one; Xvfb writes it to its descriptor. A server that starts anew when its last
+# client goes would take a window manager with it that is just coming.
 display() {
     local number
     exec 3<> <(:)
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset >/dev/null 2>&1 &
     xvfb=$!
     read -r -t 20 -u 3 number || fail "no display"
     export DISPLAY=:$number ZENTROX_SOUND=none

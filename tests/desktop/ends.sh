@@ -64,11 +64,14 @@ ends() {
     xvfb= game=
 }
 signal() { kill "-$1" "$game"; }
-display_goes() { kill -KILL "$xvfb"; }
+display_goes() { kill "$xvfb"; }
 
 save_once
-for where in room game loop box dialog; do
+for where in room loop dialog; do
     ends $where 0 signal TERM
     ends $where 0 signal HUP
     ends $where 1 display_goes ""
 done
+ends game 0 signal TERM
+ends game 1 display_goes ""
+ends box 0 signal HUP
