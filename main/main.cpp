@@ -1,7 +1,9 @@
 // zentrox: the game on the desktop.
 #include <iostream>
 
+#include "comfort/comforts.h"
 #include "engine/files/titeldatei.h"
+#include "main/desktopcomfort.h"
 #include "main/options.h"
 #include "main/spiel.h"
 #include "main/story.h"
@@ -16,8 +18,12 @@ namespace {
 
 using namespace zentrox;
 
-// The files of the story, its saved games in their place.
-Files filesOf(const Options& options) {
+struct StoryPlace {
+    Files files;                     // its saved games in their place
+    std::filesystem::path settings;  // a directory
+};
+
+StoryPlace placeOf(const Options& options) {
     Files files = openStory(options.directory);
     const std::string name = directoryNameOf(TitelLesen(files), files, options.directory);
     const PlayersHome home = playersHome();
@@ -25,10 +31,11 @@ Files filesOf(const Options& options) {
     const Places places = placesFor(asked, home);
     gatherSaves(places, asked, home);
     files.keepSavesIn(places.saves);
-    return files;
+    return {std::move(files), places.settings};
 }
 
-int play(const Options& options, const Files& files) {
+int play(const Options& options, const StoryPlace& place) {
+    const Files& files = place.files;
     sdl::Desktop desktop(files, restartCommand(programFile(), options));
     const auto fonts = makeFonts();
     const auto sound = desktopSound(files, [&desktop] { return desktop.clock(); });
@@ -36,7 +43,9 @@ int play(const Options& options, const Files& files) {
     Platform platform(desktop, *fonts, *sound, files);
     platform.roots = rootsToSearch(options, searchRoots(options.directory));
     const auto zustand = std::make_unique<Zustand>();
-    return Spielen(platform, *zustand, fromUtf8(options.commandLine));
+    DesktopComfort machine(desktop);
+    Comforts comforts(platform, *zustand, machine, settingsFile(place.settings));
+    return Spielen(platform, *zustand, fromUtf8(options.commandLine), {.observer = &comforts.observers()});
 }
 
 // Who opened the story by a click has no terminal to be told in.
@@ -58,7 +67,7 @@ int play(Options options) {
     options.directory =
         storyToPlay(options, programDirectory(), rootsToSearch(options, searchRoots(programDirectory())));
     try {
-        return play(options, filesOf(options));
+        return play(options, placeOf(options));
     } catch (const DataError& error) {
         return refuse(options, error);
     }

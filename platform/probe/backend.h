@@ -43,6 +43,8 @@ public:
     const MessageBox* lastBox() const { return lastBox_ ? &*lastBox_ : nullptr; }
     // Set by the person when it has looked for the box that is open.
     bool boxExpected = false;
+    // What a screen would draw over the picture of all windows; see `Scene::overlay` of the desktop.
+    std::function<void(Bitmap& picture, const Rect& base)> overlay;
 
     Milliseconds clock() override { return now_; }
     std::optional<Input> nextInput() override;

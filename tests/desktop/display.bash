@@ -16,7 +16,8 @@ display() {
     Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset >/dev/null 2>&1 &
     xvfb=$!
     read -r -t 20 -u 3 number || fail "no display"
-    export DISPLAY=:$number ZENTROX_SOUND=none
+    export DISPLAY=:$number ZENTROX_SOUND=none XDG_CONFIG_HOME=$PWD/config
+    rm -rf "$XDG_CONFIG_HOME"  # out of the box
     screen_width=${1%x*} screen_height=${1#*x}
     [ -n "${2:-}" ] || return 0
     $2 >/dev/null 2>&1 &

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <utility>
 
+#include "comfort/comforts.h"
 #include "main/spiel.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/replace_file.h"
@@ -15,6 +16,7 @@
 #include "platform/probe/recorder.h"
 #include "platform/values/error.h"
 #include "tools/completion/completion.h"
+#include "tools/probe/comfort.h"
 #include "tools/probe/player.h"
 #include "tools/probe/ran.h"
 #include "tools/probe/story.h"
@@ -35,6 +37,7 @@ struct Options {
     std::uint64_t seed = 1;
     std::string pictures = ".";
     std::string ran;
+    std::string settings;
     unsigned timeout = 600;
     bool quiet = false;
     std::string walk = "-";
@@ -62,7 +65,15 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     probe::Story story(platform, zustand, recorder);
     player.attach(&platform, &story);
     ran.watch(&zustand);
-    const int status = Spielen(platform, zustand, arguments, {.observer = options.ran.empty() ? nullptr : &ran});
+    probe::ProbeComfort machine(backend);
+    std::optional<Comforts> comforts;
+    Verteiler observers;
+    if (!options.ran.empty()) observers.Dazu(ran);
+    if (!options.settings.empty()) {
+        comforts.emplace(platform, zustand, machine, options.settings);
+        observers.Dazu(comforts->observers());
+    }
+    const int status = Spielen(platform, zustand, arguments, {.observer = &observers});
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);
     // Data that is missing is a fault of the story, though the game goes on without it.
@@ -153,6 +164,8 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_option("--seed", options.seed, "Seed of the random numbers");
     app.add_option("--out", options.pictures, "Where shot writes");
     app.add_option("--ran", options.ran, "Writes which instructions have run, for zentrox-story coverage");
+    app.add_option("--settings", options.settings, "Plays with the player's comforts, by this file of settings")
+        ->group("");
     app.add_option("--timeout", options.timeout, "Seconds of real time after which the walk fails")
         ->capture_default_str();
     app.add_flag("--quiet", options.quiet, "No trace, only what say prints and what fails");

@@ -176,6 +176,7 @@ private:
     std::string seen();
     [[noreturn]] void fail(const std::string& expected, const std::string& found);
     Window& active(const std::string& wanted);
+    Bitmap picture(Window& window);
 
     Walk walk_;
     ProbeBackend& backend_;

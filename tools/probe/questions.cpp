@@ -64,11 +64,20 @@ void Player::end(const Command& /*command*/) {
     position_ = walk_.commands.size();
 }
 
+// The client area as a person sees it. The bottommost window stands round the middle of it.
+Bitmap Player::picture(Window& window) {
+    Bitmap seen = window.compose();
+    if (!backend_.overlay) return seen;
+    const Size base = platform_->queue.windows().front()->client();
+    backend_.overlay(seen, {{(seen.width() - base.w) / 2, (seen.height() - base.h) / 2}, base});
+    return seen;
+}
+
 void Player::shot(const Command& command) {
     const std::string& file = command.words[0];
     Window& window = active("a window for the shot");
     const std::filesystem::path path = pictures_ / std::filesystem::path(file);
-    if (!savePng(window.compose(), path.string())) fail("to write " + file, "that it can't be written");
+    if (!savePng(picture(window), path.string())) fail("to write " + file, "that it can't be written");
 }
 
 void Player::say(const Command& command) {
@@ -116,7 +125,7 @@ bool Player::holds(const Condition& condition) {
 bool Player::windowHolds(const Condition& condition, Window& window) {
     if (condition.kind == "pixel") {
         const Point at{number(condition.words[0]), number(condition.words[1])};
-        return window.compose().pixel(at) == std::strtol(condition.words[2].c_str(), nullptr, 16);
+        return picture(window).pixel(at) == std::strtol(condition.words[2].c_str(), nullptr, 16);
     }
     const Text word = fromUtf8(condition.words[0]);
     if (condition.kind == "window") return window.name() == word;
@@ -131,7 +140,7 @@ std::string Player::found(const Condition& condition) {
         const Point at{number(condition.words[0]), number(condition.words[1])};
         std::ostringstream colour;
         colour << std::hex << std::uppercase << std::setfill('0') << std::setw(6)
-               << (window->compose().pixel(at) & 0xFFFFFFU);
+               << (picture(*window).pixel(at) & 0xFFFFFFU);
         return colour.str();
     }
     if (condition.kind == "evil" && game_ != nullptr) return std::to_string(game_->evil());

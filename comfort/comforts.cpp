@@ -1,0 +1,107 @@
+#include "comfort/comforts.h"
+
+#include <iostream>
+#include <system_error>
+
+#include "platform/machine/replace_file.h"
+#include "platform/machine/whole_file.h"
+#include "platform/picture/font.h"
+#include "platform/window/controls/look.h"
+
+namespace zentrox {
+
+namespace {
+
+constexpr std::uint64_t mostBytes = 1'000'000;
+constexpr Milliseconds noticeLasts = 3000;
+constexpr int noticeMargin = 6;  // pixels
+
+Settings settingsIn(const std::filesystem::path& file) {
+    return readSettings(readFile(file, mostBytes).value_or(""));
+}
+
+}  // namespace
+
+std::filesystem::path settingsFile(const std::filesystem::path& directory) {
+    return directory / "einstellungen.txt";
+}
+
+Comforts::Comforts(Platform& platform, Zustand& zustand, ComfortMachine& machine, std::filesystem::path file)
+    : platform_(platform),
+      zustand_(zustand),
+      machine_(machine),
+      file_(std::move(file)),
+      settings_(settingsIn(file_)) {
+    platform_.queue.firstLook = [this](const Input& input) { return firstLook(input); };
+    machine_.setOverlay([this](Bitmap& picture, const Rect& base) {
+        for (const auto& draw : overlays_) draw(picture, base);
+        drawNotice(picture, base);
+    });
+    apply();
+}
+
+Comforts::~Comforts() {
+    takeFromMachine();
+    platform_.queue.firstLook = nullptr;
+    machine_.setOverlay(nullptr);
+}
+
+void Comforts::apply() {
+    machine_.setFullScreen(settings_.fullScreen);
+    machine_.setEnlarging(static_cast<Enlarging>(settings_.enlarging));
+    for (const auto& told : told_) told(settings_);
+}
+
+void Comforts::change(const Settings& settings) {
+    if (settings == settings_) return;
+    settings_ = settings;
+    apply();
+    try {
+        const std::string before = readFile(file_, mostBytes).value_or("");
+        std::error_code error;
+        std::filesystem::create_directories(file_.parent_path(), error);
+        if (const std::string bytes = writeSettings(settings_, before); bytes != before) replaceFile(file_, bytes);
+    } catch (const std::system_error& error) {
+        std::cerr << "zentrox: " << file_.string() << ": " << error.code().message() << '\n';
+    }
+}
+
+// The machine has keys of its own for what it shows.
+void Comforts::takeFromMachine() {
+    Settings now = settings_;
+    now.fullScreen = machine_.fullScreen();
+    now.enlarging = static_cast<int>(machine_.enlarging());
+    change(now);
+}
+
+bool Comforts::firstLook(const Input& input) {
+    takeFromMachine();
+    return keys_.take(input);
+}
+
+void Comforts::notice(Text text) {
+    notice_ = std::move(text);
+    machine_.refreshOverlay();
+    noticeEnd_.emplace(platform_.queue, noticeLasts, true, [this] {
+        notice_.clear();
+        noticeEnd_->setEnabled(false);
+        machine_.refreshOverlay();
+    });
+}
+
+void Comforts::drawNotice(Bitmap& picture, const Rect& base) const {
+    if (notice_.empty()) return;
+    const Font& font = platform_.fonts.get({.points = 10});
+    const Size text = font.measure(notice_);
+    const Size size{text.w + 4 * noticeMargin, text.h + 2 * noticeMargin};
+    const Rect box{{base.x + (base.w - size.w) / 2, base.bottom() - size.h - 2 * noticeMargin}, size};
+    picture.fill(box, black);
+    picture.outline(box, look::highlight);
+    Point at = box.at() + Point{2 * noticeMargin, noticeMargin};
+    for (const TextView line : linesOf(notice_)) {
+        font.draw(picture, at, line, look::highlight);
+        at.y += font.lineHeight();
+    }
+}
+
+}  // namespace zentrox

@@ -1,0 +1,69 @@
+// What a player of today expects beside the game: settings, keys of its own, what is drawn over the picture. Made
+// by who makes the machine; without it the game is what it is out of the box.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include "comfort/keys.h"
+#include "comfort/machine.h"
+#include "comfort/settings.h"
+#include "engine/interpreter/verteiler.h"
+#include "engine/state/zustand.h"
+#include "platform/platform.h"
+
+namespace zentrox {
+
+class Comforts {
+public:
+    // All must outlive it. `file` holds the settings; it need not be there, and is left alone where it can't be
+    // written. Takes the queue's first look at inputs, for its lifetime.
+    Comforts(Platform& platform, Zustand& zustand, ComfortMachine& machine, std::filesystem::path file);
+    ~Comforts();
+    Comforts(const Comforts&) = delete;
+    Comforts& operator=(const Comforts&) = delete;
+
+    Platform& platform() { return platform_; }
+    Zustand& zustand() { return zustand_; }
+    ComfortMachine& machine() { return machine_; }
+
+    const Settings& settings() const { return settings_; }
+    // Puts them into force and into the file.
+    void change(const Settings& settings);
+    // Called after each change.
+    void whenChanged(std::function<void(const Settings&)> told) { told_.push_back(std::move(told)); }
+
+    ComfortKeys& keys() { return keys_; }
+    // Who is to be told of the play; hand it to `Spielen`.
+    Verteiler& observers() { return observers_; }
+
+    // Draws over the picture; the later ones over the earlier ones.
+    void addOverlay(std::function<void(Bitmap& picture, const Rect& base)> draw) {
+        overlays_.push_back(std::move(draw));
+    }
+    // Tells the player something for a few seconds, at the lower edge of the picture.
+    void notice(Text text);
+
+private:
+    bool firstLook(const Input& input);
+    void apply();
+    void takeFromMachine();
+    void drawNotice(Bitmap& picture, const Rect& base) const;
+
+    Platform& platform_;
+    Zustand& zustand_;
+    ComfortMachine& machine_;
+    std::filesystem::path file_;
+    Settings settings_;
+    ComfortKeys keys_;
+    Verteiler observers_;
+    std::vector<std::function<void(const Settings&)>> told_;
+    std::vector<std::function<void(Bitmap&, const Rect&)>> overlays_;
+    Text notice_;
+    std::optional<Timer> noticeEnd_;
+};
+
+// The file of the settings in a directory as `Places` has it.
+std::filesystem::path settingsFile(const std::filesystem::path& directory);
+
+}  // namespace zentrox

@@ -1,0 +1,26 @@
+// What the comforts need of the machine beyond the game's own needs.
+#pragma once
+
+#include <functional>
+
+#include "platform/picture/bitmap.h"
+#include "platform/picture/enlarge.h"
+
+namespace zentrox {
+
+class ComfortMachine {
+public:
+    virtual ~ComfortMachine() = default;
+
+    virtual bool fullScreen() = 0;
+    virtual void setFullScreen(bool on) = 0;
+    virtual Enlarging enlarging() = 0;
+    virtual void setEnlarging(Enlarging how) = 0;
+    // Draws over the picture of all windows, in pixels of the game; `base` is where the client area of the
+    // bottommost one stands. Drawing is held to the bitmap's clip.
+    virtual void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) = 0;
+    // The overlay would look different now.
+    virtual void refreshOverlay() = 0;
+};
+
+}  // namespace zentrox

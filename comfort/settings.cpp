@@ -1,0 +1,151 @@
+#include "comfort/settings.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+#include <set>
+
+namespace zentrox {
+
+namespace {
+
+constexpr std::array enlargingWays{
+    Choice{0, "ganz", "ganze Vielfache"_t},
+    Choice{1, "scharf", "so groß es geht, scharf"_t},
+    Choice{2, "weich", "so groß es geht, weich"_t},
+};
+
+constexpr TextView sound = "Ton";
+constexpr TextView picture = "Bild";
+constexpr TextView percent = " %";
+
+constexpr SettingsRow volume(const char* key, int Settings::*field, TextView title) {
+    return {.key = key, .field = field, .page = sound, .title = title, .most = 100, .step = 10, .unit = percent};
+}
+
+constexpr SettingsRow yesOrNo(const char* key, bool Settings::*field, TextView page, TextView title) {
+    return {.key = key, .field = field, .page = page, .title = title};
+}
+
+constexpr std::array rows{
+    volume("musik", &Settings::music, "Musik"_t),
+    volume("sprache", &Settings::speech, "Sprache"_t),
+    volume("effekte", &Settings::effects, "Geräusche"_t),
+    yesOrNo("stumm", &Settings::muted, sound, "Stumm"_t),
+    yesOrNo("ohne-ton", &Settings::noSound, sound, "Ohne Ton starten"_t),
+    yesOrNo("vollbild", &Settings::fullScreen, picture, "Vollbild"_t),
+    SettingsRow{.key = "vergroesserung",
+                .field = &Settings::enlarging,
+                .page = picture,
+                .title = "Vergrößern"_t,
+                .choices = enlargingWays},
+};
+
+constexpr const char* yes = "ja";
+constexpr const char* no = "nein";
+constexpr std::string_view blanks = " \t\r";
+
+std::string_view trimmed(std::string_view text) {
+    const auto begin = text.find_first_not_of(blanks);
+    if (begin == std::string_view::npos) return {};
+    return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
+
+std::optional<int> number(std::string_view word, int least, int most) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (error != std::errc() || end != word.data() + word.size() || value < least || value > most) return {};
+    return value;
+}
+
+void take(Settings& settings, const SettingsRow& row, std::string_view word) {
+    if (const auto* const field = std::get_if<bool Settings::*>(&row.field)) {
+        settings.*(*field) = word == yes || (word != no && Settings().*(*field));
+        return;
+    }
+    int Settings::*const field = std::get<int Settings::*>(row.field);
+    settings.*field = Settings().*field;
+    if (row.choices.empty()) {
+        settings.*field = number(word, row.least, row.most).value_or(settings.*field);
+        return;
+    }
+    for (const Choice& choice : row.choices)
+        if (word == choice.word) settings.*field = choice.value;
+}
+
+std::string wordOf(const Settings& settings, const SettingsRow& row) {
+    if (const auto* const field = std::get_if<bool Settings::*>(&row.field)) return settings.*(*field) ? yes : no;
+    const int value = settings.*std::get<int Settings::*>(row.field);
+    for (const Choice& choice : row.choices)
+        if (choice.value == value) return choice.word;
+    return std::to_string(value);
+}
+
+// A line of the file, without its end, parted at the equals sign. A line that is about nothing known has no row.
+struct Line {
+    const SettingsRow* row = nullptr;
+    std::string_view value;
+};
+
+Line parted(std::string_view line) {
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos) return {};
+    const std::string_view key = trimmed(line.substr(0, equals));
+    const auto row = std::find_if(rows.begin(), rows.end(), [key](const SettingsRow& r) { return key == r.key; });
+    if (row == rows.end()) return {};
+    return {&*row, trimmed(line.substr(equals + 1))};
+}
+
+// Calls `use` with each line, its end included.
+template <class Use>
+void eachLine(std::string_view bytes, Use use) {
+    while (!bytes.empty()) {
+        const std::string_view line = bytes.substr(0, std::min(bytes.find('\n'), bytes.size() - 1) + 1);
+        use(line);
+        bytes.remove_prefix(line.size());
+    }
+}
+
+std::string_view endOf(std::string_view line) {
+    if (line.ends_with("\r\n")) return "\r\n";
+    return line.ends_with('\n') ? "\n" : "";
+}
+
+}  // namespace
+
+std::span<const SettingsRow> settingsRows() {
+    return rows;
+}
+
+Settings readSettings(std::string_view bytes) {
+    Settings settings;
+    eachLine(bytes, [&](std::string_view line) {
+        const Line part = parted(line.substr(0, line.size() - endOf(line).size()));
+        if (part.row != nullptr) take(settings, *part.row, part.value);
+    });
+    return settings;
+}
+
+std::string writeSettings(const Settings& settings, std::string_view before) {
+    std::string out;
+    std::set<const SettingsRow*> written;
+    const auto put = [&](const SettingsRow& row, std::string_view end) {
+        out.append(row.key).append(" = ").append(wordOf(settings, row)).append(end);
+        written.insert(&row);
+    };
+    eachLine(before, [&](std::string_view line) {
+        const std::string_view end = endOf(line);
+        const Line part = parted(line.substr(0, line.size() - end.size()));
+        if (part.row != nullptr)
+            put(*part.row, end);
+        else
+            out += line;
+    });
+    if (!out.empty() && out.back() != '\n') out += '\n';
+    for (const SettingsRow& row : rows)
+        if (written.count(&row) == 0 && wordOf(settings, row) != wordOf(Settings(), row)) put(row, "\n");
+    return out;
+}
+
+}  // namespace zentrox

@@ -1,0 +1,61 @@
+// What the player has chosen, one file for all stories: plain lines "key = value". Out of the box nothing is
+// chosen, and the game is what it is without any comfort.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "platform/values/text.h"
+
+namespace zentrox {
+
+struct Settings {
+    // --- sound; volumes are percent
+    int music = 100;
+    int speech = 100;
+    int effects = 100;
+    bool muted = false;
+    bool noSound = false;  // the program leaves the machine's sound alone
+
+    // --- picture
+    bool fullScreen = false;
+    int enlarging = 0;  // as `Enlarging` counts
+
+    friend bool operator==(const Settings&, const Settings&) = default;
+};
+
+// What a number of a setting means.
+struct Choice {
+    int value;
+    const char* word;  // in the file
+    TextView title;    // for the player
+};
+
+// One setting: how it is called in the file and in the window, where it lies, what it may be.
+struct SettingsRow {
+    const char* key;
+    std::variant<bool Settings::*, int Settings::*> field;
+    TextView page;
+    TextView title;
+    std::span<const Choice> choices{};  // of a number that is one of these
+    int least = 0;                      // else of a number
+    int most = 0;
+    int step = 1;
+    TextView unit{};
+    bool shown = true;  // in the window
+};
+
+// All of them, those of a page together, in the order of the window.
+std::span<const SettingsRow> settingsRows();
+
+// What stands in the bytes of a settings file. What is missing, damaged or out of range is as out of the box; of
+// two lines the last one counts. Any bytes will do.
+Settings readSettings(std::string_view bytes);
+
+// The bytes of the file for these settings: those of `before` with the values put in. Lines that say nothing known,
+// comments among them, stay as and where they are; what is missing and not as out of the box comes at the end.
+std::string writeSettings(const Settings& settings, std::string_view before);
+
+}  // namespace zentrox

@@ -1,0 +1,28 @@
+// The machine of the probe as the comforts need it: what they ask for is kept, and seen by the walk's shots.
+#pragma once
+
+#include "comfort/machine.h"
+#include "platform/probe/backend.h"
+
+namespace zentrox::probe {
+
+class ProbeComfort final : public ComfortMachine {
+public:
+    explicit ProbeComfort(ProbeBackend& backend) : backend_(backend) {}
+
+    bool fullScreen() override { return fullScreen_; }
+    void setFullScreen(bool on) override { fullScreen_ = on; }
+    Enlarging enlarging() override { return enlarging_; }
+    void setEnlarging(Enlarging how) override { enlarging_ = how; }
+    void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) override {
+        backend_.overlay = std::move(overlay);
+    }
+    void refreshOverlay() override {}
+
+private:
+    ProbeBackend& backend_;
+    bool fullScreen_ = false;
+    Enlarging enlarging_ = Enlarging::whole;
+};
+
+}  // namespace zentrox::probe
