@@ -1,9 +1,13 @@
 # Plays one walk from the menu, in a directory of its own. What it prints must be what NAME.expected holds, if there is
-# one.
+# one; NAME.txt is the story's title, if there is one.
 string(REGEX REPLACE "walk$" "expected" expected ${WALK})
+string(REGEX REPLACE "walk$" "txt" title ${WALK})
 file(REMOVE_RECURSE ${PLACE})
 file(MAKE_DIRECTORY ${PLACE})
 file(COPY ${DATA}/ DESTINATION ${PLACE}/spiel)
+if(EXISTS ${title})
+  configure_file(${title} ${PLACE}/spiel/titel.txt COPYONLY)
+endif()
 file(WRITE ${PLACE}/cd/Zentrox "")
 file(WRITE ${PLACE}/cd/Videos/film.mpg "")
 file(WRITE ${PLACE}/spiel/saves/kaputt.xtc "kein Spielstand")

@@ -57,6 +57,11 @@ Raum "Start.lsd"
         Links
             Text "Bis bald."
             System Ende
+    Objekt "Tisch"
+        Fläche
+            Rechteck 400 100 450 150
+        Links
+            Spiel MEMORY GEWONNEN
     Objekt "Frage"
         Fläche
             Rechteck 300 100 350 150
