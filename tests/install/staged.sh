@@ -59,38 +59,117 @@ words=$(bash -c 'source first/share/bash-completion/completions/zentrox-story
 [ "$words" = pack ] || fail "bash completes pa to: $words"
 
 # --- a moved tree, another directory, and a user who may write nowhere but at home
-mkdir -p elsewhere/deep home
-mv first elsewhere/deep/second
-bin=$scratch/elsewhere/deep/second/bin
-stories=$scratch/elsewhere/deep/second/$story
-as_user=()
+place=$scratch
+user=()
 if [ "$(id -u)" = 0 ]; then
-    as_user=(setpriv --reuid 65534 --regid 65534 --clear-groups)
-    chown 65534 home
-    chmod -R go+rX elsewhere
-    "${as_user[@]}" test -x "$bin/zentrox" || { echo "not tried: another user can't reach $scratch"; exit 0; }
-else
-    chmod -R a-w elsewhere
-    trap 'chmod -R u+w "$scratch/elsewhere"' EXIT
+    user=(setpriv --reuid 65534 --regid 65534 --clear-groups)
+    if ! "${user[@]}" test -x "$scratch" -a -r "$scratch"; then
+        place=$(mktemp -d)  # where another user comes to
+        chmod 755 "$place"
+    fi
 fi
-cd /
-"${as_user[@]}" env HOME="$scratch/home" "$bin/zentrox-probe" --dir "$stories" --saves "$scratch/home/games" \
-    --out "$scratch/home" --quiet "$walk" || fail "the walk fails in the moved tree"
+display=
+finish() {
+    [ -z "$display" ] || kill "$display" 2>/dev/null || true
+    chmod -R u+w "$place" 2>/dev/null || true
+    [ "$place" = "$scratch" ] || rm -rf "$place"
+}
+trap finish EXIT
+home=$place/home
+mkdir -p "$place/elsewhere/deep" "$home"
+mv first "$place/elsewhere/deep/second"
+if [ ${#user[@]} -gt 0 ]; then
+    chmod -R go+rX,go-w "$place/elsewhere"
+    chown 65534 "$home"
+else
+    chmod -R a-w "$place/elsewhere"
+fi
+as_user() {  # as_user VARIABLE=VALUE... PROGRAM...
+    (cd / && exec "${user[@]}" env -u XDG_DATA_HOME -u XDG_CONFIG_HOME HOME="$home" ZENTROX_SOUND=none \
+        LSAN_OPTIONS=detect_leaks=0 "$@")
+}
+bin=$place/elsewhere/deep/second/bin
+stories=$place/elsewhere/deep/second/$story
+as_user "$bin/zentrox-probe" --dir "$stories" --saves "$home/games" --out "$home" --quiet "$walk" ||
+    fail "the walk fails in the moved tree"
+
+# Where no game can be kept, one is told so and plays on.
+cat >"$scratch/verboten.walk" <<'END'
+until window Form1
+until text "Balduin"
+key space
+until idle
+key f2
+until window Dialog
+type "nirgends"
+key enter
+until window MsgBox
+expect text "konnte nicht"
+key enter
+until window Form1
+until idle
+END
+as_user "$bin/zentrox-probe" --dir "$stories" --args Hof.lsd --quiet - <"$scratch/verboten.walk" ||
+    fail "a game that can't be kept"
+[ ! -e "$stories/saves" ] || fail "a place for saved games in the installed story"
+
 if ! have Xvfb || ! have xdotool; then exit 0; fi
 exec 3<> <(:)
 Xvfb -displayfd 3 -screen 0 800x600x24 -nolisten tcp -ac >/dev/null 2>&1 &
-display=$! game=
-trap 'kill $display $game 2>/dev/null || true; chmod -R u+w "$scratch/elsewhere" 2>/dev/null || true' EXIT
+display=$!
 read -r -t 20 -u 3 number || fail "no display"
 export DISPLAY=:$number
-"${as_user[@]}" env -u XDG_DATA_HOME -u XDG_CONFIG_HOME HOME="$scratch/home" ZENTROX_SOUND=none LSAN_OPTIONS=detect_leaks=0 \
-    "$bin/zentrox" >"$scratch/said" 2>&1 &
-game=$!
-for _ in $(seq 200); do
-    if xdotool search --name '^Die letzte Stunde' >/dev/null 2>&1; then break; fi
-    kill -0 $game 2>/dev/null || { cat "$scratch/said"; fail "the game has ended"; }
-    sleep 0.1
-done
-xdotool search --name '^Die letzte Stunde' >/dev/null || fail "the installed story is not played"
-[ -d "$scratch/home/.local/share/zentrox/die-letzte-stunde/saves" ] || fail "no place for saved games at home"
+opens() {  # opens TITLE VARIABLE=VALUE... PROGRAM...: its first window has that title
+    local title=$1 game window
+    shift
+    as_user "$@" >"$scratch/said" 2>&1 &
+    game=$!
+    for _ in $(seq 200); do
+        if window=$(xdotool search --name "^$title" 2>/dev/null); then
+            xdotool windowkill $window
+            wait $game || true
+            return
+        fi
+        kill -0 $game 2>/dev/null || { cat "$scratch/said"; fail "the game has ended before its window: $*"; }
+        sleep 0.1
+    done
+    fail "no window $title: $*"
+}
+own=.local/share/zentrox
+saves=$own/die-letzte-stunde/saves
+opens 'Die letzte Stunde - ' "$bin/zentrox"
+[ -d "$home/$saves" ] || fail "no place for saved games at home"
 [ ! -e "$stories/saves" ] || fail "a place for saved games in the installed story"
+kept() { cmp -s "$walk" "$home/$1/Mein Spiel.xtc"; }  # what the bytes are is the game's affair
+as_user cp "$walk" "$home/$saves/Mein Spiel.xtc"
+
+# The tree is moved once more: the games stay where they are. A place that is not absolute is none.
+mv "$place/elsewhere/deep/second" "$place/elsewhere/third"
+bin=$place/elsewhere/third/bin
+opens 'Die letzte Stunde - ' XDG_DATA_HOME=somewhere XDG_CONFIG_HOME=. "$bin/zentrox"
+kept "$saves" || fail "the game is gone with the move"
+[ "$(find "$home" -name '*.xtc' | wc -l)" = 1 ] || fail "the game is there more than once"
+opens 'Die letzte Stunde - ' XDG_DATA_HOME="$home/data" "$bin/zentrox"
+[ -d "$home/data/zentrox/die-letzte-stunde/saves" ] || fail "XDG_DATA_HOME does not count"
+
+# The same story as one file finds the games; another one sees nothing of them.
+packs() { "$bin/zentrox-story" pack other --into "$place/$1" >/dev/null; chmod 644 "$place/$1"; }
+mkdir other
+cp -r "$place/elsewhere/third/$story"/* other/
+chmod -R u+w other
+packs same.zentrox
+opens 'Die letzte Stunde - ' "$bin/zentrox" "$place/same.zentrox"
+kept "$saves" || fail "the game of the packed story is gone"
+[ "$(find "$home/$own" -name '*.xtc' | wc -l)" = 1 ] || fail "the game is there more than once"
+sed -i 's/^Titel:.*/Titel: Die andere/; s/^Kennung:.*/Kennung: andere/' other/titel.txt
+packs other.zentrox
+opens 'Die andere - ' "$bin/zentrox" "$place/other.zentrox"
+[ -d "$home/$own/andere/saves" ] || fail "the other story has no place for games"
+[ -z "$(ls "$home/$own/andere/saves")" ] || fail "the games of two stories are mixed"
+
+# A home that can't be written to stops nobody.
+mkdir "$place/sealed"
+chmod 555 "$place/sealed"
+opens 'Die letzte Stunde - ' HOME="$place/sealed" "$bin/zentrox"
+opens 'Die letzte Stunde - ' HOME=/nowhere "$bin/zentrox"
+[ -z "$(ls -A "$place/sealed")" ] || fail "written into a sealed home"
