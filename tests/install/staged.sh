@@ -167,6 +167,10 @@ opens 'Die andere - ' "$bin/zentrox" "$place/other.zentrox"
 [ -d "$home/$own/andere/saves" ] || fail "the other story has no place for games"
 [ -z "$(ls "$home/$own/andere/saves")" ] || fail "the games of two stories are mixed"
 
+# One that is none is refused where who clicked it sees it.
+echo 'no archive' >"$place/broken.zentrox"
+opens 'Zentrox$' "$bin/zentrox" "$place/broken.zentrox"
+
 # A home that can't be written to stops nobody.
 mkdir "$place/sealed"
 chmod 555 "$place/sealed"

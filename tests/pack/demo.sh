@@ -27,6 +27,41 @@ unzip -tq first.zentrox >/dev/null
 "$probe" --dir demo --out plain "$walk" >plain.txt
 cmp packed.txt plain.txt
 
+# With a player in it, which is an unpacked archive of the game: its author's tools and its stories stay behind.
+mkdir -p player/bin player/lib/bundled player/share/zentrox/stories/own
+echo linux-test >player/share/zentrox/relocatable
+printf '#!/bin/sh\nexec echo "played $0"\n' | tee player/zentrox player/bin/zentrox >player/bin/zentrox-story
+chmod +x player/zentrox player/bin/*
+touch player/lib/bundled/libx.so.1 player/share/zentrox/stories/own/titel.txt
+"$story" pack demo --program --player player --into gift >said
+[ "$(cat said)" = $'gift/die-letzte-stunde\ngift-linux-test.zip' ] || fail "said $(cat said)"
+(cd gift && find . -type f | sort) >files
+diff - files <<'END'
+./bin/zentrox
+./die-letzte-stunde
+./lib/bundled/libx.so.1
+./share/zentrox/relocatable
+./share/zentrox/stories/die-letzte-stunde.zentrox
+END
+cmp gift/share/zentrox/stories/die-letzte-stunde.zentrox first.zentrox
+unzip -q gift-linux-test.zip -d unpacked
+diff -r gift unpacked/die-letzte-stunde
+[ "$(unpacked/die-letzte-stunde/die-letzte-stunde)" = "played unpacked/die-letzte-stunde/die-letzte-stunde" ] ||
+    fail "what the archive holds does not start"
+mv gift-linux-test.zip once.zip
+rm -rf gift
+"$story" pack demo --program --player player --into gift >/dev/null
+cmp once.zip gift-linux-test.zip
+if "$story" pack demo --program --player player --into gift >said 2>&1; then fail "packed over a folder that is there"; fi
+grep -q 'gibt es schon' said
+if "$story" pack demo --program --player demo --into other >said 2>&1; then fail "packed with a player that is none"; fi
+grep -q -- --player said
+[ ! -e other ] || fail "something is left of a folder without a player"
+sed 's/^Kennung:.*/Kennung: lib/' "$title" >demo/titel.txt
+if "$story" pack demo --program --player player --into other >said 2>&1; then fail "the program is called as a directory"; fi
+grep -q 'Kennung: lib' said
+cp "$title" demo/titel.txt
+
 # What can't be packed is told, and nothing is left of it.
 refused() {
     if "$story" pack demo --into third.zentrox >said 2>&1; then fail "packed, but $1"; fi

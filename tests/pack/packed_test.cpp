@@ -20,6 +20,14 @@ std::string contents(const fs::path& path) {
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
+// The archive of one file, with another number of unpacked bytes told at its start and in its directory.
+std::string telling(std::string archive, std::uint32_t size) {
+    const std::size_t directory = archive.rfind("PK\x01\x02");
+    for (const std::size_t at : {archive.find("PK\x03\x04") + 22, directory + 24})
+        for (unsigned byte = 0; byte < 4; ++byte) archive.at(at + byte) = static_cast<char>(size >> 8U * byte);
+    return archive;
+}
+
 class PackedFiles : public ::testing::Test {
 protected:
     Files open(ZipWriter& writer) const {
@@ -129,6 +137,25 @@ TEST_F(PackedFiles, AreRefusedIfTheyAreTooManyOrTooMuch) {
     ZipWriter one(temp.path() / "bomb.zentrox");
     one.add("graphics/a.bmp", bomb);
     EXPECT_NE(refusal(one).find("zu gro"), Text::npos);
+}
+
+TEST_F(PackedFiles, AreRefusedIfTheyAreNotAsLongAsTheArchiveSays) {
+    const std::string zeros(1U << 20U, '\0');
+    zip.add("rooms/Start.lsd", zeros);
+    const std::string honest = contents(zip.close());
+    EXPECT_EQ(Files(temp.path(), openZip(zip.close())).read("rooms\\Start.lsd"), zeros);
+    for (const std::uint32_t size : {0U, 10U, (1U << 20U) - 1, (1U << 20U) + 1}) {
+        const fs::path file = temp.write("lie.zentrox", telling(honest, size));
+        EXPECT_THROW(
+            {
+                const Files files(file, openZip(file));
+                static_cast<void>(files.read("rooms\\Start.lsd"));
+            },
+            DataError)
+            << size;
+    }
+    for (const std::uint32_t size : {1U << 31U, ~0U - 1})
+        EXPECT_NE(refusal(temp.write("lie.zentrox", telling(honest, size))), "no refusal") << size;
 }
 
 TEST_F(PackedFiles, AreRefusedWhereverTheArchiveIsCut) {

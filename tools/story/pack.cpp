@@ -161,6 +161,8 @@ bool belongsToPlayer(const std::string& name) {
 int packWithProgram(const PackWishes& wishes, const Found& found, std::ostream& out) {
     const std::string id = found.title.Kennung;
     const fs::path player = playerFor(wishes);
+    if (id != launcher && fs::exists(player / id))
+        throw WrongCall{"Kennung: " + id + ": so heißt schon ein Verzeichnis des Spiels"};
     const fs::path folder = wishes.into.empty() ? fs::path(id) : wishes.into;
     if (fs::exists(folder) && !fs::is_empty(folder)) throw WrongCall{folder.string() + " gibt es schon"};
     std::vector<PackedFile> all;
