@@ -12,10 +12,13 @@ using Json = nlohmann::ordered_json;
 
 // With a point for each three digits.
 std::string number(std::uint64_t value) {
-    std::string digits = std::to_string(value);
-    for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
-        digits.insert(static_cast<std::size_t>(at), ".");
-    return digits;
+    const std::string digits = std::to_string(value);
+    std::string text;
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i > 0 && (digits.size() - i) % 3 == 0) text += '.';
+        text += digits[i];
+    }
+    return text;
 }
 
 std::string steps(std::uint64_t count) {
