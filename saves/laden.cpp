@@ -28,7 +28,8 @@ std::vector<Text> FehlendeGegenstände(const Files& files, const Zustand& z) {
     for (std::int32_t i = 0; i <= z.InventarLetzter; ++i) {
         const Text& pfad = z.Inventar[static_cast<std::size_t>(i)];
         const Text name = Dateiname(pfad);
-        if (!files.exists(z.PfadItems + name) && !files.exists(pfad)) namen.push_back(name.substr(0, name.rfind('.')));
+        if (!files.exists(z.PfadItems + name) && !files.exists(pfad))
+            namen.push_back(name.substr(0, name.rfind('.')));
     }
     return namen;
 }

@@ -67,40 +67,50 @@ constexpr int MerkerAnzahl = 1001;
 constexpr int InventarPlätze = 51;
 
 struct Zustand {
-    zentrox::Titel Titel;  // what the story says of itself
-    std::array<std::uint8_t, 256> Tastatur{};
-    float MausX = 0;
+    zentrox::Titel Titel;                      // what the story says of itself
+    std::array<std::uint8_t, 256> Tastatur{};  // by virtual code, for games; 128 in a byte is held
+    float MausX = 0;                           // where the pointer was last, in pixels of `Picture1`
     float MausY = 0;
     Raum AktuellerRaum;
     std::array<Text, InventarPlätze> Inventar;  // full paths of the items' pictures
-    std::int32_t InventarLetzter = -1;
+    std::int32_t InventarLetzter = -1;          // index of the last one, -1: nothing is carried
+    // The directories of the data, each with a backslash at its end.
     Text PfadRooms, PfadSounds, PfadGraphics, PfadMovies, PfadCursors, PfadItems, PfadMusics, PfadGames;
-    float PI = 0;
+    float PI = 0;                           // set when the room window is shown
     std::array<Text, MerkerAnzahl> Merker;  // upper-case names; an empty slot is free
-    std::int16_t TastenCode = 0;
-    bool SkriptLäuft = false;
+    std::int16_t TastenCode = 0;            // virtual code of the key that went down last, 0 once it has been used
+    bool SkriptLäuft = false;    // a script runs or a dialog of saved games stands: the room is not played
     std::int32_t MausTaste = 0;  // 0 none, 1 another than the left, 2 the left
-    bool LeisteGewünscht = false;
-    bool LeisteOffen = false;
-    bool LeisteZu = false;
-    bool LeisteBewegt = false;
-    std::int32_t LeisteHöhe = 0;
-    float LeisteWinkel = 0;
-    std::int32_t ZeigerLetzter = 0;
-    std::int32_t ZeigerBild = 0;
-    std::array<Text, 6> ZeigerBilder;
-    Text RaumDatei;
+
+    // The bar of what is carried.
+    bool LeisteGewünscht = false;  // what the player has asked for last
+    bool LeisteOffen = false;      // it stands and takes clicks
+    bool LeisteZu = false;         // nothing of it shows
+    bool LeisteBewegt = false;     // it slides
+    std::int32_t LeisteHöhe = 0;   // pixels of it that show
+    float LeisteWinkel = 0;        // how far its way up has come, in radians
+
+    // The pointer.
+    std::int32_t ZeigerLetzter = 0;    // index of the last picture that it runs through; -1: it stands still
+    std::int32_t ZeigerBild = 0;       // index of the one that shows
+    std::array<Text, 6> ZeigerBilder;  // full paths
+
+    Text RaumDatei;  // without a path
+
+    // A choice: the question, then its options; below which edge each ends, in pixels from its top; and how high it
+    // is in all.
     std::vector<Text> AuswahlTexte;
     std::vector<std::int32_t> AuswahlKanten;
     std::int32_t AuswahlHöhe = 0;
-    std::int32_t AuswahlErgebnis = 0;  // -2 being built, -1 waits for a click, else none is open
-    std::int32_t GezogenerGegenstand = -1;
-    Text GezogenerName;
-    std::int32_t BösePunkte = 0;
-    Übergabewert Übergabe;
-    Text LetzterSpielstand;
-    std::uint32_t Stimme = 0;
-    Text AktuellerSong;
+    std::int32_t AuswahlErgebnis = 0;  // -2 being built, -1 waits for a click, else none is open: what was chosen
+
+    std::int32_t GezogenerGegenstand = -1;  // index of the item in hand, -1 for none
+    Text GezogenerName;                     // of the item that was in hand last, in upper case
+    std::int32_t BösePunkte = 0;            // no bounds; a story may count down as well
+    Übergabewert Übergabe;                  // between windows: the first room, a game's parameter, its outcome
+    Text LetzterSpielstand;                 // the name that was typed last in a dialog of saved games
+    std::uint32_t Stimme = 0;               // the sound device's handle of the voice, 0 for none
+    Text AktuellerSong;                     // full path, empty for none
 
     // What `WarteFrame` remembers: when it returned last.
     std::int32_t LetzterFrame = 0;
