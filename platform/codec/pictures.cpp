@@ -175,12 +175,27 @@ Bitmap loadPicture(const Files& files, TextView path) {
     return bitmap;
 }
 
-bool savePng(const Bitmap& bitmap, const std::string& path) {
-    if (bitmap.empty()) return false;
+std::string pngFile(const Bitmap& bitmap) {
+    if (bitmap.empty()) return {};
     Bitmap copy = bitmap;
     const SurfaceHandle surface = wrapped(copy);
     std::string file;
-    if (!surface || IMG_SavePNG_RW(surface.get(), writerTo(file), 1) != 0) return false;
+    if (!surface || IMG_SavePNG_RW(surface.get(), writerTo(file), 1) != 0) return {};
+    return file;
+}
+
+std::string jpegFile(const Bitmap& bitmap, int quality) {
+    if (bitmap.empty()) return {};
+    Bitmap copy = bitmap;
+    const SurfaceHandle surface = wrapped(copy);
+    std::string file;
+    if (!surface || IMG_SaveJPG_RW(surface.get(), writerTo(file), 1, quality) != 0) return {};
+    return file;
+}
+
+bool savePng(const Bitmap& bitmap, const std::string& path) {
+    const std::string file = pngFile(bitmap);
+    if (file.empty()) return false;
     try {
         replaceFile(path, file);
     } catch (const std::system_error&) {

@@ -27,4 +27,8 @@ Icon loadIcon(const Files& files, TextView path, int side = 32);
 // Writes a bitmap as a PNG; false if that fails. `path` is a path of the system.
 bool savePng(const Bitmap& bitmap, const std::string& path);
 
+// The bytes of such a file, and of a JPEG; `quality` goes from 0 to 100. Empty if that fails.
+std::string pngFile(const Bitmap& bitmap);
+std::string jpegFile(const Bitmap& bitmap, int quality);
+
 }  // namespace zentrox

@@ -56,7 +56,7 @@ for shell in bash zsh fish; do
 done
 words=$(bash -c 'source first/share/bash-completion/completions/zentrox-story
     COMP_WORDS=(zentrox-story pa) COMP_CWORD=1; _zentrox_story; echo "${COMPREPLY[*]}"')
-[ "$words" = pack ] || fail "bash completes pa to: $words"
+[ "$words" = "pack page" ] || fail "bash completes pa to: $words"
 
 # --- a moved tree, another directory, and a user who may write nowhere but at home
 place=$scratch

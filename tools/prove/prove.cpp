@@ -135,7 +135,7 @@ private:
         for (const auto& [number, hit] : search_->hits()) {
             const std::string& name = program_.endings[at(number)].name;
             const auto [entry, isNew] =
-                byName.try_emplace(name, FoundEnding{name, hit.steps, hit.mostSteps, {}}, hit);
+                byName.try_emplace(name, FoundEnding{name, hit.steps, hit.mostSteps, {}, {}}, hit);
             if (isNew) continue;
             entry->second.first.mostSteps = std::max(entry->second.first.mostSteps, hit.mostSteps);
             if (hit.steps < entry->second.first.steps) {
@@ -150,18 +150,20 @@ private:
                 way = search_->wayTo(hit.from);
                 way.push_back(hit.action);
             }
-            ending.walk = walk(way, "Ende „" + name + "“, " + steps(ending.steps));
+            tellWay(ending, way, "Ende „" + name + "“, " + steps(ending.steps));
             report_.endings.push_back(std::move(ending));
         }
         std::stable_sort(report_.endings.begin(), report_.endings.end(),
                          [](const FoundEnding& a, const FoundEnding& b) { return a.steps < b.steps; });
         if (report_.endings.empty() && search_->complete()) tellNoEnding();
     }
-    std::string walk(const std::vector<Action>& way, const std::string& title) {
+    template <class Found>
+    void tellWay(Found& found, const std::vector<Action>& way, const std::string& title) {
         Seen seen(program_);
         const auto played = play(program_, *stacks_, way, &seen);
         questions_->add(seen, program_);
-        return walkText(program_, *stacks_, played, title);
+        found.walk = walkText(program_, *stacks_, played, title);
+        found.play = tell(program_, *stacks_, played);
     }
     // Behind "nach".
     static std::string stepsThen(std::size_t count) {
@@ -189,8 +191,8 @@ private:
         for (const LosingStep& losing : findLosingSteps(reduced_, losers_, *search_)) {
             const story::Place place = program_.placeOf(losing.script, losing.index);
             report_.findings.error(place, "verbaut", lossInWords(losing));
-            DeadEnd dead{place, static_cast<std::uint32_t>(losing.way.size()), {}};
-            dead.walk = walk(losing.way, "Sackgasse nach " + stepsThen(losing.way.size()));
+            DeadEnd dead{place, static_cast<std::uint32_t>(losing.way.size()), {}, {}};
+            tellWay(dead, losing.way, "Sackgasse nach " + stepsThen(losing.way.size()));
             report_.dead.push_back(std::move(dead));
         }
     }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tools/prove/endings.h"
-#include "tools/prove/search.h"
+#include "tools/prove/walk.h"
 #include "tools/story/finding.h"
 
 namespace zentrox::prove {
@@ -19,6 +19,7 @@ struct FoundEnding {
     std::uint32_t steps = 0;      // of a shortest play
     std::uint32_t mostSteps = 0;  // of a play that takes no detour but ends as late as one can
     std::string walk;
+    std::vector<ToldStep> play;
 };
 
 // A step behind which no ending can be reached any more.
@@ -26,6 +27,7 @@ struct DeadEnd {
     story::Place place;
     std::uint32_t steps = 0;  // of a shortest play into it, this step included
     std::string walk;
+    std::vector<ToldStep> play;
 };
 
 struct Passage {  // from room to room, for the graph

@@ -96,6 +96,19 @@ std::string provisos(const Report& report) {
     return text + "\n";
 }
 
+Json asJson(const story::Story& story, const std::vector<ToldStep>& play) {
+    Json steps = Json::array();
+    for (const ToldStep& step : play) {
+        Json told{{"room", step.room}, {"do", step.what}, {"texts", step.texts}};
+        if (step.place.file != -1) {
+            told["file"] = story.files[static_cast<std::size_t>(step.place.file)];
+            told["line"] = step.place.line;
+        }
+        steps.push_back(std::move(told));
+    }
+    return steps;
+}
+
 }  // namespace
 
 std::string asText(const story::Story& story, const Report& report, const std::string& walks) {
@@ -137,14 +150,18 @@ std::string asGraph(const Report& report) {
 std::string asJson(const story::Story& story, const Report& report) {
     Json endings = Json::array();
     for (const FoundEnding& ending : report.endings)
-        endings.push_back({{"name", ending.name}, {"steps", ending.steps}, {"walk", ending.walk}});
+        endings.push_back({{"name", ending.name},
+                           {"steps", ending.steps},
+                           {"walk", ending.walk},
+                           {"play", asJson(story, ending.play)}});
     Json dead = Json::array();
     for (const DeadEnd& end : report.dead)
         dead.push_back({{"file", story.files[static_cast<std::size_t>(end.place.file)]},
                         {"line", end.place.line},
                         {"column", end.place.column},
                         {"steps", end.steps},
-                        {"walk", end.walk}});
+                        {"walk", end.walk},
+                        {"play", asJson(story, end.play)}});
     const Json whole{{"complete", report.complete},
                      {"states", report.states},
                      {"steps", report.steps},

@@ -23,6 +23,15 @@ std::vector<PlayedStep> play(const Program& program, Stacks& stacks, const std::
 std::string walkText(const Program& program, Stacks& stacks, const std::vector<PlayedStep>& steps,
                      const std::string& title);
 
+// What somebody who reads about a play wants to know of one step.
+struct ToldStep {
+    std::string room;                // in which it is taken, UTF-8
+    std::string what;                // the player does; empty for the beginning
+    story::Place place;              // of the first command that it runs; file -1 if it runs none
+    std::vector<std::string> texts;  // that are shown in it, lines divided by "#"
+};
+std::vector<ToldStep> tell(const Program& program, const Stacks& stacks, const std::vector<PlayedStep>& steps);
+
 // What the player does in a step, German, UTF-8: `„Tür“ links`.
 std::string inWords(const Program& program, const State& before, Action action);
 

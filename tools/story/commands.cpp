@@ -7,6 +7,7 @@
 #include "platform/machine/system.h"
 #include "platform/values/error.h"
 #include "tools/completion/completion.h"
+#include "tools/page/page.h"
 #include "tools/prove/command.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
@@ -40,6 +41,7 @@ struct Options {
     web::Order web;
     bool program = false;
     std::string player;
+    page::Order page;
 };
 
 struct Streams {
@@ -249,13 +251,18 @@ int reference(const Options& /*options*/, const Streams& to) {
     return clean;
 }
 
-int page(const Options& options, const Streams& to) {
+int browserPage(const Options& options, const Streams& to) {
     web::Order order = options.web;
     needAll({order.story.string()});
     if (order.engine.empty()) order.engine = web::engineFor(programDirectory());
     if (order.engine.empty())
         throw WrongCall{"der Kern für den Browser ist nicht da; ./web macht ihn, --engine DIR sagt, wo er liegt"};
     return web::pack(order, to.out, to.err) ? clean : hasFindings;
+}
+
+int storyPage(const Options& options, const Streams& to) {
+    page::write(options.page, to.out, to.err);
+    return clean;
 }
 
 // --- the command line
@@ -306,6 +313,17 @@ void describeWeb(CLI::App& app, Options& options) {
     app.add_option("--engine", order.engine, "wo der Kern für den Browser liegt");
 }
 
+void describePage(CLI::App& app, Options& options) {
+    page::Order& order = options.page;
+    app.add_option("QUELLE-oder-DIR", order.words, "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
+        ->required();
+    app.add_option("--into", order.into, "die Datei, die geschrieben wird, etwa geschichte.html")->required();
+    app.add_option("--data", order.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
+    app.add_option("--ran", order.ran, "was zentrox-probe --ran geschrieben hat; die Zeilen werden danach gefärbt");
+    app.add_option("--proof", order.proof, "was zentrox-story prove --json geschrieben hat");
+    app.add_option("--title", order.title, "wie die Geschichte auf der Seite heißt");
+}
+
 void describe(CLI::App& app, Chosen& chosen) {
     Options& options = chosen.options;
     speakGerman(app);
@@ -344,7 +362,11 @@ void describe(CLI::App& app, Chosen& chosen) {
 
     describeProve(*add("prove", "spielt alle Spiele durch: Enden, Sackgassen, was nie geschieht", prove), options);
 
-    describeWeb(*add("web", "macht aus einer Geschichte eine Seite, die jeder Browser spielt", page), options);
+    describeWeb(*add("web", "macht aus einer Geschichte eine Seite, die jeder Browser spielt", browserPage),
+                options);
+
+    describePage(*add("page", "macht aus einer Geschichte eine Seite zum Ansehen: Karte, Räume, Texte", storyPage),
+                 options);
 
     sub = add("coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage);
     sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();

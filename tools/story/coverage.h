@@ -21,6 +21,8 @@ public:
 
     // Percent of all lines; 100 for a story without any.
     double percent() const;
+    // By file and line: whether it has run. Lines that only hold a block together are not among them.
+    const std::map<std::pair<int, int>, bool>& lineStates() const { return lines_; }
     // For people, German: each line that has not run as FILE:LINE with its text, then what never ran at all, then
     // the figures of each source and of the whole.
     std::string report(SourceFiles& files) const;
@@ -44,7 +46,6 @@ private:
     const Story& story_;
     // By the room's file in lower case and the name that a record has for the script; items have no room.
     std::multimap<std::pair<Text, std::string>, Script> scripts_;
-    // By file and line: whether it has run. Lines that only hold a block together do not count.
     std::map<std::pair<int, int>, bool> lines_;
     std::map<std::int32_t, bool> commands_;  // those of the story: whether they have run
 };

@@ -1,0 +1,44 @@
+// Places boxes and the lines between them by Graphviz.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zentrox::page {
+
+// Lengths in pixels, from the left upper corner.
+struct Drawing {
+    struct Box {
+        double width = 0;
+        double height = 0;
+        double x = 0;  // of its middle
+        double y = 0;
+    };
+    struct Line {
+        std::size_t from = 0;
+        std::size_t to = 0;
+        double labelWidth = 0;  // 0: no label
+        double labelHeight = 0;
+        bool back = false;  // to something above, which does not order the boxes
+        double labelX = 0;  // of its middle
+        double labelY = 0;
+        std::string path;  // as SVG has it
+    };
+    bool sideways = false;
+    double width = 0;
+    double height = 0;
+    std::vector<Box> boxes;
+    std::vector<Line> lines;
+    bool placed = false;
+};
+
+// About how wide a text is in the page's letters of 12.5 pixels; rather too much than too little, as each machine has
+// its own.
+double widthOf(std::string_view utf8);
+
+// All at once, as starting Graphviz takes longer than its work. False if it is not there or fails; nothing is placed
+// then.
+bool place(const std::vector<Drawing*>& drawings);
+
+}  // namespace zentrox::page
