@@ -26,7 +26,8 @@ TEST(Html, NothingOfTheStoryLeavesItsElement) {
     const nlohmann::ordered_json model{{"t", nasty}, {nasty, 1}};
     const std::string page = htmlOf(model, nasty);
     const std::string plain = htmlOf(nlohmann::ordered_json{{"t", ""}}, "");
-    for (const char* const tag : {"<script", "</script", "<!--", "<b>"}) EXPECT_EQ(countOf(page, tag), countOf(plain, tag)) << tag;
+    for (const char* const tag : {"<script", "</script", "<!--", "<b>"})
+        EXPECT_EQ(countOf(page, tag), countOf(plain, tag)) << tag;
     const std::string inside = between(page, "type=\"application/json\">", "</script>");
     EXPECT_EQ(nlohmann::json::parse(inside)["t"], nasty.substr(0, nasty.size() - 1) + "\xEF\xBF\xBD");
 }

@@ -16,7 +16,8 @@ std::string told(const Need& need) {
 std::vector<std::string> waysIn(const Reading& reading) {
     std::vector<std::string> lines;
     for (const Way& way : waysOf(reading, sectionsOf(reading))) {
-        std::string line = std::to_string(way.from) + ">" + (way.ending ? "ENDE " + toUtf8(way.target) : std::to_string(way.to));
+        std::string line =
+            std::to_string(way.from) + ">" + (way.ending ? "ENDE " + toUtf8(way.target) : std::to_string(way.to));
         for (const Need& need : way.needs) line += " [" + told(need) + "]";
         lines.push_back(line);
     }
@@ -27,8 +28,8 @@ std::vector<std::string> usesIn(const Reading& reading, const std::vector<Use>& 
     constexpr std::array words{"sets", "clears", "tests", "plays", "takes", "gives", "drops", "carries"};
     std::vector<std::string> lines;
     for (const Use& use : uses)
-        lines.push_back(std::string(words[static_cast<std::size_t>(use.kind)]) + " " + at(reading, use.place) + ":" +
-                        std::to_string(use.place.column));
+        lines.push_back(std::string(words[static_cast<std::size_t>(use.kind)]) + " " + at(reading, use.place) +
+                        ":" + std::to_string(use.place.column));
     return lines;
 }
 
@@ -146,19 +147,20 @@ TEST(Uses, KnowGamesAndTheEvilCounter) {
 }
 
 TEST(Sections, KnowTheirPlaces) {
-    const Reading reading = readStory({{"a.story", "Einbinden \"b.teil\"\n" + std::string(rooms)},
-                                       {"b.teil", "Person Ada\n    Farbe 7\n"}});
+    const Reading reading = readStory(
+        {{"a.story", "Einbinden \"b.teil\"\n" + std::string(rooms)}, {"b.teil", "Person Ada\n    Farbe 7\n"}});
     std::vector<std::string> lines;
     for (const Section& section : sectionsOf(reading))
-        lines.push_back(std::string(wordOf(section.kind)) + " " + toUtf8(section.name) + " " + at(reading, section.head) + "-" +
-                        std::to_string(section.lastLine) + " " + std::to_string(section.room) + "/" +
-                        std::to_string(section.object));
-    EXPECT_EQ(lines, (std::vector<std::string>{
-                         "Person Ada b.teil:1-2 -1/-1", "Raum Start.lsd a.story:2-2 0/-1", "Objekt Tür a.story:3-3 0/0",
-                         "Links  a.story:4-11 0/0", "Ablegen  a.story:12-14 0/0", "Objekt Fremder a.story:15-15 0/1",
-                         "Links  a.story:16-22 0/1", "Raum Keller.lsd a.story:23-23 1/-1", "Start  a.story:24-33 1/-1",
-                         "Skriptteil HINAB a.story:34-36 -1/-1", "Gegenstand seil.bmp a.story:37-37 -1/-1",
-                         "Gegenstand leiter.bmp a.story:38-38 -1/-1", "Links  a.story:39-40 -1/-1"}));
+        lines.push_back(std::string(wordOf(section.kind)) + " " + toUtf8(section.name) + " " +
+                        at(reading, section.head) + "-" + std::to_string(section.lastLine) + " " +
+                        std::to_string(section.room) + "/" + std::to_string(section.object));
+    EXPECT_EQ(lines,
+              (std::vector<std::string>{
+                  "Person Ada b.teil:1-2 -1/-1", "Raum Start.lsd a.story:2-2 0/-1", "Objekt Tür a.story:3-3 0/0",
+                  "Links  a.story:4-11 0/0", "Ablegen  a.story:12-14 0/0", "Objekt Fremder a.story:15-15 0/1",
+                  "Links  a.story:16-22 0/1", "Raum Keller.lsd a.story:23-23 1/-1", "Start  a.story:24-33 1/-1",
+                  "Skriptteil HINAB a.story:34-36 -1/-1", "Gegenstand seil.bmp a.story:37-37 -1/-1",
+                  "Gegenstand leiter.bmp a.story:38-38 -1/-1", "Links  a.story:39-40 -1/-1"}));
 }
 
 TEST(Area, IsDrawnCellByCell) {

@@ -20,7 +20,8 @@ std::string drawn(const Talk& talk) {
 }
 
 std::string onlyTalk(const std::string& body) {
-    const Reading reading = readStory({{"a.story", "Person Ada\n    Farbe 7\nRaum \"Start.lsd\"\n    Start\n" + body}});
+    const Reading reading =
+        readStory({{"a.story", "Person Ada\n    Farbe 7\nRaum \"Start.lsd\"\n    Start\n" + body}});
     const auto talks = talksOf(sectionsOf(reading));
     EXPECT_EQ(talks.size(), 1U);
     return talks.empty() ? "" : drawn(talks[0]);
@@ -73,8 +74,9 @@ Text "Gut."
 }
 
 TEST(Talk, IsBrokenIntoLinesThatFit) {
-    const Reading reading = readStory({{"a.story", "Raum \"Start.lsd\"\nStart\nAuswahl \"" + std::string(30, 'a') + " " +
-                                                       std::string(30, 'b') + "\"\nOption \"x\"\nEndeAuswahl\n"}});
+    const Reading reading =
+        readStory({{"a.story", "Raum \"Start.lsd\"\nStart\nAuswahl \"" + std::string(30, 'a') + " " +
+                                   std::string(30, 'b') + "\"\nOption \"x\"\nEndeAuswahl\n"}});
     const auto talks = talksOf(sectionsOf(reading));
     ASSERT_EQ(talks.size(), 1U);
     EXPECT_EQ(talks[0].boxes[0].lines.size(), 2U);

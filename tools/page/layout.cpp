@@ -42,7 +42,8 @@ private:
 
 void write(const Drawing& drawing, std::ostream& out) {
     out << "digraph {\nrankdir=" << (drawing.sideways ? "LR" : "TB")
-        << ";\nnodesep=0.35;\nranksep=0.45;\nnode [shape=box, fixedsize=true, label=\"\"];\nedge [arrowsize=0.7];\n";
+        << ";\nnodesep=0.35;\nranksep=0.45;\nnode [shape=box, fixedsize=true, label=\"\"];\nedge "
+           "[arrowsize=0.7];\n";
     for (std::size_t i = 0; i < drawing.boxes.size(); ++i)
         out << "n" << i << " [width=" << drawing.boxes[i].width / pixelsAnInch
             << ", height=" << drawing.boxes[i].height / pixelsAnInch << "];\n";
@@ -99,7 +100,8 @@ private:
         line.labelY = drawing_.height - at.at(1);
     }
 
-    // "e,X,Y" is the tip of the arrow; what follows is where the curve begins, and three points for each piece of it.
+    // "e,X,Y" is the tip of the arrow; what follows is where the curve begins, and three points for each piece of
+    // it.
     std::string pathOf(const std::string& position) const {
         std::istringstream words(position);
         std::ostringstream path;

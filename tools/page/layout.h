@@ -33,12 +33,12 @@ struct Drawing {
     bool placed = false;
 };
 
-// About how wide a text is in the page's letters of 12.5 pixels; rather too much than too little, as each machine has
-// its own.
+// About how wide a text is in the page's letters of 12.5 pixels; rather too much than too little, as each machine
+// has its own.
 double widthOf(std::string_view utf8);
 
-// All at once, as starting Graphviz takes longer than its work. False if it is not there or fails; nothing is placed
-// then.
+// All at once, as starting Graphviz takes longer than its work. False if it is not there or fails; nothing is
+// placed then.
 bool place(const std::vector<Drawing*>& drawings);
 
 }  // namespace zentrox::page

@@ -164,9 +164,7 @@ private:
     }
 
     // As it is spelled, without its extension.
-    static std::string nameOf(const Text& file) {
-        return toUtf8(file.substr(0, file.find_last_of('.')));
-    }
+    static std::string nameOf(const Text& file) { return toUtf8(file.substr(0, file.find_last_of('.'))); }
 
     // Those that its scripts show.
     Json otherPictures(const story::StoryRoom& room) {
@@ -246,8 +244,7 @@ private:
 
     Json flags() const {
         Json list = Json::array();
-        for (const auto& [name, uses] : uses_.flags)
-            list.push_back({{"n", toUtf8(name)}, {"uses", usesIn(uses)}});
+        for (const auto& [name, uses] : uses_.flags) list.push_back({{"n", toUtf8(name)}, {"uses", usesIn(uses)}});
         return list;
     }
 
@@ -256,9 +253,9 @@ private:
     Json term(const story::Term& term) const {
         const bool flag = term.kind == story::Term::Kind::flag;
         const Text key = flag ? upper(term.name.value) : reading_.names.baseNameOf(term.name);
-        return {{"k", flag                                          ? "flag"
+        return {{"k", flag                                   ? "flag"
                       : term.kind == story::Term::Kind::item ? "item"
-                                                                    : "drop"},
+                                                             : "drop"},
                 {"n", toUtf8(key)},
                 {"not", term.negated}};
     }
@@ -279,8 +276,8 @@ private:
         for (const Way& way : ways_) {
             Json needs = Json::array();
             for (const Need& one : way.needs) needs.push_back(need(one));
-            Json one{{"from", way.from},       {"to", way.to},      {"target", toUtf8(way.target)},
-                     {"ending", way.ending},   {"s", way.section},  {"needs", needs}};
+            Json one{{"from", way.from},     {"to", way.to},     {"target", toUtf8(way.target)},
+                     {"ending", way.ending}, {"s", way.section}, {"needs", needs}};
             put(one, way.place);
             list.push_back(std::move(one));
         }
@@ -314,7 +311,8 @@ private:
         }
         for (std::size_t i = 0; i < map_.lines.size(); ++i) {
             const RoomMap::Line& line = map_.lines[i];
-            Json one{{"a", line.from}, {"b", line.to}, {"ways", line.ways}, {"both", line.both}, {"t", line.labels}};
+            Json one{
+                {"a", line.from}, {"b", line.to}, {"ways", line.ways}, {"both", line.both}, {"t", line.labels}};
             put(one, map_.drawing.lines[i]);
             out["lines"].push_back(std::move(one));
         }
@@ -358,7 +356,8 @@ private:
             Json one{{"key", line.key}, {"who", toUtf8(line.speaker)}, {"t", toUtf8(line.text)}};
             put(one, line.place);
             if (!line.voice.empty()) one["voice"] = toUtf8(line.voice);
-            const Text file = reading_.data && !line.voice.empty() ? reading_.data->soundFor(Dateiname(line.voice)) : Text();
+            const Text file =
+                reading_.data && !line.voice.empty() ? reading_.data->soundFor(Dateiname(line.voice)) : Text();
             if (!file.empty()) one["at"] = address(story::DataFiles::path(Ordner::sounds, file));
             list.push_back(std::move(one));
         }

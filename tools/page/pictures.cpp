@@ -32,10 +32,12 @@ struct Sum {
 
 Bitmap fitted(const Bitmap& picture, Size most) {
     if (picture.empty() || (picture.width() <= most.w && picture.height() <= most.h)) return picture;
-    const double scale = std::min(static_cast<double>(most.w) / picture.width(),
-                                  static_cast<double>(most.h) / picture.height());
+    const double scale =
+        std::min(static_cast<double>(most.w) / picture.width(), static_cast<double>(most.h) / picture.height());
     Bitmap small({std::max(1, Runden(picture.width() * scale)), std::max(1, Runden(picture.height() * scale))});
-    const auto from = [](int i, int target, int source) { return static_cast<int>(std::int64_t{i} * source / target); };
+    const auto from = [](int i, int target, int source) {
+        return static_cast<int>(std::int64_t{i} * source / target);
+    };
     for (int y = 0; y < small.height(); ++y)
         for (int x = 0; x < small.width(); ++x) {
             Sum sum;

@@ -7,8 +7,8 @@
 
 namespace zentrox::page {
 
-// `complete`, `states`, `endings`, `dead`, `findings`; files are numbers of the story. Throws `story::WrongCall` with
-// `name` where that is no such file, or one of another story.
+// `complete`, `states`, `endings`, `dead`, `findings`; files are numbers of the story. Throws `story::WrongCall`
+// with `name` where that is no such file, or one of another story.
 nlohmann::json proofOf(const std::string& json, const std::string& name, const Reading& reading);
 
 }  // namespace zentrox::page

@@ -21,8 +21,8 @@ struct Reading {
     std::string title;
 };
 
-// `words` are sources, directories of them, or a data directory, whose sources are then made up. `data` may be empty.
-// Throws `story::WrongCall`.
+// `words` are sources, directories of them, or a data directory, whose sources are then made up. `data` may be
+// empty. Throws `story::WrongCall`.
 Reading read(const std::vector<std::string>& words, const std::filesystem::path& data);
 // The same for sources from anywhere else, without data and check.
 Reading read(const std::vector<std::filesystem::path>& sources, story::SourceFiles& files);

@@ -77,7 +77,8 @@ private:
 
     // A box that goes on if it is the last one and nothing else leads to what is next.
     std::size_t boxForMore(const Ends& ends, story::Place place) {
-        const bool same = open_ && ends.size() == 1 && ends[0].label.empty() && ends[0].box + 1 == talk_.boxes.size();
+        const bool same =
+            open_ && ends.size() == 1 && ends[0].label.empty() && ends[0].box + 1 == talk_.boxes.size();
         const std::size_t number = same ? ends[0].box : box(TalkBox::Kind::says, place, ends);
         open_ = true;
         return number;
@@ -119,8 +120,7 @@ private:
         return node.kind == Node::Kind::plain && commandOf(node.head) == "Marke"_op;
     }
     static std::int32_t commandOf(const Statement& statement) {
-        const Opcode* const row =
-            statement.front().quoted ? nullptr : story::commandNamed(statement.front().value);
+        const Opcode* const row = statement.front().quoted ? nullptr : story::commandNamed(statement.front().value);
         return row == nullptr ? -1 : row->number;
     }
 
@@ -154,7 +154,8 @@ private:
         const std::size_t number = boxForMore(ends, statement.front().place);
         std::string words;
         for (const story::Token& token : statement)
-            words += (words.empty() ? "" : " ") + (token.quoted ? "\"" + toUtf8(token.value) + "\"" : toUtf8(token.value));
+            words += (words.empty() ? "" : " ") +
+                     (token.quoted ? "\"" + toUtf8(token.value) + "\"" : toUtf8(token.value));
         while (lengthOf(words) > longestCommand) words.resize(words.size() - 1 - (words.back() & 0x80 ? 1 : 0));
         talk_.boxes[number].lines.push_back({LineKind::command, words, ""});
         return {{number, {}}};
@@ -172,7 +173,8 @@ private:
         const Text name = statement.size() > 1 ? story::normalised(statement[1].value) : Text();
         if (number == "Marke"_op) {
             const std::size_t box = this->box(TalkBox::Kind::says, statement.front().place, ends);
-            put(box, LineKind::command, "", toUtf8("Marke " + (statement.size() > 1 ? statement[1].value : Text())));
+            put(box, LineKind::command, "",
+                toUtf8("Marke " + (statement.size() > 1 ? statement[1].value : Text())));
             marks_.emplace(name, box);
             open_ = true;
             return {{box, {}}};
@@ -184,10 +186,10 @@ private:
             return {};
         }
         const bool ends_ = row->next == Next::ends || row->next == Next::word;
-        static const std::vector<std::int32_t> told{
-            "SetzeMerker"_op, "LöscheMerker"_op, "NimmGegenstand"_op, "GibGegenstand"_op, "Raumwechsel"_op,
-            "Spiel"_op,       "BöseÄndern"_op,   "System"_op,         "ObjektAn"_op,      "ObjektAus"_op,
-            "Film"_op,        "CountDownSetzen"_op};
+        static const std::vector<std::int32_t> told{"SetzeMerker"_op,   "LöscheMerker"_op, "NimmGegenstand"_op,
+                                                    "GibGegenstand"_op, "Raumwechsel"_op,  "Spiel"_op,
+                                                    "BöseÄndern"_op,    "System"_op,       "ObjektAn"_op,
+                                                    "ObjektAus"_op,     "Film"_op,         "CountDownSetzen"_op};
         if (std::find(told.begin(), told.end(), number) == told.end()) return ends;
         Ends after = command(statement, ends);
         if (row->next == Next::ends) talk_.boxes[after[0].box].kind = TalkBox::Kind::leaves;
@@ -276,8 +278,8 @@ private:
         for (const TalkBox& box : talk_.boxes) {
             double longest = leastWidth;
             for (const TalkBox::Line& line : box.lines) longest = std::max(longest, widthIn(line));
-            talk_.drawing.boxes.push_back({longest + margin,
-                                           static_cast<double>(box.lines.size()) * lineHeight + margin, 0, 0});
+            talk_.drawing.boxes.push_back(
+                {longest + margin, static_cast<double>(box.lines.size()) * lineHeight + margin, 0, 0});
         }
         for (const TalkLine& line : talk_.lines) {
             Drawing::Line drawn;

@@ -88,8 +88,7 @@ private:
 
     void call(const Statement& statement) {
         Text name;
-        for (std::size_t i = 1; i < statement.size(); ++i)
-            (name += name.empty() ? "" : " ") += statement[i].value;
+        for (std::size_t i = 1; i < statement.size(); ++i) (name += name.empty() ? "" : " ") += statement[i].value;
         const story::Part* const part = reading_.names.part(name);
         if (part == nullptr || depth_ == deepestPart) return;
         ++depth_;
@@ -112,8 +111,7 @@ private:
 
     void put(story::Place place, const Text& target, bool ending) {
         ended_ = ended_ || ending;
-        ways_.push_back(
-            {sections_[at_].room, ending ? -1 : roomNamed(target), target, ending, place, at_, needs_});
+        ways_.push_back({sections_[at_].room, ending ? -1 : roomNamed(target), target, ending, place, at_, needs_});
     }
 
     int roomNamed(const Text& name) const {

@@ -44,8 +44,8 @@ std::string answer(const Program& program, const Stacks& stacks, const PlayedSte
     Stack stack;
     const Frame* const frame = standsIn(program, stacks, step.before, "Auswahl"_op, stack);
     if (frame == nullptr) return {};
-    const auto choice = story::splitChoice(
-        story::argumentOf(*program.scripts[at(frame->script)].source, at(frame->index)));
+    const auto choice =
+        story::splitChoice(story::argumentOf(*program.scripts[at(frame->script)].source, at(frame->index)));
     const auto option = at(step.action.a) - 1;
     return option < choice.options.size() ? "„" + withoutColours(choice.options[option]) + "“ antworten" : "";
 }
@@ -69,8 +69,8 @@ std::vector<ToldStep> tell(const Program& program, const Stacks& stacks, const s
         for (const TraceStep& ran : step.trace) {
             if (next.place.file == -1) next.place = program.placeOf(ran.script, std::max(ran.index, 0));
             if (commandAt(program, ran.script, ran.index) == "Text"_op)
-                next.texts.push_back(withoutColours(
-                    story::argumentOf(*program.scripts[at(ran.script)].source, at(ran.index))));
+                next.texts.push_back(
+                    withoutColours(story::argumentOf(*program.scripts[at(ran.script)].source, at(ran.index))));
         }
         told.push_back(std::move(next));
     }

@@ -1,6 +1,7 @@
 // The map of the rooms and the graphs of talks: placed when the page was made, drawn here.
 
-function viewOf(graph, drawing, smallest) {
+// `first` is the box to begin with, where not all can be seen at once.
+function viewOf(drawing, smallest, first) {
     const frame = h("div", { class: "graph", tabindex: "0" }, drawing);
     let scale = 1;
     const set = (value) => {
@@ -19,7 +20,10 @@ function viewOf(graph, drawing, smallest) {
         h("button", { type: "button", onclick: () => zoom(0.8), "aria-label": "Kleiner" }, "−"),
         h("button", { type: "button", onclick: () => zoom(1.25), "aria-label": "Größer" }, "+"),
         h("button", { type: "button", onclick: () => fit(0.1) }, "Einpassen"));
-    requestAnimationFrame(() => fit(smallest));
+    requestAnimationFrame(() => {
+        fit(smallest);
+        if (first) frame.scrollLeft = first.x * scale - frame.clientWidth / 2;
+    });
     drag(frame);
     return h("div", { class: "graphBox" }, tools, frame);
 }
@@ -125,7 +129,7 @@ views.karte = () => {
     return [h("h1", {}, story.title),
         h("p", { class: "lead" }, [count(story.rooms.length, "Raum", "Räume"), count(story.items.length, "Gegenstand", "Gegenstände"), count(story.flags.length, "Merker", "Merker"),
             count(story.texts.length, "Text", "Texte")].join(" · ")),
-        map.placed ? viewOf(map, mapDrawing(map), 0.5) : h("div", { class: "cards" }, story.rooms.map((room) =>
+        map.placed ? viewOf(mapDrawing(map), 0.5, map.boxes.find((box) => box.k === "room" && /^start\.lsd$/i.test(story.rooms[box.r].file))) : h("div", { class: "cards" }, story.rooms.map((room) =>
             h("a", { class: "card", href: roomAddress(room) }, image(room.pic, "") || h("span", { class: "black" }), h("b", {}, room.n)))),
         list];
 };
@@ -155,7 +159,7 @@ function talkList(talk) {
         box.t.map((line) => h("div", { class: line.k }, line.p ? h("b", {}, line.p + ": ") : null, line.t)),
         h("small", {}, talk.lines.filter((line) => line.a === index).map((line) => " → " + (line.t ? line.t + ": " : "") + (line.b + 1))))));
 }
-const talkGraph = (talk) => (talk.placed ? viewOf(talk, talkDrawing(talk), 0.75) : talkList(talk));
+const talkGraph = (talk) => (talk.placed ? viewOf(talkDrawing(talk), 0.75, talk.boxes[0]) : talkList(talk));
 
 views.gespraeche = ([number]) => {
     const talk = story.talks[Number(number)];
