@@ -1,9 +1,11 @@
 #include "comfort/comforts.h"
 
+#include <algorithm>
 #include <iostream>
 #include <system_error>
 
 #include "platform/machine/replace_file.h"
+#include "platform/machine/sound.h"
 #include "platform/machine/whole_file.h"
 #include "platform/picture/font.h"
 #include "platform/window/controls/look.h"
@@ -41,6 +43,7 @@ Comforts::Comforts(Platform& platform, Zustand& zustand, ComfortMachine& machine
 }
 
 Comforts::~Comforts() {
+    told_.clear();
     takeFromMachine();
     platform_.queue.firstLook = nullptr;
     machine_.setOverlay(nullptr);
@@ -49,6 +52,9 @@ Comforts::~Comforts() {
 void Comforts::apply() {
     machine_.setFullScreen(settings_.fullScreen);
     machine_.setEnlarging(static_cast<Enlarging>(settings_.enlarging));
+    const auto volume = [this](int percent) { return settings_.muted ? 0 : percent; };
+    const int speech = volume(settings_.speech);
+    platform_.sound.setVolumes({speech, volume(settings_.effects), volume(settings_.music), speech});
     for (const auto& told : told_) told(settings_);
 }
 
@@ -76,12 +82,40 @@ void Comforts::takeFromMachine() {
 
 bool Comforts::firstLook(const Input& input) {
     takeFromMachine();
-    return keys_.take(input);
+    return keys_.take(input) ||
+           std::any_of(looks_.begin(), looks_.end(), [&input](const auto& look) { return look(input); });
+}
+
+// The sound asks the clock in a thread of its own, but not while it is paused.
+void Comforts::pausedDuring(const std::function<void()>& work) {
+    struct Pause {
+        Comforts& all;
+        explicit Pause(Comforts& comforts) : all(comforts) {
+            all.pauseSound(true);
+            all.platform_.queue.stopClock();
+        }
+        ~Pause() {
+            all.platform_.queue.letClockGoOn();
+            all.pauseSound(false);
+        }
+    };
+    const Pause pause(*this);
+    keys_.during(work);
+}
+
+void Comforts::machineStands(bool stands) {
+    pauseSound(stands);
+}
+
+void Comforts::pauseSound(bool on) {
+    soundPauses_ += on ? 1 : -1;
+    if (soundPauses_ == (on ? 1 : 0)) machine_.setSoundPaused(on);
 }
 
 void Comforts::notice(Text text) {
     notice_ = std::move(text);
     machine_.refreshOverlay();
+    // In a window over the game it stands until the game goes on.
     noticeEnd_.emplace(platform_.queue, noticeLasts, true, [this] {
         notice_.clear();
         noticeEnd_->setEnabled(false);

@@ -34,8 +34,16 @@ public:
     void whenChanged(std::function<void(const Settings&)> told) { told_.push_back(std::move(told)); }
 
     ComfortKeys& keys() { return keys_; }
+    // Asked, behind the keys, for each input; true if the game shall not know of it. It may open windows and wait.
+    void addLook(std::function<bool(const Input& input)> look) { looks_.push_back(std::move(look)); }
     // Who is to be told of the play; hand it to `Spielen`.
     Verteiler& observers() { return observers_; }
+
+    // Does something, usually in a window of its own, while the game stands still: its clock, its timers, its
+    // sound.
+    void pausedDuring(const std::function<void()>& work);
+    // The machine stands still by itself, as a minimised window does: so does the sound.
+    void machineStands(bool stands);
 
     // Draws over the picture; the later ones over the earlier ones.
     void addOverlay(std::function<void(Bitmap& picture, const Rect& base)> draw) {
@@ -43,11 +51,14 @@ public:
     }
     // Tells the player something for a few seconds, at the lower edge of the picture.
     void notice(Text text);
+    // The overlay would look different now.
+    void refresh() { machine_.refreshOverlay(); }
 
 private:
     bool firstLook(const Input& input);
     void apply();
     void takeFromMachine();
+    void pauseSound(bool on);
     void drawNotice(Bitmap& picture, const Rect& base) const;
 
     Platform& platform_;
@@ -58,7 +69,9 @@ private:
     ComfortKeys keys_;
     Verteiler observers_;
     std::vector<std::function<void(const Settings&)>> told_;
+    std::vector<std::function<bool(const Input&)>> looks_;
     std::vector<std::function<void(Bitmap&, const Rect&)>> overlays_;
+    int soundPauses_ = 0;  // so many want it to stand still
     Text notice_;
     std::optional<Timer> noticeEnd_;
 };

@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "comfort/comforts.h"
+#include "comfort/desk.h"
 #include "engine/files/titeldatei.h"
 #include "main/desktopcomfort.h"
 #include "main/options.h"
@@ -38,13 +39,15 @@ int play(const Options& options, const StoryPlace& place) {
     const Files& files = place.files;
     sdl::Desktop desktop(files, restartCommand(programFile(), options));
     const auto fonts = makeFonts();
-    const auto sound = desktopSound(files, [&desktop] { return desktop.clock(); });
-    desktop.onPause = [&sound](bool paused) { sound->setPaused(paused); };
+    SoundClock clock(desktop);
+    const auto sound = desktopSound(files, [&clock] { return clock.now(); });
     Platform platform(desktop, *fonts, *sound, files);
     platform.roots = rootsToSearch(options, searchRoots(options.directory));
     const auto zustand = std::make_unique<Zustand>();
-    DesktopComfort machine(desktop);
+    DesktopComfort machine(desktop, *sound, clock);
     Comforts comforts(platform, *zustand, machine, settingsFile(place.settings));
+    const Desk desk(comforts);
+    desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
     return Spielen(platform, *zustand, fromUtf8(options.commandLine), {.observer = &comforts.observers()});
 }
 

@@ -97,7 +97,7 @@ void Interpreter::Film(Lauf& lauf) {
         if (tiefe_ > tiefe) raum_.FilmBild();
     });
     while (!abgebrochen()) {
-        platform_.queue.waitUntil("Film", abgebrochen, platform_.backend.nextFrame());
+        platform_.queue.waitUntil("Film", abgebrochen, platform_.queue.frameDue());
         raum_.FilmBild();
         if (medien_.VideoPosition() >= medien_.VideoLänge()) break;
     }

@@ -57,6 +57,7 @@ public:
     void setPaused(bool paused) override {
         if (open_) output_->setPaused(paused);
     }
+    void setVolumes(const Volumes& volumes) override { streams_.setVolumes(volumes); }
     void useSoundFontsIn(TextView directory) override { musics_ = files_.systemPath(directory); }
 
     SoundHandle openVoice(TextView path) override;

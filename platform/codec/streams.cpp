@@ -31,6 +31,11 @@ void Streams::stop(Track track) {
     std::swap(slot(track), stopped);
 }
 
+void Streams::setVolumes(const Volumes& volumes) {
+    const std::lock_guard lock(mutex_);
+    volumes_ = {volumes.voice, volumes.effect, volumes.song, volumes.video};  // in the order of `Track`
+}
+
 bool Streams::ended(Track track) const {
     const std::lock_guard lock(mutex_);
     return slot(track).ended;
@@ -54,7 +59,7 @@ void Streams::mix(std::int16_t* samples, int frames) {
     latency_ = 2 * milliseconds(frames);
     decoded_.resize(static_cast<std::size_t>(frames) * channels);
     for (std::size_t i = 0; i < slots_.size(); ++i)
-        if (slots_[i].running) add(slots_[i], levels[i], samples, frames);
+        if (slots_[i].running) add(slots_[i], levels[i] * volumes_[i] / 100, samples, frames);
 }
 
 void Streams::add(Slot& slot, int level, std::int16_t* samples, int frames) {

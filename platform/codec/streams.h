@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/machine/decoder.h"
+#include "platform/machine/sound.h"
 
 namespace zentrox {
 
@@ -23,6 +24,8 @@ public:
     // Plays a sound in place of the one before. Null is silence that still counts its time.
     void start(Track track, std::unique_ptr<AudioReader> reader);
     void stop(Track track);
+
+    void setVolumes(const Volumes& volumes);
 
     // True when the reader has come to its end.
     bool ended(Track track) const;
@@ -48,6 +51,7 @@ private:
 
     mutable std::mutex mutex_;
     std::array<Slot, 4> slots_;
+    std::array<int, 4> volumes_{100, 100, 100, 100};  // percent
     std::vector<std::int16_t> decoded_;
     std::function<std::int64_t()> clock_;
     std::int64_t called_ = clock_();  // when the device took something last

@@ -21,6 +21,14 @@ enum class SoundError {
     notStarted = 9,
 };
 
+// How loud each kind of sound is: percent of what the files have.
+struct Volumes {
+    int voice = 100;
+    int effect = 100;
+    int song = 100;
+    int video = 100;
+};
+
 class SoundDevice {
 public:
     virtual ~SoundDevice() = default;
@@ -37,6 +45,8 @@ public:
     virtual void free() = 0;
     // All that plays stands still until it is told to go on.
     virtual void setPaused(bool /*paused*/) {}
+    // From now on, for what plays as well.
+    virtual void setVolumes(const Volumes& /*volumes*/) {}
 
     // Opens a voice file, in place of the one before, without playing it yet; 0 if that fails.
     virtual SoundHandle openVoice(TextView path) = 0;

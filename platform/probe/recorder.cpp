@@ -47,10 +47,22 @@ void Recorder::stop(Track& track) {
 }
 
 std::int64_t Recorder::position(const Track& track) const {
-    return std::min(clock_() - track.begin, track.length);
+    return std::min(pausedAt_.value_or(clock_()) - track.begin, track.length);
+}
+
+// What plays has begun later by the time of a pause.
+void Recorder::setPaused(bool paused) {
+    if (paused == pausedAt_.has_value()) return;
+    if (paused) {
+        pausedAt_ = clock_();
+        return;
+    }
+    for (Track* const track : {&voice_, &song_, &video_}) track->begin += clock_() - *pausedAt_;
+    pausedAt_.reset();
 }
 
 void Recorder::settle() {
+    if (pausedAt_) return;
     std::array tracks{&voice_, &song_, &video_};
     std::stable_sort(tracks.begin(), tracks.end(), [](auto* a, auto* b) { return a->end() < b->end(); });
     for (auto* track : tracks) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/machine/decoder.h"
@@ -35,6 +36,7 @@ public:
     bool start() override { return true; }
     SoundError error() const override { return error_; }
     void free() override;
+    void setPaused(bool paused) override;
 
     SoundHandle openVoice(TextView path) override;
     void playVoice(SoundHandle handle) override;
@@ -75,6 +77,7 @@ private:
     Files files_;
     std::function<Milliseconds()> clock_;
     Trace trace_;
+    std::optional<Milliseconds> pausedAt_;
     bool started_ = false;
     SoundError error_ = SoundError::none;
 

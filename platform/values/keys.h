@@ -25,8 +25,16 @@ constexpr int insert = 45;
 constexpr int del = 46;
 constexpr int f1 = 112;
 constexpr int f2 = 113;
+constexpr int f3 = 114;
+constexpr int f4 = 115;
+constexpr int f5 = 116;
+constexpr int f6 = 117;
 constexpr int f7 = 118;
+constexpr int f8 = 119;
+constexpr int f9 = 120;
+constexpr int f10 = 121;
 constexpr int f11 = 122;
+constexpr int f12 = 123;
 constexpr int comma = 188;
 constexpr int period = 190;
 

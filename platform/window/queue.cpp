@@ -90,8 +90,8 @@ void Queue::nextFrame(TextView why) {
     const Reason reason(*this, why);
     turn();
     const Milliseconds frame = backend_.nextFrame();
-    while (clock() < frame) {
-        sleepUntil(frame);
+    while (backend_.clock() < frame) {
+        sleepUntil(std::max(clock_.at(frame), clock() + 1));
         turn();
     }
 }
@@ -121,7 +121,7 @@ void Queue::deliver(const Input& input) {
     switch (input.kind) {
         case Kind::move: {
             routing.move(input.at, held_.owned(input.button));
-            if (active() == window) toolTipDue_ = clock() + toolTipRest;
+            if (active() == window) toolTipDue_ = backend_.clock() + toolTipRest;
             return;
         }
         case Kind::press:
@@ -178,6 +178,7 @@ void Queue::disownHeld(HeldInputs::Mark since) {
 void Queue::serveTimers() {
     ++turns_;
     serveToolTip();
+    if (stands()) return;
     const Milliseconds now = clock();
     std::vector<std::pair<Milliseconds, Timer*>> due;
     for (Timer* const timer : timers_)
@@ -194,13 +195,13 @@ void Queue::serveTimers() {
 }
 
 void Queue::serveToolTip() {
-    if (!toolTipDue_ || clock() < *toolTipDue_) return;
+    if (!toolTipDue_ || backend_.clock() < *toolTipDue_) return;
     forgetToolTip();
     if (Window* const window = active()) window->showToolTip(true);
 }
 
 std::optional<Milliseconds> Queue::nextTimer() const {
-    std::optional<Milliseconds> next = toolTipDue_;
+    std::optional<Milliseconds> next;
     for (const Timer* const timer : timers_)
         if (timer->ticking() && (!next || timer->due_ < *next)) next = timer->due_;
     return next;
@@ -212,7 +213,10 @@ void Queue::present() {
 
 void Queue::sleepUntil(std::optional<Milliseconds> deadline) {
     present();
-    for (const auto& other : {nextTimer(), backend_.presentDue()})
+    if (const auto timer = nextTimer(); timer && (!deadline || *timer < *deadline)) deadline = timer;
+    if (deadline) deadline = clock_.machineAt(*deadline);
+    if (stands()) deadline.reset();
+    for (const auto& other : {toolTipDue_, backend_.presentDue()})
         if (other && (!deadline || *other < *deadline)) deadline = other;
     backend_.sleep(deadline);
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/window/backend.h"
+#include "platform/window/gameclock.h"
 #include "platform/window/held.h"
 
 namespace zentrox {
@@ -51,7 +52,14 @@ public:
     Queue(const Queue&) = delete;
     Queue& operator=(const Queue&) = delete;
 
-    Milliseconds clock() const { return backend_.clock(); }
+    Milliseconds clock() const { return clock_.at(backend_.clock()); }
+    // While the clock stands, no timer fires; input comes, and what is new is shown.
+    bool stands() const { return clock_.stands(); }
+    void stopClock() { clock_.stop(backend_.clock()); }
+    void letClockGoOn() { clock_.goOn(backend_.clock()); }
+    // Percent of the machine's time, 1 to 100.
+    int pace() const { return clock_.pace(); }
+    void setPace(int percent) { clock_.setPace(percent, backend_.clock()); }
 
     // One turn: all pending input, then each timer that is due, in the order of their deadlines.
     void yield(TextView why);
@@ -61,6 +69,8 @@ public:
     void waitUntil(TextView why, const std::function<bool()>& condition, Milliseconds deadline);
     // For loops that draw as often as the machine allows: serves and shows one frame of the display.
     void nextFrame(TextView why);
+    // When the next frame of the display is due, by the game's clock, for who waits until then.
+    Milliseconds frameDue() const { return std::max(clock_.at(backend_.nextFrame()), clock() + 1); }
 
     // Counts the turns, so that a long piece of work can see whether it has ever waited.
     std::uint64_t turns() const { return turns_; }
@@ -118,12 +128,13 @@ private:
     void sleepUntil(std::optional<Milliseconds> deadline);
 
     Backend& backend_;
+    GameClock clock_;
     std::vector<Timer*> timers_;
     std::vector<Window*> windows_;
     HeldInputs held_;
     std::vector<Text> reasons_;
     std::uint64_t turns_ = 0;
-    std::optional<Milliseconds> toolTipDue_;
+    std::optional<Milliseconds> toolTipDue_;  // by the machine's clock
 };
 
 }  // namespace zentrox

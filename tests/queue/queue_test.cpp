@@ -106,6 +106,38 @@ TEST_F(QueueTest, NextFrameServesWhatFallsDueMeanwhile) {
     EXPECT_EQ(ticks, (Times{20, 40, 60}));
 }
 
+TEST_F(QueueTest, WhileTheClockStandsNothingFallsDueAndInputComes) {
+    Times ticks;
+    Timer timer(queue(), 300, true, note(ticks));
+    sleepTo(290);
+    queue().stopClock();
+    queue().stopClock();
+    bool done = false;
+    stage_.backend.schedule(5000, [&] { done = true; });
+    queue().waitUntil("test", [&] { return done; });
+    EXPECT_EQ(stage_.backend.now, 5000);
+    EXPECT_EQ(now(), 290);
+    queue().letClockGoOn();
+    EXPECT_TRUE(queue().stands());
+    queue().letClockGoOn();
+    sleepTo(910);
+    EXPECT_EQ(ticks, (Times{300, 600, 900}));
+    EXPECT_EQ(stage_.backend.now, 5620);
+}
+
+TEST_F(QueueTest, ASlowerClockTakesLongerForTheSame) {
+    Times ticks;
+    Timer timer(queue(), 20, true, note(ticks));
+    sleepTo(50);
+    queue().setPace(30);
+    sleepTo(110);
+    EXPECT_EQ(stage_.backend.now, 50 + 200);
+    queue().setPace(100);
+    sleepTo(130);
+    EXPECT_EQ(stage_.backend.now, 250 + 20);
+    EXPECT_EQ(ticks, (Times{20, 40, 60, 80, 100, 120}));
+}
+
 TEST_F(QueueTest, ReasonsStandForAsLongAsTheWaits) {
     Text seen;
     Timer timer(queue(), 20, true, [&] { seen = queue().reasons(); });

@@ -2,18 +2,20 @@
 #pragma once
 
 #include "comfort/machine.h"
+#include "platform/machine/sound.h"
 #include "platform/probe/backend.h"
 
 namespace zentrox::probe {
 
 class ProbeComfort final : public ComfortMachine {
 public:
-    explicit ProbeComfort(ProbeBackend& backend) : backend_(backend) {}
+    ProbeComfort(ProbeBackend& backend, SoundDevice& sound) : backend_(backend), sound_(sound) {}
 
     bool fullScreen() override { return fullScreen_; }
     void setFullScreen(bool on) override { fullScreen_ = on; }
     Enlarging enlarging() override { return enlarging_; }
     void setEnlarging(Enlarging how) override { enlarging_ = how; }
+    void setSoundPaused(bool paused) override { sound_.setPaused(paused); }
     void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) override {
         backend_.overlay = std::move(overlay);
     }
@@ -21,6 +23,7 @@ public:
 
 private:
     ProbeBackend& backend_;
+    SoundDevice& sound_;
     bool fullScreen_ = false;
     Enlarging enlarging_ = Enlarging::whole;
 };

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "comfort/comforts.h"
+#include "comfort/desk.h"
 #include "main/spiel.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/replace_file.h"
@@ -65,12 +66,14 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     probe::Story story(platform, zustand, recorder);
     player.attach(&platform, &story);
     ran.watch(&zustand);
-    probe::ProbeComfort machine(backend);
+    probe::ProbeComfort machine(backend, recorder);
     std::optional<Comforts> comforts;
+    std::optional<Desk> desk;
     Verteiler observers;
     if (!options.ran.empty()) observers.Dazu(ran);
     if (!options.settings.empty()) {
         comforts.emplace(platform, zustand, machine, options.settings);
+        desk.emplace(*comforts);
         observers.Dazu(comforts->observers());
     }
     const int status = Spielen(platform, zustand, arguments, {.observer = &observers});
