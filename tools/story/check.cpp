@@ -19,7 +19,9 @@ void check(const Story& story, const Surroundings& around, Findings& findings) {
         checkTexts(view, around.fonts, findings);
     }
     if (around.data) checkFiles(story, around, findings);
-    if (around.data && around.wholeGame) checkMedia(story, *around.data, findings);
+    FileLooks fresh;
+    if (around.data && around.wholeGame)
+        checkMedia(story, *around.data, around.looks ? *around.looks : fresh, findings);
     checkRooms(story, around, wholeStory, findings);
     checkItems(story, around.rest, findings);
     if (!wholeStory) return;

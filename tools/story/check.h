@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/picture/font.h"
-#include "tools/story/datafiles.h"
+#include "tools/story/filelooks.h"
 #include "tools/story/finding.h"
 
 namespace zentrox::story {
@@ -17,6 +17,7 @@ struct Surroundings {
     const Story* rest = nullptr;  // the parts of the story that are known but not checked
     const DataFiles* data = nullptr;
     Fonts* fonts = nullptr;
+    FileLooks* looks = nullptr;  // null looks at each file anew
     // True looks at the game as well: the rooms and files that it opens by itself, ways to each room, and whether
     // the files that are there can be used.
     bool wholeGame = false;
@@ -44,7 +45,7 @@ void checkTexts(const ScriptView& view, Fonts* fonts, Findings& findings);
 // Files that are named and not there.
 void checkFiles(const Story& story, const Surroundings& around, Findings& findings);
 // Files that are there and can't be used, or not well.
-void checkMedia(const Story& story, const DataFiles& data, Findings& findings);
+void checkMedia(const Story& story, const DataFiles& data, FileLooks& looks, Findings& findings);
 // The rooms that the game opens by itself, ways to each room, objects that no click reaches.
 void checkRooms(const Story& story, const Surroundings& around, bool wholeStory, Findings& findings);
 // Flags, items that are tested for, and the number of items.

@@ -4,10 +4,6 @@
 
 #include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
-#include "platform/codec/pictures.h"
-#include "platform/machine/decoder.h"
-#include "platform/machine/midi.h"
-#include "platform/values/error.h"
 #include "tools/story/blocks.h"
 #include "tools/story/check.h"
 
@@ -26,7 +22,10 @@ std::string spelled(Size size) {
 // Looks at each file once, at the place that names it first.
 class MediaChecker {
 public:
-    MediaChecker(const DataFiles& data, Findings& findings) : data_(data), findings_(findings) {}
+    MediaChecker(const DataFiles& data, FileLooks& looks, Findings& findings)
+        : data_(data),
+          looks_(looks),
+          findings_(findings) {}
 
     void look(Place place, Ordner directory, TextView path, bool ofRoom) {
         const Text file = Dateiname(Getrimmt(path));
@@ -34,100 +33,61 @@ public:
         switch (directory) {
             case Ordner::graphics: return picture(place, file, ofRoom);
             case Ordner::items: return item(place, file);
-            case Ordner::cursors: return pointer(place, file);
-            case Ordner::sounds: return sound(place, file);
-            case Ordner::musics: return song(place, file);
-            case Ordner::movies: return film(place, file);
+            case Ordner::cursors: return void(usable(place, directory, "der Zeiger", file));
+            case Ordner::sounds: return void(usable(place, directory, "die Tondatei", file));
+            case Ordner::musics: return void(usable(place, directory, "die Musik", file));
+            case Ordner::movies: return void(usable(place, directory, "der Film", file));
             default: return;
         }
     }
 
 private:
-    void broken(Place place, const char* what, TextView file) {
+    void broken(Place place, const char* what, TextView file, bool empty) {
         findings_.warning(
             place, "datei-kaputt",
             std::string(what) + " " + shown(file) + " lässt sich nicht lesen: " +
-                (isEmpty() ? "die Datei ist leer" : "sie ist beschädigt, oder ihre Art kennt das Spiel nicht"));
+                (empty ? "die Datei ist leer" : "sie ist beschädigt, oder ihre Art kennt das Spiel nicht"));
     }
 
-    std::optional<Bitmap> decoded(Place place, Ordner directory, const char* what, TextView file) {
-        const Text path = data_.path(directory, file);
-        systemPath_ = data_.files().systemPath(path);
-        try {
-            return loadPicture(data_.files(), path);
-        } catch (const DataError&) {
-            broken(place, what, file);
-            return std::nullopt;
-        }
+    // Nothing where it is no use, which then is a finding.
+    std::optional<FileLook> usable(Place place, Ordner directory, const char* what, TextView file) {
+        const FileLook look = looks_.look(data_, directory, file);
+        if (look.usable) return look;
+        broken(place, what, file, look.empty);
+        return std::nullopt;
     }
 
     void picture(Place place, TextView file, bool ofRoom) {
-        const auto bitmap = decoded(place, Ordner::graphics, "das Bild", file);
-        if (!bitmap || !ofRoom) return;
-        const double shape = static_cast<double>(bitmap->width()) / bitmap->height();
+        const auto look = usable(place, Ordner::graphics, "das Bild", file);
+        if (!look || !ofRoom) return;
+        const double shape = static_cast<double>(look->size.w) / look->size.h;
         const double wanted = static_cast<double>(roomSize.w) / roomSize.h;
         if (std::abs(shape / wanted - 1) <= shapeTolerance) return;
         findings_.warning(place, "bild-groesse",
-                          "das Bild " + shown(file) + " ist " + spelled(bitmap->size()) +
+                          "das Bild " + shown(file) + " ist " + spelled(look->size) +
                               " Pixel groß und wird verzerrt; ein Raum zeigt " + spelled(roomSize) +
                               " oder ein Vielfaches davon");
     }
 
     void item(Place place, TextView file) {
-        const auto bitmap = decoded(place, Ordner::items, "das Bild des Gegenstands", file);
-        if (bitmap && bitmap->size() != itemSize)
+        const auto look = usable(place, Ordner::items, "das Bild des Gegenstands", file);
+        if (look && look->size != itemSize)
             findings_.warning(place, "bild-groesse",
-                              "das Bild " + shown(file) + " ist " + spelled(bitmap->size()) +
+                              "das Bild " + shown(file) + " ist " + spelled(look->size) +
                                   " Pixel groß; in einem Fach stehen " + spelled(itemSize) +
                                   ", was darüber ist, wird abgeschnitten");
     }
 
-    void pointer(Place place, TextView file) {
-        const Text path = data_.path(Ordner::cursors, file);
-        systemPath_ = data_.files().systemPath(path);
-        try {
-            loadIcon(data_.files(), path);
-        } catch (const DataError&) {
-            broken(place, "der Zeiger", file);
-        }
-    }
-
-    bool isEmpty() { return std::filesystem::file_size(systemPath_, ignored_) == 0; }
-
-    bool audible(Ordner directory, TextView file) {
-        systemPath_ = data_.files().systemPath(data_.path(directory, file));
-        if (isEmpty()) return false;
-        if (const auto midi = readMidi(systemPath_)) return midiLength(*midi).has_value();
-        MediaDecoder* const decoder = mediaDecoder();
-        return decoder == nullptr || decoder->audioLength(systemPath_) > 0;
-    }
-
-    void sound(Place place, TextView file) {
-        if (!audible(Ordner::sounds, file)) broken(place, "die Tondatei", file);
-    }
-
-    void song(Place place, TextView file) {
-        if (!audible(Ordner::musics, file)) broken(place, "die Musik", file);
-    }
-
-    void film(Place place, TextView file) {
-        systemPath_ = data_.files().systemPath(data_.path(Ordner::movies, file));
-        MediaDecoder* const decoder = mediaDecoder();
-        if (isEmpty() || (decoder != nullptr && decoder->videoLength(systemPath_) == 0))
-            broken(place, "der Film", file);
-    }
-
     const DataFiles& data_;
+    FileLooks& looks_;
     Findings& findings_;
     std::set<std::pair<Ordner, Text>> seen_;
-    std::filesystem::path systemPath_;
-    std::error_code ignored_;
 };
 
 }  // namespace
 
-void checkMedia(const Story& story, const DataFiles& data, Findings& findings) {
-    MediaChecker checker(data, findings);
+void checkMedia(const Story& story, const DataFiles& data, FileLooks& looks, Findings& findings) {
+    MediaChecker checker(data, looks, findings);
     for (const StoryRoom& room : story.rooms) {
         checker.look(room.picture, Ordner::graphics, room.room.Bild, true);
         for (std::size_t i = 0; i < room.room.Objekte.size(); ++i)

@@ -7,12 +7,14 @@
 #include "platform/machine/system.h"
 #include "platform/values/error.h"
 #include "tools/completion/completion.h"
+#include "tools/lsp/server.h"
 #include "tools/page/page.h"
 #include "tools/prove/command.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
 #include "tools/story/coverage.h"
 #include "tools/story/data.h"
+#include "tools/story/format.h"
 #include "tools/story/fresh.h"
 #include "tools/story/german.h"
 #include "tools/story/inputs.h"
@@ -42,6 +44,7 @@ struct Options {
     bool program = false;
     std::string player;
     page::Order page;
+    bool onlyTell = false;
 };
 
 struct Streams {
@@ -246,6 +249,30 @@ int packed(const Options& options, const Streams& to) {
     return pack({options.words.front(), options.into, options.program, options.player}, to.out, to.err);
 }
 
+int format(const Options& options, const Streams& to) {
+    SourceFiles files;
+    bool allRead = true;
+    std::size_t other = 0;
+    for (const fs::path& path : sourcesOf(options.words)) {
+        const auto text = files.read(path);
+        const auto well = text ? formatted(*text) : std::nullopt;
+        if (!well)
+            to.err << "zentrox-story: " << path.string() << " lässt sich nicht als UTF-8 lesen\n";
+        else if (*well != *text)
+            to.out << path.string() << "\n";
+        allRead = allRead && well;
+        if (!well || *well == *text) continue;
+        ++other;
+        if (!options.onlyTell) writeIfChanged(path, *well);
+    }
+    return allRead && (other == 0 || !options.onlyTell) ? clean : hasFindings;
+}
+
+int server(const Options& options, const Streams& to) {
+    if (!options.data.empty()) needAll({options.data});
+    return lsp::serve(std::cin, to.out, options.data);
+}
+
 int reference(const Options& /*options*/, const Streams& to) {
     to.out << referencePage();
     return clean;
@@ -367,6 +394,13 @@ void describe(CLI::App& app, Chosen& chosen) {
 
     describePage(*add("page", "macht aus einer Geschichte eine Seite zum Ansehen: Karte, Räume, Texte", storyPage),
                  options);
+
+    sub = add("format", "setzt Quellen, wie sie alle gesetzt sind: Einrückung, Abstände, Schreibung", format);
+    sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
+    sub->add_flag("--check", options.onlyTell, "schreibt nichts, sagt nur, welche Quellen anders dastehen");
+
+    sub = add("lsp", "bedient einen Editor: Befunde, Ergänzung, Hilfe, Sprünge, Umbenennen", server);
+    sub->add_option("--data", options.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
 
     sub = add("coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage);
     sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();

@@ -104,10 +104,6 @@ bool isBareWord(TextView text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), fits);
 }
 
-std::string bareOrQuoted(TextView text) {
-    return isBareWord(text) ? toUtf8(text) : inQuotes(text);
-}
-
 std::vector<Text> split(TextView text, char mark) {
     std::vector<Text> parts;
     while (true) {
@@ -265,6 +261,10 @@ std::optional<std::vector<std::string>> writtenArgument(const Opcode& opcode, Te
     const std::string written = nothing ? std::string() : writtenFields(opcode, fields);
     if (!comesBack(opcode, written, argument)) return std::nullopt;
     return std::vector{written};
+}
+
+std::string bareOrQuoted(TextView text) {
+    return isBareWord(text) ? toUtf8(text) : inQuotes(text);
 }
 
 std::string inQuotes(TextView text) {

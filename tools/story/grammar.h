@@ -39,6 +39,8 @@ std::vector<Place> linePlaces(std::span<const Token> words);
 // The other way: what to write behind the command, UTF-8; nothing where only `Roh` can say it. Of a shown text each
 // line is one entry, of everything else all stands in one.
 std::optional<std::vector<std::string>> writtenArgument(const Opcode& opcode, TextView argument);
+// A name as it is written where quotes may be left out: in quotes only if it has blanks, say.
+std::string bareOrQuoted(TextView text);
 // A text in quotes, characters that have no place between quotes by their number.
 std::string inQuotes(TextView text);
 // The lines of a shown text, each in quotes.

@@ -8,6 +8,7 @@
 #include "tools/story/statements.h"
 #include "tools/story/story.h"
 #include "tools/story/tree.h"
+#include "tools/story/vocabulary.h"
 
 namespace zentrox::story {
 
@@ -263,12 +264,9 @@ Names readNames(const std::vector<Source>& sources, Findings& findings) {
 }
 
 bool beginsPart(const Statement& statement) {
-    static constexpr std::array<TextView, 23> words{
-        "raum",       "gegenstand", "skriptdatei", "skriptteil", "person",  "kombiniere", "bild",     "start",
-        "countdown",  "objekt",     "zeiger",      "aktiv",      "inaktiv", "flaeche",    "rechteck", "vieleck",
-        "maskenbild", "rechts",     "links",       "ablegen",    "stimme",  "farbe",      "spieler"};
     const Token& first = statement.front();
-    return !first.quoted && std::find(words.begin(), words.end(), normalised(first.value)) != words.end();
+    const LanguageWord* const word = first.quoted ? nullptr : languageWord(first.value);
+    return word && (word->where & stands::script) == 0;
 }
 
 Text carriedFlag(TextView baseName) {

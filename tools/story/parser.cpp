@@ -11,6 +11,7 @@
 #include "tools/story/shapes.h"
 #include "tools/story/sourcereader.h"
 #include "tools/story/statements.h"
+#include "tools/story/vocabulary.h"
 #include "tools/story/voicetable.h"
 
 namespace zentrox::story {
@@ -18,11 +19,6 @@ namespace zentrox::story {
 namespace fs = std::filesystem;
 
 namespace {
-
-// Words of scripts that are no commands of the game.
-constexpr std::array formWords{
-    "Roh"_t,          "Option"_t, "WennGegenstand"_t, "SonstWenn"_t, "Bei"_t,       "EndeBei"_t, "Gespräch"_t,
-    "EndeGespräch"_t, "Frage"_t,  "Antwort"_t,        "Schluss"_t,   "EndeFrage"_t, "Rufe"_t};
 
 constexpr std::array<TextView, 3> shapeWords{"Rechteck", "Vieleck", "Maskenbild"};
 
@@ -108,12 +104,8 @@ private:
     static bool isPersonWord(const Token& first) { return normalised(first.value) == "portrait"; }
 
     static bool isScriptWord(TextView word) {
-        static const std::set<Text> formed = [] {
-            std::set<Text> words;
-            for (const TextView w : formWords) words.insert(normalised(w));
-            return words;
-        }();
-        return commandNamed(word) || formed.contains(normalised(word));
+        const LanguageWord* const known = languageWord(word);
+        return known && (known->where & stands::script) != 0;
     }
 
     bool isKeywordWithColon(const Token& first) const {
@@ -172,10 +164,7 @@ private:
 
     static std::vector<Text> allWords() {
         std::vector<Text> known;
-        for (const Keyword& keyword : keywordTable()) known.emplace_back(keyword.name);
-        for (const Opcode& opcode : opcodes()) known.emplace_back(opcode.name);
-        known.insert(known.end(), formWords.begin(), formWords.end());
-        known.emplace_back("Einbinden");
+        for (const LanguageWord& word : languageWords()) known.emplace_back(word.name);
         return known;
     }
 
@@ -541,7 +530,7 @@ public:
         sources_.push_back({reader_.read(path, ignored), false});
     }
 
-    Story compile(const fs::path& voices) {
+    Parsed compile(const fs::path& voices) {
         Names names = readNames(sources_, findings_);
         if (!names.spoken.empty()) {
             VoiceTable table(files_.read(voices).value_or(""), reader_.fileNumber(voices), findings_);
@@ -553,7 +542,7 @@ public:
         for (const Source& source : sources_)
             if (source.compiled) parser.source(source.statements);
         parser.combinations();
-        return std::move(story_);
+        return {std::move(story_), std::move(names), std::move(sources_)};
     }
 
 private:
@@ -568,6 +557,11 @@ private:
 
 Story parseSources(const std::vector<fs::path>& sources, SourceFiles& files, Findings& findings,
                    const std::vector<fs::path>& known) {
+    return parseAll(sources, files, findings, known).story;
+}
+
+Parsed parseAll(const std::vector<fs::path>& sources, SourceFiles& files, Findings& findings,
+                const std::vector<fs::path>& known) {
     Compiler compiler(files, findings);
     for (const fs::path& path : sources) compiler.read(path);
     for (const fs::path& path : known) compiler.know(path);
@@ -577,7 +571,7 @@ Story parseSources(const std::vector<fs::path>& sources, SourceFiles& files, Fin
 Story parseSource(std::string_view utf8, const std::string& name, SourceFiles& files, Findings& findings) {
     Compiler compiler(files, findings);
     compiler.read(fs::path(name), utf8);
-    return compiler.compile(fs::path(name).parent_path() / voiceTableFile);
+    return compiler.compile(fs::path(name).parent_path() / voiceTableFile).story;
 }
 
 }  // namespace zentrox::story

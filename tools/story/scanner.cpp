@@ -32,10 +32,11 @@ std::string codePointName(char32_t c) {
 
 class Scanner {
 public:
-    Scanner(int file, Findings& findings, std::vector<Silence>& silences)
+    Scanner(int file, Findings& findings, std::vector<Silence>& silences, std::vector<Place>* comments)
         : file_(file),
           findings_(findings),
-          silences_(silences) {}
+          silences_(silences),
+          comments_(comments) {}
 
     std::vector<Statement> all(std::string_view utf8) {
         if (utf8.starts_with(byteOrderMark)) utf8.remove_prefix(byteOrderMark.size());
@@ -69,11 +70,13 @@ private:
         bool first = true;
         while (skipBlanks(), !rest_.empty()) {
             if (rest_.starts_with(commentMark)) {
+                if (comments_) comments_->push_back(here());
                 comment(rest_.substr(commentMark.size()), !first);
                 return;
             }
             if (first) silencePending();
             Token token = opensText(rest_.front()) ? quotedToken() : word();
+            token.end = column_;
             if (first && !(token.quoted && !statements_.empty())) statements_.emplace_back();
             statements_.back().push_back(std::move(token));
             first = false;
@@ -223,6 +226,7 @@ private:
     int file_;
     Findings& findings_;
     std::vector<Silence>& silences_;
+    std::vector<Place>* comments_;
     std::vector<Statement> statements_;
     std::vector<std::string> pending_;  // silences on a line of their own, for the next line that says something
     std::string_view rest_;
@@ -233,8 +237,9 @@ private:
 
 }  // namespace
 
-std::vector<Statement> scan(std::string_view utf8, int file, Findings& findings, std::vector<Silence>& silences) {
-    return Scanner(file, findings, silences).all(utf8);
+std::vector<Statement> scan(std::string_view utf8, int file, Findings& findings, std::vector<Silence>& silences,
+                            std::vector<Place>* comments) {
+    return Scanner(file, findings, silences, comments).all(utf8);
 }
 
 }  // namespace zentrox::story
