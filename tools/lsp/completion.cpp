@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <set>
 
-#include "tools/lsp/protocol.h"
 #include "engine/language/words.h"
+#include "tools/lsp/protocol.h"
 #include "tools/story/grammar.h"
 #include "tools/story/sections.h"
 #include "tools/story/tree.h"
@@ -32,9 +32,9 @@ constexpr int reference = 18;
 
 // The line up to the cursor, as the compiler reads it.
 struct Typed {
-    std::vector<story::Token> before;      // the words of the statement that are done
-    std::optional<story::Token> current;   // the one that is being written
-    bool silent = false;                   // in a comment, or in a text on a line of its own
+    std::vector<story::Token> before;     // the words of the statement that are done
+    std::optional<story::Token> current;  // the one that is being written
+    bool silent = false;                  // in a comment, or in a text on a line of its own
 };
 
 Typed typedSoFar(const Here& here, const Lines& lines) {
@@ -115,7 +115,8 @@ private:
                   {"filterText", text},
                   {"sortText", order + label},
                   {"textEdit",
-                   {{"range", asJson(Range{position(from), position(here_.column + closingQuote())})}, {"newText", text}}}};
+                   {{"range", asJson(Range{position(from), position(here_.column + closingQuote())})},
+                    {"newText", text}}}};
         if (!detail.empty()) item["detail"] = detail;
         items_.push_back(std::move(item));
     }
@@ -178,7 +179,8 @@ private:
         if (first == "zeiger" && second) return files(Ordner::cursors);
         if (first == "gegenstand") return second ? files(Ordner::items) : word("heißt"_t);
         if (first == "objekt") return objectHead(done);
-        if (first == "kombiniere") return done < 2 ? itemNames() : done == 2 ? word("ergibt") : files(Ordner::items);
+        if (first == "kombiniere")
+            return done < 2 ? itemNames() : done == 2 ? word("ergibt") : files(Ordner::items);
         if (first == "flaeche" && second)
             for (const TextView shape : {"Rechteck", "Vieleck", "Maskenbild"}) word(shape);
         if ((first == "rechts" || first == "links" || first == "ablegen") && second) word("Aus");
@@ -204,7 +206,8 @@ private:
     }
 
     bool isWord(std::size_t i, TextView name) const {
-        return i < typed_.before.size() && !typed_.before[i].quoted && story::normalised(typed_.before[i].value) == name;
+        return i < typed_.before.size() && !typed_.before[i].quoted &&
+               story::normalised(typed_.before[i].value) == name;
     }
 
     // Behind a name another word joins it to the next one.
@@ -216,7 +219,8 @@ private:
             word("und");
             return word("oder");
         }
-        const bool item = kind && !joined ? !isWord(last, "merker") : command == "wenngegenstand" || command == "wennparameter";
+        const bool item =
+            kind && !joined ? !isWord(last, "merker") : command == "wenngegenstand" || command == "wennparameter";
         item ? itemNames() : names(Kind::flag, false);
         if (kind && !joined) return;
         for (const TextView inner : {"nicht", "Merker", "Gegenstand", "Parameter"}) word(inner);
@@ -313,8 +317,8 @@ private:
     void sources() {
         for (const std::string& file : here_.story.parsed.story.files)
             if (const fs::path path(file); path.extension() == ".story" && path != here_.path)
-                name(fromUtf8(path.lexically_relative(here_.path.parent_path()).generic_string()), true, itemkind::file,
-                     "Quelle");
+                name(fromUtf8(path.lexically_relative(here_.path.parent_path()).generic_string()), true,
+                     itemkind::file, "Quelle");
     }
 
     const Here& here_;

@@ -10,10 +10,14 @@ constexpr int warning = 2;
 
 // A finding tells where something begins; the word there is what is marked, else the rest of the line.
 Range rangeOf(const Here& here, const Lines& lines, const story::Place& place) {
-    const auto word = here.story.ends.find(place);
-    const std::string_view line = lines.line(place.line);
-    const int behind = word != here.story.ends.end() ? word->second : static_cast<int>(line.size()) + 1;
-    return {lines.position(place.line, place.column, here.encoding), lines.position(place.line, behind, here.encoding)};
+    int behind = static_cast<int>(lines.line(place.line).size()) + 1;
+    const auto next = here.story.ends.upper_bound(place);
+    if (next != here.story.ends.begin()) {
+        const auto& [word, end] = *std::prev(next);
+        if (word.file == place.file && word.line == place.line && place.column < end) behind = end;
+    }
+    return {lines.position(place.line, place.column, here.encoding),
+            lines.position(place.line, behind, here.encoding)};
 }
 
 }  // namespace

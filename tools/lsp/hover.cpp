@@ -48,7 +48,8 @@ public:
 
     std::string all() const {
         std::string text = heading();
-        for (const Role role : {Role::declares, Role::sets, Role::clears, Role::tests, Role::takes, Role::gives, Role::names})
+        for (const Role role :
+             {Role::declares, Role::sets, Role::clears, Role::tests, Role::takes, Role::gives, Role::names})
             text += places(role);
         if (use_.symbol.kind == Kind::flag && story::isKeptByGame(use_.symbol.key))
             text += "\n\nDas Spiel setzt und löscht ihn selbst.";
@@ -91,13 +92,15 @@ private:
     std::string picture() const {
         for (const story::StoryRoom& room : here_.story.parsed.story.rooms)
             if (lower(room.file) == use_.symbol.key && !room.room.Bild.empty())
-                return ", Bild " + code(room.room.Bild) + ", " + std::to_string(room.room.Objekte.size()) + " Objekte";
+                return ", Bild " + code(room.room.Bild) + ", " + std::to_string(room.room.Objekte.size()) +
+                       " Objekte";
         return "";
     }
 
     std::string person() const {
         const story::Person* const known = here_.story.parsed.names.person(use_.text);
-        std::string text = bold(known && known->player ? "Person, die man spielt:" : "Person") + " " + code(use_.text);
+        std::string text =
+            bold(known && known->player ? "Person, die man spielt:" : "Person") + " " + code(use_.text);
         if (known && !known->portrait.empty())
             text += ", Portrait " + std::string(known->left ? "links " : "rechts ") + code(known->portrait);
         if (known && !known->voice.empty()) text += ", Stimme " + code(known->voice);
@@ -106,9 +109,8 @@ private:
 
     std::string file() const {
         const auto names = here_.workspace.filesIn(here_.story, use_.directory);
-        const bool there = std::any_of(names.begin(), names.end(), [&](const Text& name) {
-            return equalIgnoringCase(name, use_.symbol.key);
-        });
+        const bool there = std::any_of(names.begin(), names.end(),
+                                       [&](const Text& name) { return equalIgnoringCase(name, use_.symbol.key); });
         return bold("Datei") + " " + code(use_.text) + " in " + code(verzeichnis(use_.directory)) +
                (here_.story.data.empty() || there ? "" : ", die es nicht gibt");
     }
@@ -120,7 +122,8 @@ private:
             if (use->role != role || ++count > mostPlaces) continue;
             const fs::path path = here_.story.file(use->place.file);
             text += (count == 1 ? "" : ", ") + std::string("[") + path.filename().string() + ":" +
-                    std::to_string(use->place.line) + "](" + uriOf(path) + "#L" + std::to_string(use->place.line) + ")";
+                    std::to_string(use->place.line) + "](" + uriOf(path) + "#L" + std::to_string(use->place.line) +
+                    ")";
         }
         if (count > mostPlaces) text += " und " + std::to_string(count - mostPlaces) + "-mal mehr";
         return count == 0 ? "" : std::string("\n\n") + roleName(use_.symbol.kind, role) + ": " + text;

@@ -11,7 +11,7 @@ namespace zentrox::lsp {
 namespace {
 
 constexpr std::string_view lengthField = "content-length:";
-constexpr std::size_t longestLine = 1000;       // of a header; what is longer is none
+constexpr std::size_t longestLine = 1000;          // of a header; what is longer is none
 constexpr std::size_t longestMessage = 1U << 25U;  // bytes
 constexpr int deepestMessage = 100;
 

@@ -20,8 +20,8 @@ struct Incoming {
     std::string problem;  // empty if there is a message
 };
 
-// Reads messages one by one. Whatever is damaged is skipped up to the next header, and is never kept: neither a header
-// nor a message can be longer than what a client has reason to send.
+// Reads messages one by one. Whatever is damaged is skipped up to the next header, and is never kept: neither a
+// header nor a message can be longer than what a client has reason to send.
 class MessageReader {
 public:
     explicit MessageReader(std::istream& in) : in_(in) {}

@@ -48,7 +48,8 @@ std::vector<const Use*> sameAs(const Analysis& story, const Use& use) {
     const bool anywhere = meant.kind == Kind::object && isNamedAnywhere(story, meant);
     std::vector<const Use*> same;
     for (const Use& other : story.uses)
-        if (other.symbol == meant || (anywhere && other.symbol.kind == Kind::object && other.symbol.key == meant.key))
+        if (other.symbol == meant ||
+            (anywhere && other.symbol.kind == Kind::object && other.symbol.key == meant.key))
             same.push_back(&other);
     return same;
 }
@@ -60,9 +61,8 @@ Json definitions(const Here& here) {
     auto same = sameAs(here.story, *use);
     const bool declared =
         std::any_of(same.begin(), same.end(), [](const Use* other) { return other->role == Role::declares; });
-    std::erase_if(same, [&](const Use* other) {
-        return declared ? other->role != Role::declares : !comesFromHere(*other);
-    });
+    std::erase_if(
+        same, [&](const Use* other) { return declared ? other->role != Role::declares : !comesFromHere(*other); });
     return locations(here, same);
 }
 
@@ -126,7 +126,8 @@ bool namesPicture(const Use& use) {
 }
 
 Text keyOf(Kind kind, TextView name) {
-    return kind == Kind::person || kind == Kind::part || kind == Kind::label ? story::normalised(name) : upper(name);
+    return kind == Kind::person || kind == Kind::part || kind == Kind::label ? story::normalised(name)
+                                                                             : upper(name);
 }
 
 class Renaming {
@@ -146,12 +147,14 @@ public:
 private:
     void refuseWhatCantBe() {
         const Kind kind = use_.symbol.kind;
-        if (name_.empty() || Text(Trim(name_)) != name_) refuse("ein Name ist nicht leer und hat keine Leerzeichen am Rand");
+        if (name_.empty() || Text(Trim(name_)) != name_)
+            refuse("ein Name ist nicht leer und hat keine Leerzeichen am Rand");
         if (name_.find('#') != Text::npos || name_.find(',') != Text::npos || name_.find('"') != Text::npos)
             refuse("ein Name kann weder \" noch , noch # enthalten");
         if (kind == Kind::item && name_.find('.') != Text::npos)
             refuse("im Namen eines Gegenstands steht kein Punkt; mit einem Punkt wäre es ein Bild");
-        if (kind == Kind::person && name_.find(':') != Text::npos) refuse("im Namen einer Person steht kein Doppelpunkt");
+        if (kind == Kind::person && name_.find(':') != Text::npos)
+            refuse("im Namen einer Person steht kein Doppelpunkt");
         if (kind == Kind::flag && story::isKeptByGame(upper(name_)))
             refuse("den Merker " + story::shown(name_) + " setzt das Spiel selbst");
         const Text key = keyOf(kind, name_);
@@ -186,22 +189,21 @@ private:
 
     static bool isInnerWord(const Text& name) {
         const auto inner = story::innerWords();
-        return std::any_of(inner.begin(), inner.end(), [&](TextView word) {
-            return story::normalised(word) == story::normalised(name);
-        });
+        return std::any_of(inner.begin(), inner.end(),
+                           [&](TextView word) { return story::normalised(word) == story::normalised(name); });
     }
 
     // An item that is called after its picture gets a name of its own.
     void declareItem() {
         const auto declared = [](const Use* use) { return use->role == Role::declares; };
-        const bool named = std::any_of(same_.begin(), same_.end(), [&](const Use* use) {
-            return declared(use) && !namesPicture(*use);
-        });
+        const bool named = std::any_of(same_.begin(), same_.end(),
+                                       [&](const Use* use) { return declared(use) && !namesPicture(*use); });
         if (named) return;
         const auto head = std::find_if(same_.begin(), same_.end(), declared);
         if (head == same_.end())
-            refuse("dieser Gegenstand heißt nach seinem Bild; eine Zeile Gegenstand \"BILD.bmp\" gäbe ihm einen "
-                   "anderen Namen");
+            refuse(
+                "dieser Gegenstand heißt nach seinem Bild; eine Zeile Gegenstand \"BILD.bmp\" gäbe ihm einen "
+                "anderen Namen");
         Range behind = here_.rangeOf(**head);
         behind.start = behind.end;
         change(here_.story.file((*head)->place.file), behind, " heißt " + story::bareOrQuoted(name_));
@@ -212,9 +214,8 @@ private:
         for (const auto& [room, things] : here_.story.parsed.names.takeables)
             for (const story::Takeable& thing : things) {
                 const Text where = story::stemOf(room);
-                const bool meant = std::any_of(same_.begin(), same_.end(), [&](const Use* use) {
-                    return use->place == thing.head[1].place;
-                });
+                const bool meant = std::any_of(same_.begin(), same_.end(),
+                                               [&](const Use* use) { return use->place == thing.head[1].place; });
                 if (!meant || thing.flag != story::takenFlag(where, thing.object)) continue;
                 for (const Use& other : here_.story.uses)
                     if (other.symbol.kind == Kind::flag && other.symbol.key == upper(thing.flag))
@@ -240,7 +241,8 @@ Json renameRange(const Here& here) {
 Json renamed(const Here& here, const std::string& name) {
     const Use* const use = here.use();
     if (!use) refuse("hier steht kein Name");
-    if (!canBeRenamed(*use)) refuse("das hier kann nicht umbenannt werden; Räume und Dateien heißen wie ihre Dateien");
+    if (!canBeRenamed(*use))
+        refuse("das hier kann nicht umbenannt werden; Räume und Dateien heißen wie ihre Dateien");
     std::string_view plain = name;
     if (plain.size() > 1 && plain.front() == '"' && plain.back() == '"') plain = plain.substr(1, plain.size() - 2);
     const auto text = tryFromUtf8(plain);

@@ -117,10 +117,11 @@ Json symbolsLike(Workspace& workspace, const std::string& query, Encoding encodi
             if (list.size() >= mostSymbols) return list;
             if (!isListed(use) || story::normalised(use.text).find(wanted) == Text::npos) continue;
             if (use.symbol.kind == Symbol::Kind::flag && !seen.insert(use.symbol).second) continue;
-            list.push_back({{"name", toUtf8(use.text)},
-                            {"kind", kindOf(use.symbol.kind)},
-                            {"location", here.location(use)},
-                            {"containerName", use.symbol.kind == Symbol::Kind::object ? toUtf8(use.symbol.scope) : ""}});
+            list.push_back(
+                {{"name", toUtf8(use.text)},
+                 {"kind", kindOf(use.symbol.kind)},
+                 {"location", here.location(use)},
+                 {"containerName", use.symbol.kind == Symbol::Kind::object ? toUtf8(use.symbol.scope) : ""}});
         }
     }
     return list;

@@ -54,7 +54,8 @@ Position Lines::position(int line, int column, Encoding encoding) const {
 int Lines::column(const Position& position, Encoding encoding) const {
     std::string_view rest = line(position.line + 1);
     int left = position.character;
-    if (mark(position.line + 1) > 0) left -= encoding == Encoding::utf8 ? static_cast<int>(byteOrderMark.size()) : 1;
+    if (mark(position.line + 1) > 0)
+        left -= encoding == Encoding::utf8 ? static_cast<int>(byteOrderMark.size()) : 1;
     int column = 1;
     for (; left > 0 && !rest.empty(); ++column) left -= cut(rest, encoding);
     return column;

@@ -1,5 +1,5 @@
-// Places in a text as an editor counts them: lines from 0, characters in units of UTF-16 or in bytes of UTF-8. Places
-// of the compiler count both from 1, and characters as such; it does not count a byte order mark.
+// Places in a text as an editor counts them: lines from 0, characters in units of UTF-16 or in bytes of UTF-8.
+// Places of the compiler count both from 1, and characters as such; it does not count a byte order mark.
 #pragma once
 
 #include <string>

@@ -42,7 +42,8 @@ std::optional<fs::path> pathOf(const std::string& uri) {
     for (std::size_t i = uri.find('/', fileScheme.size()); i < uri.size(); ++i) {
         unsigned byte = 0;
         const char* const digits = uri.data() + i + 1;
-        if (uri[i] == '%' && i + 2 < uri.size() && std::from_chars(digits, digits + 2, byte, 16).ptr == digits + 2) {
+        if (uri[i] == '%' && i + 2 < uri.size() &&
+            std::from_chars(digits, digits + 2, byte, 16).ptr == digits + 2) {
             path += static_cast<char>(byte);
             i += 2;
         } else {

@@ -57,7 +57,8 @@ void Server::take(const Inbox::Taken& taken) {
     }
     const Json params = message.value("params", Json());
     if (!message.contains("id")) return notice(method, params);
-    if (!id.is_string() && !id.is_number_integer()) return fail(nullptr, code::invalidRequest, "a request without an id");
+    if (!id.is_string() && !id.is_number_integer())
+        return fail(nullptr, code::invalidRequest, "a request without an id");
     if (taken.cancelled) return fail(id, code::cancelled, "the request was cancelled");
     request(id, method, params);
 }
@@ -259,7 +260,8 @@ void Server::tellFindings() {
             if (!list.empty() || buffer) now.insert(path);
             Json params{{"uri", uriOf(path)}, {"diagnostics", std::move(list)}};
             if (buffer) params["version"] = buffer->version;
-            send_({{"jsonrpc", "2.0"}, {"method", "textDocument/publishDiagnostics"}, {"params", std::move(params)}});
+            send_(
+                {{"jsonrpc", "2.0"}, {"method", "textDocument/publishDiagnostics"}, {"params", std::move(params)}});
             told_.erase(path);
         }
     }

@@ -1,5 +1,5 @@
-// The stories that an editor has open: their sources as they stand in it, saved or not, and what the compiler makes of
-// them.
+// The stories that an editor has open: their sources as they stand in it, saved or not, and what the compiler makes
+// of them.
 #pragma once
 
 #include <memory>

@@ -1,8 +1,8 @@
 #include "tools/story/filelooks.h"
 
-#include "platform/machine/midi.h"
 #include "platform/codec/pictures.h"
 #include "platform/machine/decoder.h"
+#include "platform/machine/midi.h"
 #include "platform/values/error.h"
 
 namespace zentrox::story {

@@ -1,5 +1,5 @@
-// What can be told of a picture, a sound or a film without playing it, kept in mind for as long as the file stays as
-// it is: who looks again and again, as an editor does, decodes each file once.
+// What can be told of a picture, a sound or a film without playing it, kept in mind for as long as the file stays
+// as it is: who looks again and again, as an editor does, decodes each file once.
 #pragma once
 
 #include <map>

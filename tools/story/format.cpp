@@ -13,9 +13,9 @@ namespace zentrox::story {
 namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr int step = 4;             // blanks for each level
-constexpr int beforeComment = 2;    // at least, between a statement and its comment
-constexpr int farthestComment = 40; // a comment that stands below another is moved so far at most
+constexpr int step = 4;              // blanks for each level
+constexpr int beforeComment = 2;     // at least, between a statement and its comment
+constexpr int farthestComment = 40;  // a comment that stands below another is moved so far at most
 
 // --- how deep each statement stands
 
@@ -178,7 +178,8 @@ struct Written {
 
 class Formatter {
 public:
-    Formatter(std::string_view text, const std::vector<Statement>& statements) : depths_(DepthReader(statements).all()) {
+    Formatter(std::string_view text, const std::vector<Statement>& statements)
+        : depths_(DepthReader(statements).all()) {
         split(text);
         for (const Statement& s : statements) {
             at(s[0].place).begun = &s;
@@ -191,7 +192,8 @@ public:
 
     void note(const std::vector<Place>& comments, const Findings& findings) {
         for (const Place& place : comments) at(place).comment = place.column;
-        for (const Finding& finding : findings.all()) at(finding.place).broken = true;
+        for (const Finding& finding : findings.all())
+            if (finding.code == "text") at(finding.place).broken = true;
     }
 
     std::string all() {
@@ -240,17 +242,18 @@ private:
         for (std::size_t i = 0; i < first.words.size(); ++i) {
             if (first.words[i]->quoted) return column;
             Line before{first.raw, {first.words[i]}, nullptr, nullptr, 0, false};
-            const bool comma = i + 1 < first.words.size() &&
-                               between(first.raw, first.words[i]->end, first.words[i + 1]->place.column).find(',') !=
-                                   std::string_view::npos;
+            const bool comma =
+                i + 1 < first.words.size() &&
+                between(first.raw, first.words[i]->end, first.words[i + 1]->place.column).find(',') !=
+                    std::string_view::npos;
             before.begun = i == 0 ? first.begun : nullptr;
             column += columnsOf(wordsOf(before)) + (comma ? 2 : 1);
         }
         return indent + step;
     }
 
-    // A comment on a line of its own stands where what follows it does; before the end of a block, where the block's
-    // commands do; at the end of the source where it stood, at the edge or not.
+    // A comment on a line of its own stands where what follows it does; before the end of a block, where the
+    // block's commands do; at the end of the source where it stood, at the edge or not.
     int commentIndent(std::size_t i) const {
         const int before = i == 0 ? 0 : lastIndent_;
         for (std::size_t k = i + 1; k < lines_.size(); ++k) {
@@ -275,7 +278,8 @@ private:
             const std::string indent(static_cast<std::size_t>(empty ? 0 : indentOf(i)), ' ');
             const std::string words = wordsOf(line);
             const std::string comment(
-                line.comment == 0 ? "" : withoutBlanksBehind(between(line.raw, line.comment, columnsOf(line.raw) + 1)));
+                line.comment == 0 ? ""
+                                  : withoutBlanksBehind(between(line.raw, line.comment, columnsOf(line.raw) + 1)));
             if (words.empty())
                 out.code = comment.empty() ? "" : indent + comment;
             else
@@ -334,9 +338,8 @@ bool same(const Token& a, const Token& b, bool first) {
 bool same(const std::vector<Statement>& a, const std::vector<Statement>& b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Statement& x, const Statement& y) {
         bool first = true;
-        return std::equal(x.begin(), x.end(), y.begin(), y.end(), [&](const Token& p, const Token& q) {
-            return same(p, q, std::exchange(first, false));
-        });
+        return std::equal(x.begin(), x.end(), y.begin(), y.end(),
+                          [&](const Token& p, const Token& q) { return same(p, q, std::exchange(first, false)); });
     });
 }
 

@@ -1,15 +1,16 @@
-// What a source consists of, as its author sees it: rooms with their objects, items, parts, people, and their scripts.
+// What a source consists of, as its author sees it: rooms with their objects, items, parts, people, and their
+// scripts.
 #pragma once
 
-#include "tools/story/vocabulary.h"
 #include "tools/story/scanner.h"
+#include "tools/story/vocabulary.h"
 
 namespace zentrox::story {
 
 struct Section {
     enum class Kind { room, object, item, scriptFile, part, person, combination, script };
     Kind kind = Kind::room;
-    Text name;  // as it is written; of a script the word that begins it
+    Text name;              // as it is written; of a script the word that begins it
     std::size_t begin = 0;  // the statements that belong to it, the one that heads it first
     std::size_t end = 0;
     std::vector<Section> inside;  // in their order

@@ -118,8 +118,10 @@ private:
         if (word == "zeiger") return file(s[1], Ordner::cursors);
         if (word == "objekt") return objectHead(s);
         if (word == "gegenstand") return itemHead(s);
-        if (word == "person") return addJoined(Kind::person, Role::declares, s, 1, s.size(), normalised(joinedName(s, 1)));
-        if (word == "skriptteil") return addJoined(Kind::part, Role::declares, s, 1, s.size(), normalised(joinedName(s, 1)));
+        if (word == "person")
+            return addJoined(Kind::person, Role::declares, s, 1, s.size(), normalised(joinedName(s, 1)));
+        if (word == "skriptteil")
+            return addJoined(Kind::part, Role::declares, s, 1, s.size(), normalised(joinedName(s, 1)));
         if (word == "rufe") return addJoined(Kind::part, Role::names, s, 1, s.size(), normalised(joinedName(s, 1)));
         if (word == "kombiniere") return combination(s);
         if (word == "einbinden") return add(Kind::source, lower(s[1].value), Role::names, s[1]);
@@ -230,7 +232,8 @@ std::vector<Use> usesOf(const std::vector<Source>& sources, const Names& names) 
 const Use* useAt(const std::vector<Use>& uses, int file, int line, int column) {
     const Use* behind = nullptr;
     for (const Use& use : uses) {
-        if (use.place.file != file || use.place.line != line || column < use.place.column || column > use.end) continue;
+        if (use.place.file != file || use.place.line != line || column < use.place.column || column > use.end)
+            continue;
         if (column < use.end) return &use;
         behind = &use;
     }

@@ -1,4 +1,5 @@
-// Where the sources of a story name what: each flag, item, object, room, person, part, label and file, word by word.
+// Where the sources of a story name what: each flag, item, object, room, person, part, label and file, word by
+// word.
 #pragma once
 
 #include <optional>
@@ -13,7 +14,8 @@ struct Symbol {
     enum class Kind { flag, item, object, room, person, part, label, file, source };
     Kind kind = Kind::flag;
     Text key;    // as the game compares it
-    Text scope;  // of an object its room's file in lower case, empty where any room may be meant; of a label its script
+    Text scope;  // of an object its room's file in lower case, empty where any room may be meant; of a label its
+                 // script
     friend auto operator<=>(const Symbol&, const Symbol&) = default;
 };
 
@@ -21,10 +23,10 @@ struct Use {
     enum class Role { declares, sets, clears, tests, takes, gives, names };
     Symbol symbol;
     Role role = Role::names;
-    Place place;         // of the first character, the quote included
-    int end = 0;         // the column behind the last one, the quote included
+    Place place;  // of the first character, the quote included
+    int end = 0;  // the column behind the last one, the quote included
     bool quoted = false;
-    Text text;           // as it is written, without quotes
+    Text text;                          // as it is written, without quotes
     Ordner directory = Ordner::keiner;  // of a file
 };
 

@@ -109,7 +109,8 @@ constexpr const char* helpFor(const Opcode& opcode) {
         if (row.name == opcode.name) return row.help;
     return nullptr;
 }
-static_assert(std::all_of(Opcodes.begin(), Opcodes.end(), [](const Opcode& row) { return helpFor(row) != nullptr; }));
+static_assert(std::all_of(Opcodes.begin(), Opcodes.end(),
+                          [](const Opcode& row) { return helpFor(row) != nullptr; }));
 
 // Conditions can have more than what the game's own command has.
 std::string usageOf(const Opcode& opcode) {
@@ -118,9 +119,9 @@ std::string usageOf(const Opcode& opcode) {
     return opcode.arg == Arg::flag ? usage + " ..." : usage;
 }
 
-constexpr std::array<TextView, 16> inner{"nicht"_t, "und"_t, "oder"_t, "wenn"_t, "einmal"_t, "Merker"_t,
-                                         "Gegenstand"_t, "Parameter"_t, "heißt"_t, "einsteckbar"_t, "ergibt"_t,
-                                         "Aus"_t, "links"_t, "rechts"_t, "weiß"_t, "zurück"_t};
+constexpr std::array<TextView, 16> inner{
+    "nicht"_t, "und"_t,         "oder"_t,   "wenn"_t, "einmal"_t, "Merker"_t, "Gegenstand"_t, "Parameter"_t,
+    "heißt"_t, "einsteckbar"_t, "ergibt"_t, "Aus"_t,  "links"_t,  "rechts"_t, "weiß"_t,       "zurück"_t};
 
 }  // namespace
 
