@@ -34,7 +34,7 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME zentrox-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "zentrox (= ${PROJECT_VERSION}), fonts-liberation, fonts-terminus-otb")
-set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "espeak-ng, sox, libsox-fmt-mp3")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "espeak-ng, graphviz, sox, libsox-fmt-mp3")
 
 set(CPACK_COMPONENT_DEMO_DESCRIPTION "sample story for the adventure game Zentrox
 \"Die letzte Stunde\": a small adventure of ten to fifteen minutes that shows

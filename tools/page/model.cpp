@@ -82,12 +82,23 @@ std::string asAddress(const fs::path& path) {
     return out;
 }
 
+// How many different ones the rooms show.
+std::size_t picturesOf(const story::Story& story) {
+    std::set<Text> files;
+    for (const story::StoryRoom& room : story.rooms) files.insert(lower(Dateiname(room.room.Bild)));
+    for (const story::ScriptView& view : scriptsOf(story))
+        for (std::size_t i = 0; i < view.script.Befehl.size(); ++i)
+            if (view.script.Befehl[i] == "ZeigBild"_op)
+                files.insert(lower(Dateiname(story::argumentOf(view.script, i))));
+    return files.size();
+}
+
 class Modeller {
 public:
     Modeller(const Reading& reading, const Additions& additions)
         : reading_(reading),
           additions_(additions),
-          pictures_(reading.data.get()),
+          pictures_(reading.data.get(), picturesOf(reading.story)),
           sections_(sectionsOf(reading)),
           ways_(waysOf(reading, sections_)),
           map_(mapOf(reading, ways_)),

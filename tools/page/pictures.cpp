@@ -11,6 +11,10 @@ namespace zentrox::page {
 namespace {
 
 constexpr Size roomSize{640, 480};
+constexpr Size smallerRoomSize{480, 360};
+constexpr Size smallestRoomSize{320, 240};
+constexpr std::size_t manyRooms = 40;  // about 2 MB of pictures
+constexpr std::size_t veryManyRooms = 80;
 constexpr Size itemSize{64, 64};
 constexpr int quality = 78;
 
@@ -67,8 +71,14 @@ std::string base64(std::string_view bytes) {
     return out;
 }
 
+Pictures::Pictures(const story::DataFiles* data, std::size_t rooms)
+    : data_(data),
+      roomSize_(rooms > veryManyRooms ? smallestRoomSize
+                : rooms > manyRooms   ? smallerRoomSize
+                                      : roomSize) {}
+
 std::string Pictures::graphics(TextView file) {
-    return take(Ordner::graphics, file, roomSize, false);
+    return take(Ordner::graphics, file, roomSize_, false);
 }
 
 std::string Pictures::item(TextView file) {

@@ -10,8 +10,8 @@ namespace zentrox::page {
 
 class Pictures {
 public:
-    // `data` may be null: then there are none.
-    explicit Pictures(const story::DataFiles* data) : data_(data) {}
+    // `data` may be null: then there are none. So many of rooms will be asked for: the more, the smaller they are.
+    Pictures(const story::DataFiles* data, std::size_t rooms);
 
     // Takes the picture in; empty if it is missing or can't be decoded. What it gives is its name on the page.
     std::string graphics(TextView file);  // a room, a portrait
@@ -24,6 +24,7 @@ private:
     std::string take(Ordner directory, TextView file, Size most, bool lossless);
 
     const story::DataFiles* data_;
+    Size roomSize_;
     std::map<std::string, std::string> all_;
 };
 

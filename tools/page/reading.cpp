@@ -76,8 +76,15 @@ std::string titleOf(const std::vector<fs::path>& directories) {
         const Titel title = TitelLesen(Files(directory));
         if (!title.Name.empty()) return toUtf8(title.Name);
     }
-    const fs::path last = fs::absolute(directories.back()).lexically_normal();
-    return (last.has_filename() ? last : last.parent_path()).filename().string();
+    return {};
+}
+
+// By the directory, or the one above it where that only says what it holds.
+std::string nameOf(const fs::path& directory) {
+    const fs::path whole = fs::absolute(directory).lexically_normal();
+    const fs::path own = whole.has_filename() ? whole : whole.parent_path();
+    const std::string name = own.filename().string();
+    return name == "story" && own.has_parent_path() ? own.parent_path().filename().string() : name;
 }
 
 void look(Reading& reading, const story::Story* rest, bool fromSources) {
@@ -105,6 +112,7 @@ Reading readData(const fs::path& directory) {
     reading.root = directory;
     reading.data = std::make_unique<story::DataFiles>(directory);
     reading.title = titleOf({directory});
+    if (reading.title.empty()) reading.title = nameOf(directory);
     look(reading, nullptr, false);
     return reading;
 }
@@ -126,6 +134,7 @@ Reading read(const std::vector<std::string>& words, const fs::path& data) {
     const story::Story rest = parseSources(neighbours, files, ignored, sources);
     const fs::path own = fs::absolute(sources.front()).lexically_normal().parent_path();
     reading.title = titleOf({reading.root, own, own.parent_path()});
+    if (reading.title.empty()) reading.title = sources.size() == 1 ? sources.front().stem().string() : nameOf(own);
     look(reading, &rest, true);
     return reading;
 }

@@ -20,7 +20,8 @@ using LineKind = TalkBox::Line::Kind;
 constexpr std::size_t longestLine = 40;  // characters
 constexpr std::size_t longestCommand = 44;
 // Pixels, as the page writes it.
-constexpr double textPart = 0.9;  // of what is said, whose letters are narrower
+constexpr double textPart = 0.9;     // of what is said, whose letters are narrower
+constexpr double answerPart = 1.12;  // of answers, which are bold
 constexpr double commandWidth = 7.1;
 constexpr double leastWidth = 46;
 constexpr double lineHeight = 17;
@@ -31,10 +32,17 @@ std::size_t lengthOf(const std::string& utf8) {
         std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
+std::int32_t commandOf(const Statement& statement) {
+    const Opcode* const row = statement.front().quoted ? nullptr : story::commandNamed(statement.front().value);
+    return row == nullptr ? -1 : row->number;
+}
+
 bool talks(const Nodes& nodes);
 bool talks(const Node& node) {
     if (node.kind == Node::Kind::talk || node.kind == Node::Kind::question || node.kind == Node::Kind::choice)
         return true;
+    // A talk in plain commands.
+    if (node.kind == Node::Kind::plain && commandOf(node.head) == "RahmenAuf"_op) return true;
     return talks(node.body) || (node.otherwise && talks(node.otherwise->body)) ||
            std::any_of(node.branches.begin(), node.branches.end(), [](const Branch& b) { return talks(b.body); });
 }
@@ -119,11 +127,6 @@ private:
     static bool isMark(const Node& node) {
         return node.kind == Node::Kind::plain && commandOf(node.head) == "Marke"_op;
     }
-    static std::int32_t commandOf(const Statement& statement) {
-        const Opcode* const row = statement.front().quoted ? nullptr : story::commandNamed(statement.front().value);
-        return row == nullptr ? -1 : row->number;
-    }
-
     Ends one(const Node& node, Ends ends, bool& over) {
         switch (node.kind) {
             case Node::Kind::plain: return plain(node.head, std::move(ends), over);
@@ -297,7 +300,8 @@ private:
     static double widthIn(const TalkBox::Line& line) {
         if (line.kind == LineKind::command) return static_cast<double>(lengthOf(line.text)) * commandWidth;
         const double width = widthOf(line.text) + (line.prefix.empty() ? 0 : widthOf(line.prefix + ": "));
-        return line.kind == LineKind::condition || line.kind == LineKind::answer ? width : width * textPart;
+        if (line.kind == LineKind::answer) return width * answerPart;
+        return line.kind == LineKind::condition ? width : width * textPart;
     }
 
     Talk& talk_;

@@ -53,6 +53,8 @@ function canvas(graph, name) {
 
 // --- the map
 
+const boxName = (box) => (story.rooms[box.r] || box).n;
+
 function mapDrawing(map) {
     const drawing = canvas(map, "Karte der Räume");
     map.lines.forEach((line) => drawing.append(wayGroup(map, line)));
@@ -62,7 +64,7 @@ function mapDrawing(map) {
 function wayGroup(map, line) {
     const open = () => showWays(map, line);
     const group = s("g", { class: "way" + (line.t.length ? " needs" : ""), tabindex: "0", role: "button", onclick: open,
-        "aria-label": map.boxes[line.a].n + " nach " + map.boxes[line.b].n,
+        "aria-label": boxName(map.boxes[line.a]) + " nach " + boxName(map.boxes[line.b]),
         onkeydown: (event) => { if (event.key === "Enter" || event.key === " ") { event.preventDefault(); open(); } } },
         s("path", { class: "hit", d: line.d }), s("path", { class: "line", d: line.d, "marker-end": "url(#tip)", "marker-start": line.both ? "url(#tail)" : null }));
     if (line.t.length) {
@@ -115,7 +117,7 @@ function wayItem(way, withFrom) {
         way.needs.length ? h("ul", { class: "needs" }, way.needs.map((need) => h("li", {}, needWords(need)))) : h("span", { class: "free" }, "offen"));
 }
 function showWays(map, line) {
-    openPanel(map.boxes[line.a].n + (line.both ? " ↔ " : " → ") + map.boxes[line.b].n,
+    openPanel(boxName(map.boxes[line.a]) + (line.both ? " ↔ " : " → ") + boxName(map.boxes[line.b]),
         h("ul", { class: "ways" }, line.ways.map((index) => wayItem(story.ways[index], line.both))));
 }
 

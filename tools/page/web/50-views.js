@@ -23,7 +23,7 @@ function openPanel(title, ...content) {
     panel.replaceChildren(h("div", { class: "panelHead" }, h("h2", {}, title), h("button", { type: "button", class: "close", "aria-label": "Schließen", onclick: closePanel }, "×")),
         h("div", { class: "panelBody" }, content));
     panel.hidden = false;
-    panel.querySelector(".close").focus({ preventScroll: true });
+    panel.focus({ preventScroll: true });
 }
 function closePanel() {
     panel.hidden = true;
