@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/machine/decoder.h"
+#include "platform/web/filmstrip.h"
 
 namespace zentrox {
 
@@ -44,7 +45,9 @@ namespace {
 class ListedMedia final : public MediaDecoder {
 public:
     std::unique_ptr<AudioReader> openAudio(const std::filesystem::path& /*file*/) override { return nullptr; }
-    std::unique_ptr<VideoReader> openVideo(const std::filesystem::path& /*file*/) override { return nullptr; }
+    std::unique_ptr<VideoReader> openVideo(const std::filesystem::path& file) override {
+        return web::openFilmstrip(file);
+    }
     std::int64_t audioLength(const std::filesystem::path& file) override { return web::lengthsOf(file).sound; }
     std::int64_t videoLength(const std::filesystem::path& file) override { return web::lengthsOf(file).film; }
 };

@@ -1,4 +1,6 @@
 // What the probe under node takes over of its surroundings.
 Module['preRun'] = function () {
-    if (process.env.ZENTROX_LENGTHS) ENV.ZENTROX_LENGTHS = process.env.ZENTROX_LENGTHS;
+    ['ZENTROX_LENGTHS', 'ZENTROX_FILMS'].forEach(function (name) {
+        if (process.env[name]) ENV[name] = process.env[name];
+    });
 };

@@ -50,19 +50,21 @@ for place in "$source/build/demo" "$source/build/demo-cd" "$build/tests/walks/da
 done
 export ZENTROX_LENGTHS=$work/lengths
 "$build/list_lengths" "${places[@]}" >"$ZENTROX_LENGTHS"
+# Under node nothing decodes the pictures of a film; those that walks look at are taken apart ahead.
+export ZENTROX_FILMS=$work/films
+"$build/list_lengths" --films "$ZENTROX_FILMS" "$build/tests/walks/data" >/dev/null
 
 for walk in "$source"/demo/walks/*.walk; do
     both "demo-$(basename "$walk" .walk)" "$walk" --dir "$source/build/demo" --root "$source/build/demo-cd"
 done
 for walk in "$source"/tests/walks/*.walk; do
     name=$(basename "$walk" .walk)
-    # Under node nothing decodes the pictures of a film, which these look at.
-    case $name in film | ton) echo "walks-$name: left out, it looks at a film"; continue ;; esac
     both "walks-$name" "$walk" --dir "$build/tests/walks/data" --args "${name^}.lsd"
 done
 for walk in "$source"/tests/games/*.walk; do
     name=$(basename "$walk" .walk)
     both "games-$name" "$walk" --dir "$build/tests/games/data" --args "${name%%_*}.lsd"
 done
+rm -rf "$ZENTROX_FILMS"
 echo "$count walks, $pictures pictures"
 exit $status
