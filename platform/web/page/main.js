@@ -51,7 +51,8 @@ function pageFor() {
                 wakeUp();
             };
             input.wake = done;
-            if (until >= 0) timer = setTimeout(done, Math.max(0, until - clock()));
+            // Browsers drop the part behind the point, and would wake twice.
+            if (until >= 0) timer = setTimeout(done, Math.max(0, Math.ceil(until - clock())));
         },
         open: (...all) => { windows.open(...all); html.dataset.window = all[1]; },
         close: (number) => { windows.close(number); saves.keep(); html.dataset.window = windows.top ? windows.top.name : ""; },

@@ -5,6 +5,7 @@ const names = ["Eine Stimme", "Ein Geräusch", "Ein Lied"];
 const song = 2;
 const patience = 8000;  // milliseconds until a song's time runs without it
 const kept = 24;  // decoded sounds
+const rest = 3000;  // milliseconds of silence after which the sound machine, which is never idle, is halted
 
 export class Sound {
     constructor(story) {
@@ -19,7 +20,10 @@ export class Sound {
     unlock() {
         const Context = window.AudioContext || window.webkitAudioContext;
         if (Context && !this.context) this.context = new Context({ latencyHint: "interactive" });
-        if (this.context) this.context.resume().catch(() => {});
+        if (this.context) {
+            this.wakeUp();
+            this.halt();
+        }
         // An empty song, so that this player may play later on without a click.
         this.player.src = URL.createObjectURL(new Blob([silence()], { type: "audio/wav" }));
         this.player.play().catch(() => {});
@@ -42,13 +46,23 @@ export class Sound {
         if (!this.context) return;
         const buffer = await this.buffer(playing.path);
         if (playing.stopped) return;
-        if (this.context.state === "suspended") this.context.resume().catch(() => {});
+        this.wakeUp();
         playing.source = this.context.createBufferSource();
         playing.source.buffer = buffer;
         playing.source.connect(this.context.destination);
         playing.source.start();
         playing.since = performance.now();
-        playing.source.onended = () => { playing.ended = true; };
+        playing.source.onended = () => { playing.source = null; this.halt(); };
+    }
+    wakeUp() {
+        clearTimeout(this.halting);
+        if (this.context.state !== "running") this.context.resume().catch(() => {});
+    }
+    halt() {
+        clearTimeout(this.halting);
+        this.halting = setTimeout(() => {
+            if (!this.tracks.some((playing) => playing && playing.source)) this.context.suspend().catch(() => {});
+        }, rest);
     }
     async buffer(path) {
         if (this.decoded.has(path)) return this.decoded.get(path);
@@ -85,6 +99,8 @@ export class Sound {
         if (playing.source) {
             playing.source.onended = null;
             playing.source.stop();
+            playing.source = null;
+            this.halt();
         }
         if (track === song) {
             this.player.pause();
