@@ -1,10 +1,15 @@
 #!/usr/bin/env bash
-# Makes a page of the rooms that begin with a mini-game and plays it and the demo's page in a browser:
-# browser.sh SOURCE BUILD WORK.
+# Makes pages of the data of tests/games and tests/walks and plays them and the demo's page in a browser:
+# browser.sh SOURCE BUILD WORK [SCRIPT], SCRIPT browser.mjs or another one beside it.
 set -u
-source=$1 build=$2 work=$3
-if [ -d "$source/build/web-engine/page" ] && [ -d "$build/tests/games/data" ]; then
-    "$build/zentrox-story" web "$build/tests/games/data" --into "$work/games" --engine "$source/build/web-engine" \
-        --title Spiele >"$work/games.log" 2>&1 || { cat "$work/games.log"; exit 1; }
+source=$1 build=$2 work=$3 script=${4:-browser.mjs}
+if [ -d "$source/build/web-engine/page" ]; then
+    for data in games walks; do
+        [ -d "$build/tests/$data/data" ] || continue
+        # Some of the data is broken on purpose, which is told and does no harm.
+        "$build/zentrox-story" web "$build/tests/$data/data" --into "$work/$data" --engine "$source/build/web-engine" \
+            --title Spiele >"$work/$data.log" 2>&1
+        [ -f "$work/$data/index.html" ] || { cat "$work/$data.log"; exit 1; }
+    done
 fi
-exec node "$source/tests/web/browser.mjs" "$source/build/web" "$work/pictures" "$work/games"
+exec node "$source/tests/web/$script" "$source/build/web" "$work/pictures" "$work/games" "$work/walks"

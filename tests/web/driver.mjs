@@ -1,10 +1,18 @@
 // Drives Chromium over its debugging pipe, without any package: pages, real input, pictures, what was asked of whom.
-import { spawn } from "node:child_process";
+import { execFileSync, spawn } from "node:child_process";
 import { mkdtempSync, rmSync } from "node:fs";
 import os from "node:os";
 import path from "node:path";
 
 const wait = (milliseconds) => new Promise((resolve) => setTimeout(resolve, milliseconds));
+
+// The first of these programs that is installed.
+export function installed(programs) {
+    return programs.find((name) => {
+        try { return execFileSync("which", [name], { stdio: ["ignore", "pipe", "ignore"] }).length > 0; } catch { return false; }
+    });
+}
+export const chromium = () => installed(["chromium", "chromium-browser", "google-chrome"]);
 
 class Connection {
     constructor(child) {
@@ -34,7 +42,7 @@ class Connection {
 }
 
 export class Browser {
-    static async start({ program = "chromium", options = [] } = {}) {
+    static async start({ program = chromium(), options = [] } = {}) {
         const browser = new Browser();
         browser.profile = mkdtempSync(path.join(os.tmpdir(), "zentrox-browser-"));
         const child = spawn(program, ["--headless=new", "--remote-debugging-pipe", "--no-sandbox", "--no-first-run",

@@ -6,13 +6,13 @@ import { gzipSync } from "node:zlib";
 import os from "node:os";
 import path from "node:path";
 import { serve } from "../../scripts/serve.mjs";
-import { Browser, wait } from "./driver.mjs";
+import { Browser, chromium } from "./driver.mjs";
 import { Walker } from "./walker.mjs";
 
-const hurry = 3;
+const hurry = 6;
 const [directory, engine, walk, hands = "mouse", pictures] = process.argv.slice(2);
-if (!existsSync(path.join(directory, "index.html")) || !existsSync(path.join(engine, "zentrox-watched.wasm"))) {
-    console.log("There is no page, or no watched engine.");
+if (!chromium() || !existsSync(path.join(directory, "index.html")) || !existsSync(path.join(engine, "zentrox-watched.wasm"))) {
+    console.log("There is no Chromium, no page, or no watched engine.");
     process.exit(77);
 }
 

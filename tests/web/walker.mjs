@@ -7,6 +7,9 @@ const codes = {
     left: [37, "ArrowLeft"], right: [39, "ArrowRight"], backspace: [8, "Backspace"], tab: [9, "Tab"],
     f1: [112, "F1"], f2: [113, "F2"], f7: [118, "F7"],
 };
+// Walks count on one course of chance, which on a page is never the same. Begun here at each choice, as none draws
+// before the game that it leads to, the fight without a potion is lost and the quiz has its answer elsewhere.
+const chance = "2";
 const slow = 90000;  // real milliseconds that anything may take
 
 const wordsOf = (line) => [...line.matchAll(/"((?:[^"\\]|\\.)*)"|(\S+)/g)].map((m) => m[1] ?? m[2]);
@@ -118,6 +121,7 @@ export class Walker {
             case "click": return this.click(words.slice(-2).map(Number), words.length > 2 ? words[0] : "left");
             case "choose":
                 await this.until(() => this.yes("choice"), "a choice");
+                await this.ask("seed", chance);
                 return this.click(await this.place("option", words[0]));
             case "combine":
             case "give": {

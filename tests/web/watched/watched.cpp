@@ -53,6 +53,7 @@ std::string answer(const std::string& what, const Text& name) {
     if (what == "slot") return place(story.item(name));
     if (what == "option") return place(story.option(std::stoi(name)));
     if (what == "above") return place(story.aboveBar());
+    if (what == "seed") return watched->platform.random.reseed(std::stoull(name)), "";
     if (what == "why") return toUtf8(watched->platform.queue.reasons());
     return "?";
 }
