@@ -21,7 +21,8 @@ Rect markArea(const Rect& base) {
 Desk::Desk(Comforts& comforts)
     : comforts_(comforts),
       rest_(comforts.platform().queue, restsFor, false, [this] { showMark(true); }) {
-    comforts_.keys().add({.code = key::f10, .label = "F10", .does = "Einstellungen", .down = [this] { showSettings(); }});
+    comforts_.keys().add(
+        {.code = key::f10, .label = "F10", .does = "Einstellungen", .down = [this] { showSettings(); }});
     comforts_.keys().add({.code = key::f3, .label = "F3", .does = "diese Seite", .down = [this] {
                               comforts_.pausedDuring([this] { showKeys(); });
                           }});

@@ -1,5 +1,5 @@
-// The ways to what a player can set: F10 and the mark at the edge open the settings, F3 the page of all keys, Ctrl+U
-// mutes.
+// The ways to what a player can set: F10 and the mark at the edge open the settings, F3 the page of all keys,
+// Ctrl+U mutes.
 #pragma once
 
 #include "comfort/comforts.h"

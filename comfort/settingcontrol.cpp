@@ -144,8 +144,7 @@ void SettingControl::paintSwitch(Bitmap& onto, Point at, const Font& font) const
         const int drop = i < 3 ? i : 4 - i;
         onto.fill({square.x + 3 + i, square.y + 5 + drop, 1, 3}, look::text);
     }
-    font.draw(onto, at + Point{switchText, (height() - font.lineHeight()) / 2}, row_.title,
-              look::text);
+    font.draw(onto, at + Point{switchText, (height() - font.lineHeight()) / 2}, row_.title, look::text);
 }
 
 void SettingControl::paintSlider(Bitmap& onto, Point at, const Font& font) const {
@@ -156,7 +155,8 @@ void SettingControl::paintSlider(Bitmap& onto, Point at, const Font& font) const
     const Rect grip{area.x + way, middle - 8, thumb, 17};
     onto.fill(grip, look::face);
     look::raised(onto, grip);
-    font.draw(onto, {area.right() + 2 * margin, at.y + (height() - font.lineHeight()) / 2}, valueText(), look::text);
+    font.draw(onto, {area.right() + 2 * margin, at.y + (height() - font.lineHeight()) / 2}, valueText(),
+              look::text);
 }
 
 void SettingControl::paintChoice(Bitmap& onto, Point at, const Font& font) const {

@@ -34,8 +34,7 @@ SettingsWindow::SettingsWindow(Comforts& comforts, std::function<void()> showKey
       pages_(pagesOf(settingsRows())),
       tabs_(&root(), tabsArea, pages_, [this](std::size_t page) { showPage(page); }),
       page_(&root(), pageArea),
-      hint_(&root(), {10, 260, 400, 16},
-            "Pfeile ändern und gehen von Zeile zu Zeile, Bild auf und ab blättern."_t),
+      hint_(&root(), {10, 260, 400, 16}, "Pfeile ändern und gehen von Zeile zu Zeile, Bild auf und ab blättern."_t),
       keys_(&root(), {{10, buttonTop}, button}, "Alle Tasten (F3)"_t),
       reset_(&root(), {{151, buttonTop}, button}, "Seite zurücksetzen"_t),
       close_(&root(), {{292, buttonTop}, button}, "Schließen"_t) {
@@ -70,7 +69,8 @@ void SettingsWindow::asShipped() {
 }
 
 void SettingsWindow::moveFocus(int by) {
-    const auto here = std::find_if(rows_.begin(), rows_.end(), [this](const auto& row) { return row.get() == focus(); });
+    const auto here =
+        std::find_if(rows_.begin(), rows_.end(), [this](const auto& row) { return row.get() == focus(); });
     const auto count = static_cast<int>(rows_.size());
     const int from = here == rows_.end() ? (by > 0 ? -1 : count) : static_cast<int>(here - rows_.begin());
     const int to = from + by;

@@ -55,8 +55,8 @@ for shell in bash zsh fish; do
     if have $shell; then find first/share/{bash-completion,zsh,fish} -type f -path "*$shell*" -exec $shell -n {} \;; fi
 done
 words=$(bash -c 'source first/share/bash-completion/completions/zentrox-story
-    COMP_WORDS=(zentrox-story pa) COMP_CWORD=1; _zentrox_story; echo "${COMPREPLY[*]}"')
-[ "$words" = "pack page" ] || fail "bash completes pa to: $words"
+    COMP_WORDS=(zentrox-story pac) COMP_CWORD=1; _zentrox_story; echo "${COMPREPLY[*]}"')
+[ "$words" = pack ] || fail "bash completes pac to: $words"
 
 # --- a moved tree, another directory, and a user who may write nowhere but at home
 place=$scratch

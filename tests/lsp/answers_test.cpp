@@ -107,7 +107,8 @@ TEST(Answers, WhereThingsComeFrom) {
     EXPECT_EQ(story.defined("hof.story", "\"Stall.lsd\""), (Strings{"rest.story:12:5-16"}));
     EXPECT_EQ(story.defined("hof.story", "AUFGANG"), (Strings{"rest.story:9:11-18"}));
     EXPECT_EQ(story.defined("hof.story", "Balduin:"), (Strings{"rest.story:0:7-14"}));
-    EXPECT_EQ(story.defined("rest.story", "Springe NOCHMAL", 9), (Strings{"rest.story:10:10-17"}));  // of its own script
+    EXPECT_EQ(story.defined("rest.story", "Springe NOCHMAL", 9),
+              (Strings{"rest.story:10:10-17"}));  // of its own script
     EXPECT_EQ(story.request("textDocument/definition", story.at("hof.story", "// 𝄞")), Json());
 }
 
@@ -164,7 +165,9 @@ TEST(Answers, SomeNamesCantBe) {
     EXPECT_NE(story.refused("hof.story", "\"hof.jpg\"", "x.jpg"), "");
     EXPECT_NE(story.refused("hof.story", "EndeWenn", "X"), "");
     EXPECT_EQ(story.request("textDocument/prepareRename", story.at("hof.story", "\"Hof.lsd\"", 1)), Json());
-    EXPECT_EQ(story.request("textDocument/prepareRename", story.at("hof.story", "\"LICHT 2\"", 1)).at("placeholder"), "LICHT 2");
+    EXPECT_EQ(
+        story.request("textDocument/prepareRename", story.at("hof.story", "\"LICHT 2\"", 1)).at("placeholder"),
+        "LICHT 2");
 }
 
 TEST(Answers, Help) {
@@ -228,12 +231,14 @@ TEST(Answers, FindingsWhileTyping) {
     EXPECT_TRUE(has(found["rest.story"], "2:11-23 gegenstand-fehlt"));
     EXPECT_TRUE(has(found["hof.story"], "11:12-14 wort"));
     // A change in one file, and what it means to another: nobody calls the part any more.
-    story.notice("textDocument/didChange",
-                 {{"textDocument", {{"uri", story.uri("rest.story")}, {"version", 2}}},
-                  {"contentChanges", {{{"range", {{"start", {{"line", 9}, {"character", 11}}}, {"end", {{"line", 9}, {"character", 18}}}}},
-                                       {"text", "𝄞X"}},
-                                      {{"range", {{"start", {{"line", 9}, {"character", 11}}}, {"end", {{"line", 9}, {"character", 13}}}}},
-                                       {"text", ""}}}}});
+    story.notice(
+        "textDocument/didChange",
+        {{"textDocument", {{"uri", story.uri("rest.story")}, {"version", 2}}},
+         {"contentChanges",
+          {{{"range", {{"start", {{"line", 9}, {"character", 11}}}, {"end", {{"line", 9}, {"character", 18}}}}},
+            {"text", "𝄞X"}},
+           {{"range", {{"start", {{"line", 9}, {"character", 11}}}, {"end", {{"line", 9}, {"character", 13}}}}},
+            {"text", ""}}}}});
     found = story.findings();
     EXPECT_TRUE(has(found["hof.story"], "13:17-24 skriptteil")) << testing::PrintToString(found);
     EXPECT_EQ(story.defined("rest.story", "Raum \"Stall", 6), (Strings{"rest.story:12:5-16"}));
@@ -267,8 +272,9 @@ TEST(Answers, PositionsBehindWideCharacters) {
         Client client(bytes ? Json{{"general", {{"positionEncodings", {"utf-8", "utf-16"}}}}} : Json::object());
         client.open("a.story", "\xEF\xBB\xBFRaum \"a.txt\"\r\nStart\r\nText \"𝄞ä\" Falsch\r\n");
         EXPECT_EQ(client.sent[0]["result"]["capabilities"]["positionEncoding"], bytes ? "utf-8" : "utf-16");
-        EXPECT_EQ(client.findings()["a.story"], bytes ? (Strings{"0:8-15 name", "2:6-13 zeichen", "2:14-20 argument"})
-                                                      : (Strings{"0:6-13 name", "2:6-10 zeichen", "2:11-17 argument"}));
+        EXPECT_EQ(client.findings()["a.story"],
+                  bytes ? (Strings{"0:8-15 name", "2:6-13 zeichen", "2:14-20 argument"})
+                        : (Strings{"0:6-13 name", "2:6-10 zeichen", "2:11-17 argument"}));
     }
 }
 
@@ -303,7 +309,8 @@ TEST(Answers, SourcesThatComeAndGo) {
     EXPECT_TRUE(has(client.findings()["a.story"], "2:11-16 merker-nie-gesetzt"));
     client.notice("textDocument/didOpen",
                   {{"textDocument", {{"uri", "untitled:Untitled-1"}, {"version", 1}, {"text", "Raum"}}}});
-    const Json unnamed{{"textDocument", {{"uri", "untitled:Untitled-1"}}}, {"position", {{"line", 0}, {"character", 0}}}};
+    const Json unnamed{{"textDocument", {{"uri", "untitled:Untitled-1"}}},
+                       {"position", {{"line", 0}, {"character", 0}}}};
     EXPECT_TRUE(client.ask("textDocument/hover", unnamed).contains("error"));
 }
 

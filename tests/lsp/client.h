@@ -44,7 +44,8 @@ public:
         return answer.value("result", Json());
     }
 
-    // Where the text of an open file first has `mark`; the cursor stands on its first character, or `in` further on.
+    // Where the text of an open file first has `mark`; the cursor stands on its first character, or `in` further
+    // on.
     Json at(const std::string& name, const std::string& mark, std::size_t in = 0) const {
         const std::string& text = texts_.at(name);
         const std::size_t place = text.find(mark);
@@ -66,7 +67,8 @@ public:
         const Json& start = range.at("start");
         const Json& end = range.at("end");
         EXPECT_EQ(start.at("line"), end.at("line"));
-        return std::to_string(start.at("line").get<int>()) + ":" + std::to_string(start.at("character").get<int>()) + "-" +
+        return std::to_string(start.at("line").get<int>()) + ":" +
+               std::to_string(start.at("character").get<int>()) + "-" +
                std::to_string(end.at("character").get<int>());
     }
 
@@ -87,7 +89,8 @@ public:
     // What an edit makes of the files that are open.
     std::map<std::string, std::string> applied(const Json& edit) {
         std::map<std::string, std::string> texts;
-        for (const auto& [name, text] : texts_) texts[name] = edited(text, edit.at("changes").value(uri(name), Json::array()));
+        for (const auto& [name, text] : texts_)
+            texts[name] = edited(text, edit.at("changes").value(uri(name), Json::array()));
         return texts;
     }
     static std::string edited(std::string text, Json edits) {
@@ -96,7 +99,8 @@ public:
             return lines.offset(positionIn(edit.at("range").at(which)), Encoding::utf16);
         };
         std::vector<std::tuple<std::size_t, std::size_t, std::string>> all;
-        for (const Json& edit : edits) all.emplace_back(place(edit, "start"), place(edit, "end"), edit.at("newText"));
+        for (const Json& edit : edits)
+            all.emplace_back(place(edit, "start"), place(edit, "end"), edit.at("newText"));
         std::sort(all.rbegin(), all.rend());
         for (const auto& [from, to, put] : all) text.replace(from, to - from, put);
         return text;

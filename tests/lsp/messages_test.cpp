@@ -90,10 +90,10 @@ TEST(Messages, ComesAndGoes) {
 }
 
 TEST(Messages, OutOfOrder) {
-    const Spoken spoken = serveAll(framed(request(2, "textDocument/hover")) + hello + framed(request(3, "initialize")) +
-                                   framed(request(4, "foo/bar")) + framed(notice("foo/bar")) +
-                                   framed(request(5, "textDocument/hover")) + framed(request(9, "shutdown")) +
-                                   framed(request(6, "textDocument/hover")) + framed(notice("exit")));
+    const Spoken spoken = serveAll(
+        framed(request(2, "textDocument/hover")) + hello + framed(request(3, "initialize")) +
+        framed(request(4, "foo/bar")) + framed(notice("foo/bar")) + framed(request(5, "textDocument/hover")) +
+        framed(request(9, "shutdown")) + framed(request(6, "textDocument/hover")) + framed(notice("exit")));
     EXPECT_EQ(spoken.errorOf(2), code::notInitialized);
     EXPECT_EQ(spoken.errorOf(3), code::invalidRequest);
     EXPECT_EQ(spoken.errorOf(4), code::unknownMethod);
@@ -131,12 +131,14 @@ TEST(Messages, DamagedOnesAreAnsweredAndTheNextOneIsRead) {
         EXPECT_EQ(spoken.status, 0);
     }
     // A length that is too small: the rest of the message runs into the next header.
-    const Spoken shorter = serveAll(hello + "Content-Length: 10\r\n\r\n{\"id\":1,\"method\":\"x\"}" + framed(request(2, "foo")) + goodbye);
+    const Spoken shorter = serveAll(hello + "Content-Length: 10\r\n\r\n{\"id\":1,\"method\":\"x\"}" +
+                                    framed(request(2, "foo")) + goodbye);
     EXPECT_EQ(shorter.errorOf(2), code::unknownMethod);
     // Other fields, in any case, and line feeds alone.
     const std::string text = request(2, "foo").dump();
-    const Spoken spelled = serveAll(hello + "Content-Type: application/vscode-jsonrpc; charset=utf-8\r\nCONTENT-LENGTH:" +
-                                    std::to_string(text.size()) + "\n\n" + text + goodbye);
+    const Spoken spelled =
+        serveAll(hello + "Content-Type: application/vscode-jsonrpc; charset=utf-8\r\nCONTENT-LENGTH:" +
+                 std::to_string(text.size()) + "\n\n" + text + goodbye);
     EXPECT_EQ(spelled.errorOf(2), code::unknownMethod);
 }
 
@@ -144,7 +146,8 @@ TEST(Messages, ParametersWithoutSense) {
     const Json document{{"uri", "file:///a.story"}, {"text", "Raum \"a.lsd\"\n"}, {"version", "1"}};
     const std::string open = framed(notice("textDocument/didOpen", {{"textDocument", document}}));
     const auto change = [](const Json& changes) {
-        return framed(notice("textDocument/didChange", {{"textDocument", {{"uri", "file:///a.story"}}}, {"contentChanges", changes}}));
+        return framed(notice("textDocument/didChange",
+                             {{"textDocument", {{"uri", "file:///a.story"}}}, {"contentChanges", changes}}));
     };
     const auto range = [](const Json& line, const Json& character) {
         const Json place{{"line", line}, {"character", character}};
@@ -152,18 +155,21 @@ TEST(Messages, ParametersWithoutSense) {
     };
     std::string bytes = hello + open;
     for (const Json& number : {Json(-1), Json(1e300), Json(9223372036854775807), Json("1"), Json(), Json(99)})
-        bytes += change({{{"range", range(number, 0)}, {"text", "x"}}}) + change({{{"range", range(0, number)}, {"text", "x"}}});
+        bytes += change({{{"range", range(number, 0)}, {"text", "x"}}}) +
+                 change({{{"range", range(0, number)}, {"text", "x"}}});
     bytes += change(nullptr) + change("x") + change({{{"text", 7}}}) + change({1});
-    for (const Json& params : {Json(), Json(7), Json::array(), Json{{"textDocument", 7}}, Json{{"textDocument", {{"uri", 7}}}}}) {
+    for (const Json& params :
+         {Json(), Json(7), Json::array(), Json{{"textDocument", 7}}, Json{{"textDocument", {{"uri", 7}}}}}) {
         bytes += framed(notice("textDocument/didOpen", params)) + framed(notice("textDocument/didChange", params)) +
                  framed(notice("textDocument/didClose", params));
-        for (const char* method : {"textDocument/completion", "textDocument/hover", "textDocument/rename", "workspace/symbol",
-                                   "textDocument/references", "textDocument/formatting"})
+        for (const char* method : {"textDocument/completion", "textDocument/hover", "textDocument/rename",
+                                   "workspace/symbol", "textDocument/references", "textDocument/formatting"})
             bytes += framed(request(2, method, params));
     }
     for (const Json& number : {Json(-1), Json(1e300), Json(9223372036854775807), Json(18446744073709551615U)})
         bytes += framed(request(3, "textDocument/completion",
-                                {{"textDocument", {{"uri", "file:///a.story"}}}, {"position", {{"line", number}, {"character", number}}}}));
+                                {{"textDocument", {{"uri", "file:///a.story"}}},
+                                 {"position", {{"line", number}, {"character", number}}}}));
     const Spoken spoken = serveAll(bytes + framed(request(4, "foo")) + goodbye);
     EXPECT_EQ(spoken.errorOf(2), code::invalidParams);
     EXPECT_EQ(spoken.errorOf(4), code::unknownMethod);
@@ -227,7 +233,8 @@ TEST(Messages, ARecordedSession) {
 // Whatever comes, an answer or silence, and an end.
 TEST(Messages, Noise) {
     std::mt19937 random(18);
-    const std::string good = hello + framed(request(2, "textDocument/hover")) + framed(notice("textDocument/didOpen"));
+    const std::string good =
+        hello + framed(request(2, "textDocument/hover")) + framed(notice("textDocument/didOpen"));
     for (int i = 0; i < 300; ++i) {
         std::string bytes = good;
         for (unsigned k = 0; k < 1 + random() % 8; ++k) {

@@ -1,12 +1,13 @@
-// The page of a story in a real browser: node browser.mjs ZENTROX-STORY WORK DEMO-SOURCES DEMO-DATA
+// The page of a story in a real browser: node browser.mjs ZENTROX-STORY WORK DEMO-SOURCES DEMO-DATA TRAP ZENTROX-PROBE
+// TRAP is a story with a dead end.
 // Exit status 77 where there is no Chromium.
-import { execFileSync } from "node:child_process";
+import { execFileSync, spawnSync } from "node:child_process";
 import { copyFileSync, existsSync, mkdirSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync } from "node:fs";
 import path from "node:path";
 import { pathToFileURL } from "node:url";
 import { Browser, wait } from "../web/driver.mjs";
 
-const [program, work, demo, demoData] = process.argv.slice(2);
+const [program, work, demo, demoData, trap, probe] = process.argv.slice(2);
 const chromium = ["chromium", "chromium-browser", "google-chrome"].find((name) => {
     try { return execFileSync("which", [name], { stdio: ["ignore", "pipe", "ignore"] }).length > 0; } catch { return false; }
 });
@@ -20,6 +21,8 @@ function check(name, good, seen = "") {
     if (!good) ++failures;
 }
 const run = (...words) => execFileSync(program, words, { stdio: ["ignore", "pipe", "pipe"], encoding: "utf8" });
+// What a call says, whatever comes of it.
+const outputOf = (words, env = process.env) => spawnSync(program, words, { env, encoding: "utf8" });
 
 // A story that does its best to break the page, in a directory whose name has to be escaped in addresses.
 const evil = `Person Ada
@@ -174,6 +177,61 @@ async function evilRound(browser) {
     await page.close();
 }
 
+// Endings and dead ends, step by step.
+async function proofRound(browser) {
+    const proof = path.join(work, "proof.json"), file = path.join(work, "proof.html");
+    writeFileSync(proof, outputOf(["prove", trap, "--json"]).stdout);
+    run("page", trap, "--proof", proof, "--into", file);
+    const page = await browser.page({ width: 1440, height: 900 });
+    await open(page, pathToFileURL(file).href + "#/beweis");
+    await page.evaluate(`document.querySelectorAll("#view details").forEach((one) => { one.open = true; })`);
+    const plays = await page.evaluate(`[...document.querySelectorAll(".playEntry")].map((play) => [...play.querySelectorAll(".step")].map((step) => step.textContent))`);
+    check("each play is told to its end", plays.length === 2 && plays[0].length === 5 && plays[1].length === 3, plays);
+    check("answers stand in their own words", plays[0][4].includes("„Ja.“ antworten") && plays[0][4].includes("Eine Insel."), plays[0]);
+    check("the dead end says what it takes", (await page.evaluate(text(".deadEnd"))).includes("BEZAHLT"));
+    await click(page, ".deadEnd a.place");
+    await wait(100);
+    check("and leads to its line", (await page.evaluate(text(".row.here"))).includes("GibGegenstand"), await page.evaluate(text(".row.here")));
+    check("where it is told as well", (await page.evaluate(text(".code .finding"))).includes("verbaut"));
+    await page.close();
+}
+
+// Colours for what a walk has run.
+async function ranRound(browser) {
+    if (!probe || !existsSync(probe)) return console.log("not tried: the probe is not there");
+    const story = path.join(work, "fresh"), ran = path.join(work, "ran.json"), file = path.join(work, "ran.html");
+    run("new", story);
+    run("build", path.join(story, "story"), "--into", story);
+    execFileSync(probe, ["--quiet", "--dir", story, "--ran", ran, path.join(story, "walks/start.walk")], { stdio: "ignore" });
+    run("page", path.join(story, "story"), "--ran", ran, "--into", file);
+    const page = await browser.page({ width: 1440, height: 900 });
+    await open(page, pathToFileURL(file).href + "#/quelle/start.story");
+    const rows = await page.evaluate(`[document.querySelectorAll(".row.ran").length, document.querySelectorAll(".row.never").length]`);
+    check("lines that ran and lines that did not are told apart", rows[0] > 5 && rows[1] > 0, rows);
+    check("percentages are shown", /^\d+ %$/.test(await page.evaluate(text(".meter"))));
+    await page.close();
+}
+
+// Stories that are hardly any, and a machine without Graphviz.
+async function oddRound(browser) {
+    const odd = { empty: "", person: "Person Ada\n    Farbe 7\n", broken: `Raum "Start.lsd"\n Start\n WennMerker A\n Frage\n Gespräch\n Raum x\n Fall\n Objekt\n Antwort "x"\n Text "a\n` };
+    const page = await browser.page({ width: 1440, height: 900 });
+    for (const [name, source] of Object.entries(odd)) {
+        mkdirSync(path.join(work, name));
+        writeFileSync(path.join(work, name, "a.story"), source);
+        run("page", path.join(work, name, "a.story"), "--into", path.join(work, name + ".html"));
+        await open(page, pathToFileURL(path.join(work, name + ".html")).href);
+        await lookAround(page, "the " + name + " story");
+    }
+    const call = outputOf(["page", trap, "--into", path.join(work, "lists.html")], { ...process.env, PATH: "/nonexistent" });
+    check("a missing Graphviz is named", call.status === 0 && call.stderr.includes("graphviz"), call.stderr);
+    await open(page, pathToFileURL(path.join(work, "lists.html")).href);
+    check("and lists stand in its place", await page.evaluate(`document.querySelectorAll("#view .cards a").length === 2 && document.querySelectorAll("#view .ways li").length > 0`));
+    await lookAround(page, "the page of lists");
+    check("the odd ones do not complain", page.complaints.length === 0, page.complaints);
+    await page.close();
+}
+
 async function demoRound(browser) {
     if (!existsSync(path.join(demoData, "graphics"))) return console.log("not tried: the demo's data is not there");
     const file = path.join(work, "demo.html");
@@ -201,6 +259,9 @@ async function demoRound(browser) {
 const browser = await Browser.start({ program: chromium, options: ["--autoplay-policy=no-user-gesture-required"] });
 try {
     await evilRound(browser);
+    await oddRound(browser);
+    await proofRound(browser);
+    await ranRound(browser);
     await demoRound(browser);
 } catch (failure) {
     check(failure.message, false);

@@ -2,6 +2,7 @@
 #include "tools/page/map.h"
 #include "tools/page/pictures.h"
 #include "tools/page/proof.h"
+#include "tools/story/build.h"
 #include "tools/story/inputs.h"
 
 namespace zentrox::page::test {
@@ -90,6 +91,26 @@ Gegenstand "karte.bmp"
         Raumwechsel "Start.lsd"
 )"}});
     EXPECT_EQ(waysIn(reading), std::vector<std::string>{"-1>0"});
+}
+
+TEST(Ways, AreTheSameInCompiledData) {
+    const Reading sources = readStory({{"a.story", rooms}});
+    const auto directory = std::filesystem::path(testing::TempDir()) / "zentrox-page-data";
+    writeStory(sources.story, directory);
+    const Reading data = read({directory.string()}, {});
+    std::filesystem::remove_all(directory);
+    EXPECT_EQ(data.title, "zentrox-page-data");
+    const auto ends = [](const Reading& reading) {
+        const auto name = [&](int room) {
+            return room < 0 ? "-" : reading.story.rooms[static_cast<std::size_t>(room)].file;
+        };
+        std::multiset<std::string> all;
+        for (const Way& way : waysOf(reading, sectionsOf(reading)))
+            all.insert(name(way.from) + ">" + (way.ending ? "ENDE" : name(way.to)));
+        return all;
+    };
+    EXPECT_EQ(ends(data), ends(sources));
+    EXPECT_EQ(usesOf(data.story).flags.size(), usesOf(sources.story).flags.size());
 }
 
 TEST(Map, JoinsWhatIsFreeInBothDirections) {

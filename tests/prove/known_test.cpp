@@ -307,6 +307,41 @@ TEST(Known, ASilencedDeadEnd) {
     EXPECT_TRUE(proof.report.findings.empty());
 }
 
+// Where each step is taken, what is done, what is read.
+TEST(Known, APlayIsToldStepByStep) {
+    const Proof proof(R"(Raum "Start.lsd"
+    Start
+        Text "$AEins" "zwei"
+    Objekt "Tür"
+        Fläche Rechteck 10 10 90 90
+        Links
+            Auswahl "Wohin?"
+                Fall "Bleiben."
+                Fall "$BHinaus," "schnell!"
+                    Spiel PONG GUT
+                    Raumwechsel "Hof.lsd"
+            EndeAuswahl
+Raum "Hof.lsd"
+    Objekt "Tor"
+        Fläche Rechteck 10 10 90 90
+        Links
+            Text "Ende."
+            System Ende
+)");
+    ASSERT_EQ(proof.report.endings.size(), 1U);
+    std::vector<std::string> told;
+    for (const ToldStep& step : proof.report.endings[0].play) {
+        told.push_back(step.room + " " + std::to_string(step.place.file == -1 ? 0 : step.place.line) + " " +
+                       step.what);
+        for (const std::string& text : step.texts) told.back() += " | " + text;
+    }
+    ASSERT_EQ(told.size(), 5U);
+    EXPECT_EQ(told[0], "Start.lsd 3  | Eins#zwei");
+    EXPECT_EQ(told[1], "Start.lsd 7 „Tür“ benutzen");
+    EXPECT_EQ(told[2], "Start.lsd 9 „Hinaus, schnell!“ antworten");
+    EXPECT_EQ(told[4], "Hof.lsd 17 „Tor“ benutzen | Ende.");
+}
+
 TEST(Known, ABoundIsSaid) {
     std::string switches;
     for (int i = 0; i < 12; ++i) {

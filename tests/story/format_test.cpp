@@ -21,7 +21,8 @@ std::string contents(const fs::path& path) {
 std::map<std::string, std::string> filesBelow(const fs::path& directory) {
     std::map<std::string, std::string> files;
     for (const auto& entry : fs::recursive_directory_iterator(directory))
-        if (entry.is_regular_file()) files[entry.path().lexically_relative(directory).string()] = contents(entry.path());
+        if (entry.is_regular_file())
+            files[entry.path().lexically_relative(directory).string()] = contents(entry.path());
     return files;
 }
 
@@ -41,7 +42,8 @@ std::string carelessly(const std::string& source) {
         const std::size_t word = text.find_first_of(" :");
         const bool plain = text[0] >= 'A' && text[0] <= 'Z' && (word == std::string::npos || text[word] == ' ');
         for (std::size_t i = 0; plain && i < std::min(word, text.size()); ++i)
-            if (text[i] >= 'a' && text[i] <= 'z' && count % 3 == 0) text[i] = static_cast<char>(text[i] - 'a' + 'A');
+            if (text[i] >= 'a' && text[i] <= 'z' && count % 3 == 0)
+                text[i] = static_cast<char>(text[i] - 'a' + 'A');
         out += std::string(static_cast<std::size_t>(count % 5), count % 2 == 0 ? ' ' : '\t') + text +
                (count % 4 == 0 ? "  \t" : "") + "\n";
     }
@@ -58,15 +60,18 @@ TEST(Format, SetsEachKindOfLine) {
     };
     const std::vector<Case> cases{
         {"the shape of a room",
-         "raum a.lsd\nBILD \"b.jpg\"\nstart\nTon \"c.wav\"\nOBJEKT Tür\ninaktiv\nFlaeche\nrechteck 1,2 ,3  4\nVieleck 1 2,3 "
+         "raum a.lsd\nBILD \"b.jpg\"\nstart\nTon \"c.wav\"\nOBJEKT Tür\ninaktiv\nFlaeche\nrechteck 1,2 ,3  "
+         "4\nVieleck 1 2,3 "
          "4,5 6\nLinks\nText \"x\"",
          "Raum a.lsd\n    Bild \"b.jpg\"\n    Start\n        Ton \"c.wav\"\n    Objekt Tür\n        Inaktiv\n"
          "        Fläche\n            Rechteck 1, 2, 3 4\n            Vieleck 1 2, 3 4, 5 6\n        Links\n"
          "            Text \"x\"\n"},
         {"blocks, and a comment before the end of one",
-         "Skriptteil A\nWennMerker B\nText \"x\"\n// nichts weiter\nEndeWenn\nAuswahl \"?\"\nFall \"a\"\nTon b.wav\nOption \"c\"\n"
+         "Skriptteil A\nWennMerker B\nText \"x\"\n// nichts weiter\nEndeWenn\nAuswahl \"?\"\nFall \"a\"\nTon "
+         "b.wav\nOption \"c\"\n"
          "EndeAuswahl",
-         "Skriptteil A\n    WennMerker B\n        Text \"x\"\n        // nichts weiter\n    EndeWenn\n    Auswahl \"?\"\n"
+         "Skriptteil A\n    WennMerker B\n        Text \"x\"\n        // nichts weiter\n    EndeWenn\n    Auswahl "
+         "\"?\"\n"
          "        Fall \"a\"\n            Ton b.wav\n        Option \"c\"\n    EndeAuswahl\n"},
         {"texts of several lines below their first one",
          "Skriptteil A\nText \"a\"\n\"b\"  \"c\"\nKarl  Otto:\"d\"\n\"e\"\nKarl Otto:\n\"f\"",
@@ -77,8 +82,10 @@ TEST(Format, SetsEachKindOfLine) {
          "Skriptteil A// kein Kommentar\n    Ton a.wav        // eins\n    Ton laenger.wav  // stumm: x\n\n"
          "    Ton b.wav  // drei\n"},
         {"a question in a talk",
-         "Skriptteil A\nGespräch\nFrage \"?\"\nAntwort \"a\" einmal\nText \"b\"\nSchluss \"c\" wenn D\nEndeGespraech",
-         "Skriptteil A\n    Gespräch\n        Frage \"?\"\n            Antwort \"a\" einmal\n                Text \"b\"\n"
+         "Skriptteil A\nGespräch\nFrage \"?\"\nAntwort \"a\" einmal\nText \"b\"\nSchluss \"c\" wenn "
+         "D\nEndeGespraech",
+         "Skriptteil A\n    Gespräch\n        Frage \"?\"\n            Antwort \"a\" einmal\n                Text "
+         "\"b\"\n"
          "            Schluss \"c\" wenn D\n    EndeGespräch\n"},
         {"a part of a room that others include, and a line that can't be read",
          "Links\nText \"offen\n  Text   \"zu\"", "Links\nText \"offen\n    Text \"zu\"\n"},

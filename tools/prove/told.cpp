@@ -47,7 +47,10 @@ std::string answer(const Program& program, const Stacks& stacks, const PlayedSte
     const auto choice =
         story::splitChoice(story::argumentOf(*program.scripts[at(frame->script)].source, at(frame->index)));
     const auto option = at(step.action.a) - 1;
-    return option < choice.options.size() ? "„" + withoutColours(choice.options[option]) + "“ antworten" : "";
+    if (option >= choice.options.size()) return {};
+    std::string words = withoutColours(choice.options[option]);
+    std::replace(words.begin(), words.end(), '#', ' ');
+    return "„" + words + "“ antworten";
 }
 
 std::string whatIsDone(const Program& program, const Stacks& stacks, const PlayedStep& step) {
