@@ -18,7 +18,10 @@ for file in bin/zentrox bin/zentrox-{probe,story,notes,voices} share/man/man6/ze
     share/icons/hicolor/scalable/apps/zentrox.svg share/icons/hicolor/scalable/mimetypes/application-x-zentrox-story.svg \
     share/bash-completion/completions/zentrox{,-story} share/zsh/vendor-completions/_zentrox{,-story} \
     share/fish/vendor_completions.d/zentrox{,-story}.fish $story/titel.txt $story/rooms/Start.lsd $story/cd/Zentrox \
-    share/doc/zentrox/copyright; do
+    share/doc/zentrox/copyright share/vim/vimfiles/{ftdetect,ftplugin,syntax,compiler}/zentrox.vim \
+    share/vim/vimfiles/{lua,lsp}/zentrox.lua share/org.kde.syntax-highlighting/syntax/zentrox-geschichte.xml \
+    share/zentrox/editors/kate/lspclient.json share/zentrox/editors/vscode/package.json \
+    share/zentrox/editors/vscode/{extension.js,language-configuration.json,syntaxes/zentrox.tmLanguage.json}; do
     [ -e "first/$file" ] || fail "$file is not installed"
 done
 [ "$(find first/lib -name zentrox-decoder.so -path '*/zentrox/*' | wc -l)" = 1 ] || fail "the module has no folder of its own"

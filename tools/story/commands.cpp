@@ -7,6 +7,7 @@
 #include "platform/machine/system.h"
 #include "platform/values/error.h"
 #include "tools/completion/completion.h"
+#include "tools/editors/grammars.h"
 #include "tools/lsp/server.h"
 #include "tools/page/page.h"
 #include "tools/prove/command.h"
@@ -273,6 +274,14 @@ int server(const Options& options, const Streams& to) {
     return lsp::serve(std::cin, to.out, options.data);
 }
 
+int grammar(const Options& options, const Streams& to) {
+    const std::string& editor = options.words.front();
+    to.out << (editor == "vim"    ? editors::vimSyntax()
+               : editor == "kate" ? editors::kateSyntax()
+                                  : editors::textMateGrammar());
+    return clean;
+}
+
 int reference(const Options& /*options*/, const Streams& to) {
     to.out << referencePage();
     return clean;
@@ -401,6 +410,12 @@ void describe(CLI::App& app, Chosen& chosen) {
 
     sub = add("lsp", "bedient einen Editor: Befunde, Ergänzung, Hilfe, Sprünge, Umbenennen", server);
     sub->add_option("--data", options.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
+
+    sub = add("grammar", "druckt die Sprache, wie ein Editor sie einfärbt", grammar);
+    sub->add_option("EDITOR", options.words, "vim, vscode oder kate")
+        ->required()
+        ->expected(1)
+        ->check(CLI::Validator(CLI::IsMember({"vim", "vscode", "kate"})).description("vim, vscode oder kate"));
 
     sub = add("coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage);
     sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
