@@ -1,9 +1,12 @@
 // zentrox: the game on the desktop.
 #include <iostream>
 
+#include "author/areas.h"
+#include "author/workbench.h"
 #include "comfort/comforts.h"
 #include "comfort/desk.h"
 #include "engine/files/titeldatei.h"
+#include "main/beginning.h"
 #include "main/desktopcomfort.h"
 #include "main/options.h"
 #include "main/spiel.h"
@@ -35,9 +38,44 @@ StoryPlace placeOf(const Options& options) {
     return {std::move(files), places.settings};
 }
 
+// The game on its sources.
+struct AuthorsPlace {
+    AuthorsPlace(const Options& options, Comforts& comforts, author::WalkWriter* record)
+        : compiler(*options.author, options.directory),
+          workbench(comforts, compiler, record),
+          areas(workbench) {}
+    author::Compiler compiler;
+    author::Workbench workbench;
+    author::Areas areas;
+};
+
+// What is played, written down.
+class Record {
+public:
+    author::WalkWriter& writer() { return writer_; }
+    Record(const Options& options, Comforts& comforts)
+        : file_(*options.record, options.recordGoesOn),
+          writer_(file_) {
+        if (!options.recordGoesOn) file_.line(walkCall(options.commandLine, options.beginning));
+        writer_.watch(&comforts.platform(), &comforts.zustand());
+        if (options.recordGoesOn) writer_.goesOn();
+        comforts.addLook([this](const Input& input) {
+            writer_.sees(input);
+            return false;
+        });
+        comforts.observers().Dazu(writer_);
+    }
+
+private:
+    author::RecordFile file_;
+    author::WalkWriter writer_;
+};
+
 int play(const Options& options, const StoryPlace& place) {
     const Files& files = place.files;
+    checkBeginning(options.beginning, files);
     sdl::Desktop desktop(files, restartCommand(programFile(), options));
+    if (options.beginning.seed) desktop.setSeed(*options.beginning.seed);
     const auto fonts = makeFonts();
     SoundClock clock(desktop);
     const auto sound = desktopSound(files, [&clock] { return clock.now(); });
@@ -47,6 +85,13 @@ int play(const Options& options, const StoryPlace& place) {
     DesktopComfort machine(desktop, *sound, clock);
     Comforts comforts(platform, *zustand, machine, settingsFile(place.settings));
     const Desk desk(comforts);
+    Beginner beginner(options.beginning);
+    beginner.watch(&platform, zustand.get());
+    if (options.beginning.hasState()) comforts.observers().Dazu(beginner);
+    std::optional<Record> record;
+    if (options.record) record.emplace(options, comforts);
+    std::optional<AuthorsPlace> authors;
+    if (options.author) authors.emplace(options, comforts, record ? &record->writer() : nullptr);
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
     return Spielen(platform, *zustand, fromUtf8(options.commandLine), {.observer = &comforts.observers()});
 }
@@ -67,6 +112,13 @@ int refuse(const Options& options, const DataError& error) {
 }
 
 int play(Options options) {
+    if (options.author && !options.storyNamed) {
+        options.directory = author::dataOf(*options.author);
+        options.storyNamed = true;
+        if (options.directory.empty())
+            throw std::runtime_error("there are no data directories with " + options.author->string() +
+                                     "; --dir says where they are");
+    }
     options.directory =
         storyToPlay(options, programDirectory(), rootsToSearch(options, searchRoots(programDirectory())));
     try {

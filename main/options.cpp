@@ -35,6 +35,9 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     CLI::App app("Plays the story in the program's directory, or in DIR.", "zentrox");
     std::string directory;
     std::string saves;
+    std::string record;
+    std::string author;
+    Options options;
     bool portable = false;
     std::vector<std::string> roots;
     std::vector<std::string> room;
@@ -57,6 +60,16 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         ->type_name("DIR")
         ->take_last();
     app.add_flag("--portable", portable, "Writes nothing outside of the directory that the story lies in");
+    addBeginning(app, options.beginning);
+    app.add_option("--author", author,
+                   "Plays from these sources of a story, and compiles and shows what is changed in them")
+        ->type_name("STORY")
+        ->take_last()
+        ->check(story);
+    app.add_option("--record", record, "Writes down what is played as a walk, for zentrox-probe")
+        ->type_name("FILE")
+        ->take_last();
+    app.add_flag("--record-on", options.recordGoesOn)->group("");
     app.add_option(
            "ROOM", room,
            "A packed story, FILE.zentrox, or the file name of a room; the game then begins there, without its "
@@ -76,10 +89,11 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         directory = room.front();
         room.erase(room.begin());
     }
-    Options options;
     options.storyNamed = !directory.empty();
     options.directory = options.storyNamed ? whole(directory) : programDirectory;
-    options.commandLine = joined(room);
+    options.commandLine = roomOf(options.beginning, joined(room));
+    if (!author.empty()) options.author = whole(author);
+    if (!record.empty()) options.record = whole(record);
     if (!saves.empty()) options.saves = whole(saves);
     options.portable = portable;
     for (const std::string& root : roots) options.roots.push_back(whole(root));
@@ -96,6 +110,8 @@ std::vector<std::string> restartCommand(const fs::path& program, const Options& 
     for (const fs::path& root : options.roots) command.insert(command.end(), {"--root", root.string()});
     if (options.saves) command.insert(command.end(), {"--saves", options.saves->string()});
     if (options.portable) command.emplace_back("--portable");
+    if (options.author) command.insert(command.end(), {"--author", options.author->string()});
+    if (options.record) command.insert(command.end(), {"--record", options.record->string(), "--record-on"});
     return command;
 }
 

@@ -6,15 +6,21 @@
 #include <string>
 #include <vector>
 
+#include "main/beginning.h"
+
 namespace zentrox {
 
 struct Options {
-    std::filesystem::path directory;             // where the data directories lie, or a packed story; absolute
-    std::vector<std::filesystem::path> roots;    // what is taken for the CD, in the order given; absolute
-    std::string commandLine;                     // the game's own, UTF-8: the file name of a room, or empty
-    bool storyNamed = false;                     // false: `directory` is the program's
-    std::optional<std::filesystem::path> saves;  // where saved games are to lie; absolute
-    bool portable = false;                       // all that is written stays beside the story
+    std::filesystem::path directory;              // where the data directories lie, or a packed story; absolute
+    std::vector<std::filesystem::path> roots;     // what is taken for the CD, in the order given; absolute
+    std::string commandLine;                      // the game's own, UTF-8: the file name of a room, or empty
+    bool storyNamed = false;                      // false: `directory` is the program's
+    std::optional<std::filesystem::path> saves;   // where saved games are to lie; absolute
+    bool portable = false;                        // all that is written stays beside the story
+    Beginning beginning;                          // beside the room
+    std::optional<std::filesystem::path> record;  // where the play is written down as a walk; absolute
+    std::optional<std::filesystem::path> author;  // the sources of the story; absolute
+    bool recordGoesOn = false;                    // behind what the record holds
 };
 
 // What the words ask for, or the exit status of a call that ends here: 0 after help and version, 2 after a wrong

@@ -1,5 +1,6 @@
 #include "engine/state/felder.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -70,6 +71,13 @@ TextView Getrimmt(TextView text) {
 
 Text Trim(TextView text) {
     return Text(Getrimmt(text));
+}
+
+Text AntwortText(Text antwort) {
+    std::replace_if(
+        antwort.begin(), antwort.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    if (!antwort.empty() && antwort.front() == '$') antwort.erase(0, 2);
+    return Trim(antwort);
 }
 
 double Val(TextView text) {

@@ -19,6 +19,9 @@ Text Trim(TextView text);
 // The same as a part of `text` itself, for the call alone.
 TextView Getrimmt(TextView text);
 
+// What an answer of a choice says, on one line: without its colour mark and the blanks around it.
+Text AntwortText(Text antwort);
+
 // The number at the front of a text, blanks before it skipped; 0 where there is none.
 double Val(TextView text);
 // The number that the whole text is, blanks around it skipped; nothing if it is none.

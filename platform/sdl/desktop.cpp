@@ -78,6 +78,7 @@ Milliseconds Desktop::nextFrame() {
 }
 
 std::uint64_t Desktop::seed() {
+    if (seed_) return *seed_;
     return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 

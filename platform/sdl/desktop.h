@@ -46,6 +46,8 @@ public:
     std::string clipboard() override;
     void setClipboard(const std::string& text) override;
     std::uint64_t seed() override;
+    // The same random numbers each time, in place of others.
+    void setSeed(std::uint64_t seed) { seed_ = seed; }
     bool start(const std::vector<std::string>& command) override;
     void restart() override;
 
@@ -56,6 +58,7 @@ private:
     std::optional<Milliseconds> settle();
 
     std::vector<std::string> restartCommand_;
+    std::optional<std::uint64_t> seed_;
     Clock::time_point begin_ = Clock::now();
     std::optional<Clock::time_point> pausedAt_;
     Milliseconds frameDue_ = 0;

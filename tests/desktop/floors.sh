@@ -13,7 +13,7 @@ forbid() {  # forbid FOLDER PATTERN-OF-INCLUDES
     [ -z "$hits" ] || { printf '%s may not include:\n%s\n' "$1" "$hits"; status=1; }
 }
 
-forbid platform 'engine|media|room|saves|comfort|menu|games|main|tools/'
+forbid platform 'engine|media|room|saves|comfort|menu|games|author|main|tools/'
 forbid platform/values 'platform/(picture|machine|window|codec|sdl|probe|web|platform)'
 forbid platform/picture 'platform/(machine|window|codec|sdl|probe|web|platform)'
 forbid platform/machine 'platform/(window|codec|sdl|probe|web|platform)'
@@ -22,16 +22,17 @@ forbid platform/codec 'platform/(window|sdl|probe|web|platform)'
 forbid platform/sdl 'platform/(probe|web)'
 forbid platform/probe 'platform/(sdl|web)'
 forbid platform/web 'platform/(sdl|probe)'
-forbid engine/state 'engine/(language|files|interpreter)|media|room|saves|comfort|menu|games|main|tools/'
-forbid engine/language 'engine/(files|interpreter)|platform/(machine|window|codec|sdl|probe|web|platform)|media|room|saves|comfort|menu|games|main|tools/'
-forbid engine/files 'engine/interpreter|media|room|saves|comfort|menu|games|main|tools/'
-forbid engine/interpreter 'room|saves|comfort|menu|games|main|tools/'
-forbid media 'engine/(files|interpreter)|room|saves|comfort|menu|games|main|tools/'
-forbid saves 'room|comfort|menu|games|main|tools/'
-forbid comfort 'room|menu|games|main|tools/'
-forbid room 'comfort|menu|games|main|tools/'
-forbid menu 'comfort|games|main|tools/'
-forbid games 'room/|saves|comfort|menu|main|tools/'
+forbid engine/state 'engine/(language|files|interpreter)|media|room|saves|comfort|menu|games|author|main|tools/'
+forbid engine/language 'engine/(files|interpreter)|platform/(machine|window|codec|sdl|probe|web|platform)|media|room|saves|comfort|menu|games|author|main|tools/'
+forbid engine/files 'engine/interpreter|media|room|saves|comfort|menu|games|author|main|tools/'
+forbid engine/interpreter 'room|saves|comfort|menu|games|author|main|tools/'
+forbid media 'engine/(files|interpreter)|room|saves|comfort|menu|games|author|main|tools/'
+forbid saves 'room|comfort|menu|games|author|main|tools/'
+forbid comfort 'room|menu|games|author|main|tools/'
+forbid room 'comfort|menu|games|author|main|tools/'
+forbid menu 'comfort|games|author|main|tools/'
+forbid games 'room/|saves|comfort|menu|author|main|tools/'
+forbid author 'menu|games|main|tools/(probe|prove|web)'
 for game in games/*/; do
     game=$(basename "$game")
     others=$(basename -a games/*/ | grep -vxE "$game|base|sparks" | paste -sd"|")

@@ -5,7 +5,7 @@ set -u
 export LC_ALL=C.UTF-8
 cd "$1"
 german=(engine room saves menu games media)
-english=(platform comfort main tools tests bench fuzz)
+english=(platform comfort author main tools tests bench fuzz)
 status=0
 
 # The identifiers with an umlaut below these folders, each once; texts, characters and comments aside.

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "engine/state/felder.h"
 #include "platform/values/keys.h"
 #include "tools/probe/player.h"
 
@@ -13,7 +14,8 @@ constexpr Milliseconds slideLimit = 10000;  // for the bar to open or close
 constexpr Milliseconds gameLook = 100;      // between two looks whether a game can be decided
 constexpr Milliseconds gameRest = 5000;     // between two attempts to leave a game that has ended
 constexpr Milliseconds gameLimit = 300000;
-constexpr Milliseconds scriptLimit = 60000;  // for a script to say or ask something, or to end
+// For a script to say or ask something, or to end; the credits of a story are long.
+constexpr Milliseconds scriptLimit = 600000;
 
 Button buttonNamed(const std::string& word) {
     if (word == "right") return Button::right;
@@ -26,17 +28,6 @@ int number(const std::string& word) {
     int value = 0;
     std::from_chars(word.data(), word.data() + word.size(), value);
     return value;
-}
-
-// Colour marks and the blanks around them are no part of what an answer says.
-Text plainAnswer(Text answer) {
-    std::replace_if(
-        answer.begin(), answer.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    if (!answer.empty() && answer.front() == '$') answer.erase(0, 2);
-    const auto blank = [](char c) { return c == ' '; };
-    answer.erase(answer.begin(), std::find_if_not(answer.begin(), answer.end(), blank));
-    answer.erase(std::find_if_not(answer.rbegin(), answer.rend(), blank).base(), answer.end());
-    return answer;
 }
 
 }  // namespace
@@ -299,7 +290,7 @@ void Player::chooseByText(const Text& wanted, const std::string& what) {
     std::vector<int> holding;
     for (const Text& option : game_->options()) {
         ++n;
-        const Text answer = plainAnswer(option);
+        const Text answer = AntwortText(option);
         if (equalIgnoringCase(answer, wanted)) return choose(n, what);
         if (upper(answer).find(upper(wanted)) != Text::npos) holding.push_back(n);
     }

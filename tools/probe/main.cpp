@@ -7,8 +7,11 @@
 #include <sstream>
 #include <utility>
 
+#include "author/walkwriter.h"
 #include "comfort/comforts.h"
 #include "comfort/desk.h"
+#include "engine/interpreter/verteiler.h"
+#include "main/beginning.h"
 #include "main/spiel.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/replace_file.h"
@@ -35,7 +38,8 @@ struct Options {
     std::string saves;
     std::vector<std::string> roots;
     std::string arguments;
-    std::uint64_t seed = 1;
+    Beginning beginning;
+    std::string record;
     std::string pictures = ".";
     std::string ran;
     std::string settings;
@@ -51,9 +55,41 @@ std::string readWalk(const std::string& name) {
     return *std::move(walk);
 }
 
+// Who listens to the play, through all its lives.
+class Listeners {
+public:
+    explicit Listeners(const Options& options) : beginner_(options.beginning) {
+        if (options.beginning.hasState()) all_.Dazu(beginner_);
+        if (!options.ran.empty()) all_.Dazu(ran);
+        if (options.record.empty()) return;
+        file_.emplace(options.record, false);
+        file_->line(walkCall(roomOf(options.beginning, options.arguments), options.beginning));
+        all_.Dazu(writer_.emplace(*file_));
+    }
+    // A life begins; both null: it is over.
+    void watch(Platform* platform, Zustand* state) {
+        beginner_.watch(platform, state);
+        if (state != nullptr) ran.watch(state);
+        if (writer_) writer_->watch(platform, state);
+    }
+    bool sees(const Input& input) {
+        if (writer_) writer_->sees(input);
+        return false;
+    }
+    Verteiler& all() { return all_; }
+
+    probe::Ran ran;
+
+private:
+    Verteiler all_;
+    Beginner beginner_;
+    std::optional<author::RecordFile> file_;
+    std::optional<author::WalkWriter> writer_;
+};
+
 // One life of the program, from its first window to its end; gives its exit status.
 int live(const Options& options, const Files& files, probe::ProbeBackend& backend, probe::Player& player,
-         probe::Ran& ran, const Text& arguments) {
+         Listeners& listeners, const Text& arguments) {
     backend.beginAnew();
     const auto fonts = makeFonts();
     Recorder recorder(
@@ -65,18 +101,22 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     Zustand zustand;
     probe::Story story(platform, zustand, recorder);
     player.attach(&platform, &story);
-    ran.watch(&zustand);
+    listeners.watch(&platform, &zustand);
     probe::ProbeComfort machine(backend, recorder);
     std::optional<Comforts> comforts;
     std::optional<Desk> desk;
     Verteiler observers;
-    if (!options.ran.empty()) observers.Dazu(ran);
+    observers.Dazu(listeners.all());
+    const auto sees = [&](const Input& input) { return listeners.sees(input); };
+    platform.queue.firstLook = sees;
     if (!options.settings.empty()) {
         comforts.emplace(platform, zustand, machine, options.settings);
         desk.emplace(*comforts);
+        comforts->addLook(sees);
         observers.Dazu(comforts->observers());
     }
     const int status = Spielen(platform, zustand, arguments, {.observer = &observers});
+    listeners.watch(nullptr, nullptr);
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);
     // Data that is missing is a fault of the story, though the game goes on without it.
@@ -132,17 +172,18 @@ int play(const Options& options) {
     fs::create_directories(options.pictures);
     // The game's paths are relative to the program's directory; the walk's pictures are not.
     const fs::path pictures = fs::absolute(options.pictures);
-    probe::ProbeBackend backend(options.seed, options.quiet ? nullptr : &std::cout);
+    probe::ProbeBackend backend(options.beginning.seed.value_or(1), options.quiet ? nullptr : &std::cout);
     probe::Player player(std::move(walk), backend, pictures, std::cout, std::chrono::seconds(options.timeout));
     backend.setPerson(&player);
-    probe::Ran ran;
     const Scratch scratch;
     const Files files = filesOf(options, scratch);
+    checkBeginning(options.beginning, files);
+    Listeners listeners(options);
     int result = 0;
     try {
-        Text arguments = fromUtf8(options.arguments);
+        Text arguments = fromUtf8(roomOf(options.beginning, options.arguments));
         do {
-            const int status = live(options, files, backend, player, ran, std::exchange(arguments, {}));
+            const int status = live(options, files, backend, player, listeners, std::exchange(arguments, {}));
             needNoFailure(status, backend, player);
         } while (backend.restartWanted() && !player.over());
         backend.trace("end");
@@ -152,7 +193,7 @@ int play(const Options& options) {
         std::cerr << failure.message << '\n';
         result = failed;
     }
-    tellWhatRan(options, ran);
+    tellWhatRan(options, listeners.ran);
     return result;
 }
 
@@ -164,7 +205,9 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     app.add_option("--args", options.arguments, "The game's command line, a room file name");
-    app.add_option("--seed", options.seed, "Seed of the random numbers");
+    addBeginning(app, options.beginning);
+    app.add_option("--record", options.record,
+                   "Writes down what is played as a walk, in as few words as there are");
     app.add_option("--out", options.pictures, "Where shot writes");
     app.add_option("--ran", options.ran, "Writes which instructions have run, for zentrox-story coverage");
     app.add_option("--settings", options.settings, "Plays with the player's comforts, by this file of settings")

@@ -199,20 +199,11 @@ std::string Story::whyNoItem(TextView name) {
     return "that it is not carried" + nearest(name, names);
 }
 
-std::vector<Text> Story::itemFiles() const {
-    auto files = platform_.files.list(z_.PfadItems);
-    std::erase_if(files, [](TextView file) {
-        constexpr TextView script = ".skp";
-        return file.size() > script.size() && equalIgnoringCase(file.substr(file.size() - script.size()), script);
-    });
-    return files;
-}
-
 std::string Story::whyNoSuchItem(TextView name) {
     if (room() == nullptr) return "no room on top";
     if (z_.InventarLetzter + 1 >= InventarPlätze) return "that no more can be carried";
     std::vector<Text> names;
-    for (const Text& file : itemFiles()) names.push_back(baseName(file));
+    for (const Text& file : itemFiles(platform_.files, z_.PfadItems)) names.push_back(baseName(file));
     return "no picture of that name" + nearest(name, names);
 }
 
@@ -233,14 +224,11 @@ bool Story::setFlag(TextView name) {
 // By its base name, as walks know items; the file may have any extension.
 bool Story::takeItem(TextView item) {
     if (room() == nullptr || z_.InventarLetzter + 1 >= InventarPlätze) return false;
-    item = itemName(item);
-    for (const Text& file : itemFiles()) {
-        if (!equalIgnoringCase(baseName(file), item)) continue;
-        z_.Inventar[static_cast<std::size_t>(++z_.InventarLetzter)] = z_.PfadItems + file;
-        room()->GegenständeLaden();
-        return true;
-    }
-    return false;
+    const auto file = itemNames_.file(platform_.files, z_.PfadItems, item);
+    if (!file) return false;
+    z_.Inventar[static_cast<std::size_t>(++z_.InventarLetzter)] = z_.PfadItems + *file;
+    room()->GegenständeLaden();
+    return true;
 }
 
 bool Story::goTo(TextView file) {

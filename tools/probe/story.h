@@ -48,8 +48,6 @@ private:
     // The row of the picture above which nothing is covered by the bar.
     int freeHeight() const;
     int lowestAt(int column, int row) const;
-    // The item pictures that the story has.
-    std::vector<Text> itemFiles() const;
     // The room window if it is on top, else null.
     Raumfenster* room() const;
 

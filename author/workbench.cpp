@@ -1,0 +1,175 @@
+#include "author/workbench.h"
+
+#include <algorithm>
+#include <chrono>
+#include <iostream>
+#include <utility>
+
+#include "engine/interpreter/raumfenster.h"
+#include "engine/interpreter/sprung.h"
+#include "engine/language/directories.h"
+#include "engine/state/felder.h"
+#include "engine/state/mangel.h"
+#include "platform/machine/sound.h"
+#include "platform/values/error.h"
+
+namespace zentrox::author {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Between two looks at the disk. What has changed counts when nothing more came between two of them, since editors
+// write in several steps.
+constexpr Milliseconds lookEvery = 40;
+constexpr std::size_t mostFindings = 8;
+constexpr int margin = 6;  // pixels
+constexpr Colour paper{40, 0, 0};
+constexpr Colour ink{255, 220, 120};
+
+bool isCompiled(const fs::path& file) {
+    const std::string extension = lower(file.extension().native());
+    return extension == ".lsd" || extension == ".skp" || file.filename() == Gegenstandsnamen;
+}
+
+bool names(const Skript& script, const std::set<Text>& media) {
+    return std::any_of(script.Argument.begin(), script.Argument.end(), [&](const Text& argument) {
+        const Text upperCase = upper(argument);
+        return std::any_of(media.begin(), media.end(),
+                           [&](const Text& name) { return upperCase.find(name) != Text::npos; });
+    });
+}
+
+// Cut where a line is full, at a blank if there is one.
+std::vector<Text> wrapped(Text line, int width, const Font& font) {
+    std::vector<Text> rows;
+    while (font.width(line) > width && line.size() > 1) {
+        std::size_t fits = line.size();
+        while (fits > 1 && font.width(line.substr(0, fits)) > width) --fits;
+        const std::size_t blank = line.rfind(' ', fits);
+        const std::size_t cut = blank != Text::npos && blank > 0 ? blank : fits;
+        rows.push_back(line.substr(0, cut));
+        line.erase(0, cut);
+    }
+    rows.push_back(std::move(line));
+    return rows;
+}
+
+}  // namespace
+
+Workbench::Workbench(Comforts& comforts, Compiler& compiler, WalkWriter* record)
+    : comforts_(comforts),
+      compiler_(compiler),
+      record_(record),
+      timer_(comforts.platform().queue, lookEvery, true, [this] { look(); }) {
+    comforts_.observers().Dazu(*this);
+    comforts_.addOverlay([this](Bitmap& picture, const Rect& base) { draw(picture, base); });
+    compile();
+    const Files& files = comforts_.platform().files;
+    for (const Datenverzeichnis& directory : Datenverzeichnisse)
+        if (const fs::path path = files.systemPath(directory.name); watch_.add(path)) watched_.insert(path);
+}
+
+void Workbench::watchSources() {
+    for (const fs::path& directory : compiler_.directories())
+        if (!watched_.contains(directory) && watch_.add(directory)) watched_.insert(directory);
+}
+
+void Workbench::look() {
+    const auto news = watch_.take();
+    changed_.insert(news.begin(), news.end());
+    if (!news.empty() || changed_.empty()) return;
+    take(sorted(std::exchange(changed_, {})));
+}
+
+Workbench::Changes Workbench::sorted(const std::set<fs::path>& files) const {
+    Changes changes;
+    for (const fs::path& file : files) {
+        const bool ofSources = compiler_.directories().contains(file.parent_path()) || watched_.contains(file);
+        if (ofSources && (compiler_.isSource(file) || watched_.contains(file)))
+            changes.sources = true;
+        else if (!isCompiled(file))
+            changes.media.insert(upper(fromUtf8(file.filename().string())));
+    }
+    return changes;
+}
+
+void Workbench::take(const Changes& changes) {
+    const bool otherRoom = changes.sources && compile();
+    playSongAnew(changes.media);
+    comforts_.refresh();
+    if (otherRoom || roomNames(changes.media)) enter(comforts_.zustand().RaumDatei);
+}
+
+bool Workbench::compile() {
+    const auto begin = std::chrono::steady_clock::now();
+    Compiler::Result result = compiler_.compile();
+    const auto end = std::chrono::steady_clock::now();
+    watchSources();
+    const bool worked = result.findings.empty();
+    findings_ = std::move(result.findings);
+    for (const std::string& line : findings_) std::cerr << line << '\n';
+    const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(end - begin).count();
+    if (worked) {
+        const Text told = Text("Übersetzt in "_t) + std::to_string(took) + " ms";
+        comforts_.notice(told);
+        std::cerr << toUtf8(told) << std::endl;
+    }
+    const Text room = comforts_.zustand().RaumDatei;
+    return std::any_of(result.changed.begin(), result.changed.end(), [&](const fs::path& file) {
+        return equalIgnoringCase(fromUtf8(file.filename().string()), room);
+    });
+}
+
+bool Workbench::roomNames(const std::set<Text>& media) const {
+    const Raum& room = comforts_.zustand().AktuellerRaum;
+    if (media.empty()) return false;
+    if (media.contains(upper(Dateiname(room.Bild)))) return true;
+    if (names(room.Startskript, media) || names(room.CountDownSkript, media)) return true;
+    return std::any_of(room.Objekte.begin(), room.Objekte.end(), [&](const RaumObjekt& object) {
+        return media.contains(upper(object.Zeiger)) ||
+               std::any_of(object.Aktion.begin(), object.Aktion.end(),
+                           [&](const Skript& script) { return names(script, media); });
+    });
+}
+
+void Workbench::playSongAnew(const std::set<Text>& media) {
+    const Text& song = comforts_.zustand().AktuellerSong;
+    if (song.empty() || !media.contains(upper(Dateiname(song)))) return;
+    SoundDevice& sound = comforts_.platform().sound;
+    sound.stopSong();
+    if (comforts_.platform().files.exists(song)) sound.playSong(song);
+}
+
+// A room that can't be read leaves the author where they are.
+void Workbench::enter(const Text& room) {
+    if (room_ == nullptr || room.empty()) return;
+    throw Sprung{[this, room] {
+        try {
+            room_->GegenständeLaden();
+            room_->Lade(comforts_.zustand().PfadRooms + room);
+        } catch (const Ausweglos&) {
+            throw;
+        } catch (const DataError& error) {
+            findings_ = {toUtf8(error.message())};
+            comforts_.refresh();
+        }
+    }};
+}
+
+void Workbench::draw(Bitmap& picture, const Rect& base) const {
+    if (findings_.empty()) return;
+    const Font& font = comforts_.platform().fonts.get({.points = 9});
+    std::vector<Text> rows;
+    for (std::size_t i = 0; i < std::min(findings_.size(), mostFindings); ++i)
+        for (Text& row : wrapped(fromUtf8(findings_[i]), base.w - 2 * margin, font)) rows.push_back(std::move(row));
+    const int height = static_cast<int>(rows.size()) * font.lineHeight() + 2 * margin;
+    picture.fill({base.x, base.y, base.w, height}, paper);
+    Point at = base.at() + Point{margin, margin};
+    for (const Text& row : rows) {
+        font.draw(picture, at, row, ink);
+        at.y += font.lineHeight();
+    }
+}
+
+}  // namespace zentrox::author
