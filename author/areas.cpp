@@ -188,7 +188,7 @@ void Areas::draw(Bitmap& picture, const Rect& base) const {
     for (int i = 0; i < count; ++i) drawName(picture, at, i);
     if (!drawing_) return;
     drawShape(picture, at);
-    drawHelp(picture, {at, roomSize});
+    if (bench_.findings().empty()) drawHelp(picture, {at, roomSize});
 }
 
 // Only the cells in which it takes the click are filled; the others, which lie below another object, are outlined.
@@ -258,8 +258,8 @@ void Areas::drawHelp(Bitmap& picture, const Rect& area) const {
         Text(
             "Ziehen: Rechteck. Klicken: Vieleck, Eingabe schließt es. Umschalt: dazu. Rechts, Tab: anderes Objekt. Esc: Ende."_t)};
     const int height = 2 * font.lineHeight() + 6;
-    picture.fill({area.x, area.bottom() - height, area.w, height}, labelGround);
-    Point at{area.x + 6, area.bottom() - height + 3};
+    picture.fill({area.x, area.y, area.w, height}, labelGround);
+    Point at{area.x + 6, area.y + 3};
     for (const Text& row : rows) {
         font.draw(picture, at, row, line);
         at.y += font.lineHeight();

@@ -21,6 +21,8 @@ public:
 
     // Gives up what runs and enters a room, by the name of its file. Does not return where there is a room window.
     void enter(const Text& room);
+    // What is wrong with the sources as they are now, line by line; it stands over the picture.
+    const std::vector<std::string>& findings() const { return findings_; }
     const Compiler& compiler() const { return compiler_; }
     Comforts& comforts() { return comforts_; }
     WalkWriter* record() const { return record_; }
