@@ -250,6 +250,14 @@ async function demoRound(browser) {
             const wide = await page.evaluate(`document.documentElement.scrollWidth - document.documentElement.clientWidth`);
             check(name + " has room for " + view, wide <= 0, wide);
         }
+        if (page.phone) {
+            await page.until(`document.querySelector(".areas") !== null`);
+            await page.tap(...await middle(page, `[data-shape="Rechteck"]`));
+            const [x, y] = await middle(page, ".areas");
+            await page.slide([x - 60, y - 40], [x + 50, y + 60]);
+            const drawn = await page.evaluate(text(".drawnLine"));
+            check(name + " takes a drawing by finger", /^Rechteck \d+ \d+ \d+ \d+$/.test(drawn), drawn);
+        }
         check(name + " does not complain", page.complaints.length === 0, page.complaints);
         await page.shot(path.join(work, name.replace(/ /g, "-") + ".png"));
         await page.close();

@@ -96,6 +96,16 @@ for (const finding of findings) {
     if (!findingsAt.has(key)) findingsAt.set(key, []);
     findingsAt.get(key).push(finding);
 }
+// Those in all sections that a condition picks.
+function findingsIn(picks) {
+    return findings.filter((finding) => {
+        const section = sectionAt(finding.f, finding.l);
+        return section && picks(section);
+    });
+}
+function badge(found) {
+    return found.length ? h("span", { class: "badge " + (found.some((one) => one.s === "error") ? "error" : "warning"), title: count(found.length, "Befund", "Befunde") }, String(found.length)) : null;
+}
 // True, false, or nothing where there is nothing to run.
 function ran(file, line) {
     const lines = story.coverage && story.coverage[file];

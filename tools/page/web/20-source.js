@@ -121,11 +121,10 @@ function findingRow(finding) {
 // A script, folded: what heads it, and its source.
 function script(section, open) {
     const texts = linesOf[section.f].slice(section.l, section.e).map((line) => (/"([^"]+)"/.exec(line) || [])[1]).filter(Boolean);
-    const found = findings.filter((finding) => finding.f === section.f && finding.l >= section.l && finding.l <= section.e);
     const details = h("details", { class: "script", "data-section": section.index, open },
         h("summary", {}, h("span", { class: "word" }, section.w),
             h("span", { class: "gist" }, texts.length ? texts[0].replace(/^\$[0-9A-Fa-f]/, "") : section.e > section.l ? count(section.e - section.l, "Zeile", "Zeilen") : "leer"),
-            found.length ? h("span", { class: "badge " + (found.some((f) => f.s === "error") ? "error" : "warning") }, String(found.length)) : null,
+            badge(findingsIn((one) => one === section)),
             meter(coverageOf(section.f, section.l, section.e))));
     // Only what is looked at is built.
     details.addEventListener("toggle", () => { if (details.open) details.fillIn(); });

@@ -78,8 +78,10 @@ function mapBox(box) {
     const left = box.x - box.w / 2, top = box.y - box.h / 2;
     if (box.k !== "room") {
         const words = { ending: box.n === "Ende" ? "" : "Ende: ", bag: "", missing: "fehlt: " };
-        return s("g", { class: "box " + box.k }, s("rect", { x: left, y: top, width: box.w, height: box.h, rx: box.h / 2 }),
+        const frame = box.k === "ending" && story.proof ? s("a", { class: "box ending", href: address("beweis") }) : s("g", { class: "box " + box.k });
+        frame.append(s("rect", { x: left, y: top, width: box.w, height: box.h, rx: box.h / 2 }),
             s("text", { x: box.x, y: box.y + 5 }, words[box.k] + box.n));
+        return frame;
     }
     const room = story.rooms[box.r];
     const link = s("a", { class: "box room", href: roomAddress(room) },
@@ -87,6 +89,10 @@ function mapBox(box) {
     if (picture(room.pic)) link.append(s("image", { href: picture(room.pic), x: left + 4, y: top + 4, width: box.w - 8, height: (box.w - 8) * 0.75, preserveAspectRatio: "xMidYMid slice" }));
     else link.append(s("rect", { class: "black", x: left + 4, y: top + 4, width: box.w - 8, height: (box.w - 8) * 0.75 }));
     link.append(s("text", { x: box.x, y: top + box.h - 8 }, room.n));
+    const { ran, all } = roomCoverage(box.r);
+    if (all) link.append(s("title", {}, ran + " von " + all + " Zeilen gelaufen"), s("rect", { class: "never", x: left + 4, y: top + 126, width: box.w - 8, height: 4 }), s("rect", { class: "ran", x: left + 4, y: top + 126, width: (box.w - 8) * ran / all, height: 4 }));
+    const found = findingsIn((section) => section.r === box.r);
+    if (found.length) link.append(s("circle", { class: found.some((one) => one.s === "error") ? "error" : "warning", cx: left + box.w - 16, cy: top + 16, r: 10 }), s("text", { class: "found", x: left + box.w - 16, y: top + 20 }, String(found.length)));
     if (room.file.toLowerCase() === "start.lsd") link.append(s("text", { class: "begin", x: left + 12, y: top + 20 }, "Anfang"));
     return link;
 }
@@ -133,7 +139,7 @@ views.karte = () => {
             count(story.texts.length, "Text", "Texte")].join(" · ")),
         map.placed ? viewOf(mapDrawing(map), 0.5, map.boxes.find((box) => box.k === "room" && /^start\.lsd$/i.test(story.rooms[box.r].file))) : h("div", { class: "cards" }, story.rooms.map((room) =>
             h("a", { class: "card", href: roomAddress(room) }, image(room.pic, "") || h("span", { class: "black" }), h("b", {}, room.n)))),
-        list];
+        map.placed ? h("p", { class: "hint" }, "Gestrichelte Wege brauchen, was daran steht; ein Klick auf einen Weg sagt es genau.") : null, list];
 };
 
 // --- talks

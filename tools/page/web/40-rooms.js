@@ -124,7 +124,7 @@ function objectEntry(room, index, open, light) {
     const whole = story.sections.find((section) => section.r === roomIndex && section.o === index && section.w === "Objekt");
     const end = scripts.length ? scripts[0].l - 1 : whole ? whole.e : object.l;
     return h("details", { class: "object", "data-object": index, open, onpointerenter: () => light(index), onpointerleave: () => light(-1) },
-        h("summary", {}, h("span", { class: "objectName" }, object.n || "(ohne Namen)"),
+        h("summary", {}, h("span", { class: "objectName" }, object.n || "(ohne Namen)"), badge(findingsIn((section) => section.r === roomIndex && section.o === index)),
             h("span", { class: "tags" }, object.active ? null : h("span", { class: "tag" }, "inaktiv"), object.in ? null : h("span", { class: "tag" }, "ohne Fläche"),
                 scripts.map((section) => h("span", { class: "tag quiet" }, section.w)))),
         scripts.map((section) => script(section)),

@@ -42,11 +42,17 @@ const itemScripts = (key) => story.sections.filter((section) => section.i === ke
 const tally = (entry, ...kinds) => entry.uses.filter((use) => kinds.includes(use[0])).length;
 const made = (flag) => /^(EINMAL|GENOMMEN) /.test(flag.n);
 
+// The rooms that a way leads to only if the flag is set.
+function opened(flag) {
+    const needed = (need) => need.any && !need.not && need.any.every((all) => all.some((term) => term.k === "flag" && term.n === flag && !term.not));
+    return [...new Set(story.ways.filter((way) => way.to >= 0 && way.needs.some(needed)).map((way) => story.rooms[way.to]))];
+}
+
 function flagTable(flags) {
-    return h("div", { class: "scroll" }, h("table", { class: "tally" }, h("thead", {}, h("tr", {}, ["Merker", "gesetzt", "gelöscht", "gefragt"].map((text) => h("th", {}, text)))),
+    return h("div", { class: "scroll" }, h("table", { class: "tally" }, h("thead", {}, h("tr", {}, ["Merker", "gesetzt", "gelöscht", "gefragt", "öffnet"].map((text) => h("th", {}, text)))),
         h("tbody", {}, flags.map((flag) => {
             const set = tally(flag, "sets", "plays"), tested = tally(flag, "tests");
-            return h("tr", {}, h("td", {}, flagLink(flag.n)), h("td", { class: set ? null : "zero" }, String(set)), h("td", {}, String(tally(flag, "clears") || "")), h("td", { class: tested ? null : "zero" }, String(tested)));
+            return h("tr", {}, h("td", {}, flagLink(flag.n)), h("td", { class: set ? null : "zero" }, String(set)), h("td", {}, String(tally(flag, "clears") || "")), h("td", { class: tested ? null : "zero" }, String(tested)), h("td", { class: "opens" }, opened(flag.n).map((room, i) => [i ? ", " : "", h("a", { href: roomAddress(room) }, room.n)])));
         }))));
 }
 views.merker = () => {
