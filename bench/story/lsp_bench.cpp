@@ -1,5 +1,5 @@
-// The language server: what an editor waits for after a key, with the demo and with a story of 100 rooms. Each answer
-// comes after a change, so that the whole story is read anew.
+// The language server: what an editor waits for after a key, with the demo and with a story of 100 rooms. Each
+// answer comes after a change, so that the whole story is read anew.
 #include <benchmark/benchmark.h>
 
 #include <fstream>

@@ -2,6 +2,7 @@
 #include "tools/page/map.h"
 #include "tools/page/pictures.h"
 #include "tools/page/proof.h"
+#include "tools/page/words.h"
 #include "tools/story/build.h"
 #include "tools/story/inputs.h"
 

@@ -23,7 +23,8 @@ Strings spellings(TextView word) {
         const Text other = story::normalised(TextView(&c, 1));
         const std::size_t count = all.size();
         if (other.size() > 1)
-            for (std::size_t i = 0; i < count; ++i) all.push_back(all[i] + (c == lower(c) ? other : toUtf8(upper(other))));
+            for (std::size_t i = 0; i < count; ++i)
+                all.push_back(all[i] + (c == lower(c) ? other : toUtf8(upper(other))));
         for (std::size_t i = 0; i < count; ++i) all[i] += own;
     }
     return all;
@@ -83,11 +84,13 @@ syntax sync minlines=1
 syntax match zentroxNumber /\%(^\|[ \t,]\)\@1<=-\?\d\+\%(\.\d\+\)\?\ze\%([ \t,]\|$\)/
 syntax match zentroxSpeaker /^[ \t]*\zs[^ \t",{/][^",{]\{-}:\ze\%([ \t]*"\|[ \t]*$\)/
 )";
-    out += "syntax match zentroxInner /[ \\t,]\\@1<=\\%(" + joined(innerWords(), "\\|") + "\\)\\ze\\%([ \\t,]\\|$\\)/\n";
+    out += "syntax match zentroxInner /[ \\t,]\\@1<=\\%(" + joined(innerWords(), "\\|") +
+           "\\)\\ze\\%([ \\t,]\\|$\\)/\n";
     for (const Group& group : groups)
         out += std::string("syntax match zentrox") + group.name + " /^[ \\t,]*\\zs\\%(" +
                joined(wordsOf(group.kind), "\\|") + "\\)\\ze\\%([ \\t,\"{]\\|$\\)/\n";
-    out += R"(syntax match zentroxDetail /\%(^[ \t]*\%(Fläche\|Flaeche\)[ \t]\+\)\@<=\%(Rechteck\|Vieleck\|Maskenbild\)\ze[ \t,]/
+    out +=
+        R"(syntax match zentroxDetail /\%(^[ \t]*\%(Fläche\|Flaeche\)[ \t]\+\)\@<=\%(Rechteck\|Vieleck\|Maskenbild\)\ze[ \t,]/
 syntax match zentroxCharacter /{\x\x}/
 syntax match zentroxUnclosed /"[^"]*$/
 syntax match zentroxText /"[^"]*"/ contains=zentroxColour,zentroxNoPlace
@@ -129,8 +132,9 @@ std::string textMateGrammar() {
     patterns.push_back({{"match", "\"([^\"]*)\""},
                         {"name", scope("string.quoted.double")},
                         {"captures",
-                         {{"1", {{"patterns", Json::array({rule("(?<=\")\\$[0-9A-Fa-f]", "constant.other.colour"),
-                                                           rule("#", "invalid.illegal")})}}}}}});
+                         {{"1",
+                           {{"patterns", Json::array({rule("(?<=\")\\$[0-9A-Fa-f]", "constant.other.colour"),
+                                                      rule("#", "invalid.illegal")})}}}}}});
     patterns.push_back(rule("\"[^\"]*$", "invalid.illegal.unclosed"));
     patterns.push_back(rule("\\{[0-9A-Fa-f]{2}\\}", "constant.character.escape"));
     for (const Group& group : groups)
@@ -139,7 +143,8 @@ std::string textMateGrammar() {
              {"captures", {{"1", {{"name", scope(group.textMate)}}}}}});
     patterns.push_back(rule("(?i)(?<=\\s)(?:Rechteck|Vieleck|Maskenbild)(?=[\\s,]+[-0-9\"])", "storage.type"));
     patterns.push_back(rule("^[ \\t]*[^\\s\",{/][^\",{]*?:(?=\\s*\"|\\s*$)", "entity.name.type.person"));
-    patterns.push_back(rule("(?i)(?<=[\\s,])(?:" + joined(innerWords(), "|") + ")(?=[\\s,]|$)", "keyword.operator.word"));
+    patterns.push_back(
+        rule("(?i)(?<=[\\s,])(?:" + joined(innerWords(), "|") + ")(?=[\\s,]|$)", "keyword.operator.word"));
     patterns.push_back(rule("(?<=[\\s,])-?[0-9]+(?:\\.[0-9]+)?(?=[\\s,]|$)", "constant.numeric"));
     const Json grammar{{"information_for_contributors", Json::array({"Made by `zentrox-story grammar vscode`."})},
                        {"name", "Zentrox-Geschichte"},
@@ -174,9 +179,10 @@ std::string kateSyntax() {
       <context name="Line" attribute="Normal" lineEndContext="#stay">
 )xml";
     for (const Group& group : groups)
-        out += std::string("        <keyword attribute=\"") + group.name + "\" context=\"Arguments\" String=\"" + group.name +
-               "\" firstNonSpace=\"true\"/>\n";
-    out += R"xml(        <RegExpr attribute="Speaker" context="Arguments" String="[^\s&quot;,{/][^&quot;,{]*:(?=\s*&quot;|\s*$)" firstNonSpace="true"/>
+        out += std::string("        <keyword attribute=\"") + group.name + "\" context=\"Arguments\" String=\"" +
+               group.name + "\" firstNonSpace=\"true\"/>\n";
+    out +=
+        R"xml(        <RegExpr attribute="Speaker" context="Arguments" String="[^\s&quot;,{/][^&quot;,{]*:(?=\s*&quot;|\s*$)" firstNonSpace="true"/>
         <IncludeRules context="Anywhere"/>
       </context>
       <context name="Arguments" attribute="Normal" lineEndContext="#pop">

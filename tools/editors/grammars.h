@@ -1,4 +1,5 @@
-// The language of stories as editors colour it, made from the table of its words. What comes out lies in `editors/`.
+// The language of stories as editors colour it, made from the table of its words. What comes out lies in
+// `editors/`.
 #pragma once
 
 #include <string>

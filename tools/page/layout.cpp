@@ -129,21 +129,6 @@ private:
 
 }  // namespace
 
-double widthOf(std::string_view utf8) {
-    constexpr double narrow = 4.2, usual = 7.6, wide = 9.4, widest = 12.4;
-    double width = 0;
-    for (const char c : utf8) {
-        if ((c & 0xC0) == 0x80) continue;
-        if (std::string_view("iljIft.,:;'|! ()").find(c) != std::string_view::npos)
-            width += narrow;
-        else if (c == 'm' || c == 'w' || c == 'M' || c == 'W')
-            width += widest;
-        else
-            width += (c >= 'A' && c <= 'Z') || (c & 0x80) != 0 ? wide : usual;
-    }
-    return width;
-}
-
 bool place(const std::vector<Drawing*>& drawings) try {
     const ScratchDirectory scratch;
     const auto fileOf = [&](std::size_t i) { return (scratch.path() / std::to_string(i)).string(); };

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace zentrox::page {
@@ -32,10 +31,6 @@ struct Drawing {
     std::vector<Line> lines;
     bool placed = false;
 };
-
-// About how wide a text is in the page's letters of 12.5 pixels; rather too much than too little, as each machine
-// has its own.
-double widthOf(std::string_view utf8);
 
 // All at once, as starting Graphviz takes longer than its work. False if it is not there or fails; nothing is
 // placed then.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "tools/page/talks.h"
+#include "tools/page/words.h"
 
 namespace zentrox::page {
 
@@ -18,28 +18,6 @@ constexpr double wordWidth = 132;
 constexpr double wordHeight = 40;
 constexpr double lineHeight = 15;
 constexpr double margin = 8;
-
-std::size_t lengthOf(const std::string& utf8) {
-    return static_cast<std::size_t>(
-        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
-std::string shortened(std::string utf8) {
-    if (lengthOf(utf8) <= longestLabel) return utf8;
-    while (lengthOf(utf8) >= longestLabel) {
-        while ((utf8.back() & 0xC0) == 0x80) utf8.pop_back();
-        utf8.pop_back();
-    }
-    return utf8 + "…";
-}
-
-std::string inWords(const Need& need) {
-    if (!need.answer.empty() || need.when.empty()) return "„" + toUtf8(need.answer) + "“";
-    const bool one = need.when.size() == 1 && need.when[0].size() == 1;
-    if (!need.negated) return page::inWords(need.when);
-    if (!one) return "nicht (" + page::inWords(need.when) + ")";
-    return (need.when[0][0].negated ? "" : "nicht ") + toUtf8(need.when[0][0].name.value);
-}
 
 class MapMaker {
 public:
@@ -91,7 +69,7 @@ private:
                 line.labels.back() = "…";
                 break;
             }
-            line.labels.push_back(shortened(inWords(need)));
+            line.labels.push_back(shortened(inWords(need), longestLabel));
         }
     }
 

@@ -4,7 +4,7 @@
 
 #include "engine/language/opcodes.h"
 #include "engine/state/felder.h"
-#include "tools/page/map.h"
+#include "tools/page/drawings.h"
 #include "tools/page/pictures.h"
 #include "tools/story/blocks.h"
 #include "tools/story/lines.h"
@@ -29,44 +29,6 @@ const char* wordOf(UseKind kind) {
         case UseKind::carries: return "carries";
     }
     return "";
-}
-
-const char* wordOf(RoomMap::Box::Kind kind) {
-    switch (kind) {
-        case RoomMap::Box::Kind::room: return "room";
-        case RoomMap::Box::Kind::ending: return "ending";
-        case RoomMap::Box::Kind::bag: return "bag";
-        case RoomMap::Box::Kind::missing: return "missing";
-    }
-    return "";
-}
-
-const char* wordOf(TalkBox::Kind kind) {
-    switch (kind) {
-        case TalkBox::Kind::says: return "says";
-        case TalkBox::Kind::tests: return "tests";
-        case TalkBox::Kind::asks: return "asks";
-        case TalkBox::Kind::answer: return "answer";
-        case TalkBox::Kind::leaves: return "leaves";
-    }
-    return "";
-}
-
-const char* wordOf(TalkBox::Line::Kind kind) {
-    using Kind = TalkBox::Line::Kind;
-    switch (kind) {
-        case Kind::speech: return "speech";
-        case Kind::text: return "text";
-        case Kind::question: return "question";
-        case Kind::answer: return "answer";
-        case Kind::command: return "command";
-        case Kind::condition: return "condition";
-    }
-    return "";
-}
-
-Json number(double value) {
-    return static_cast<int>(value + 0.5);
 }
 
 // As an address has it: each part of the path with what has a meaning there escaped.
@@ -116,8 +78,9 @@ public:
         model["people"] = people();
         model["flags"] = flags();
         model["ways"] = ways();
-        model["map"] = map();
-        model["talks"] = talks();
+        model["map"] = asJson(map_);
+        model["talks"] = Json::array();
+        for (const Talk& talk : talks_) model["talks"].push_back(asJson(talk));
         model["texts"] = texts();
         model["findings"] = findings();
         if (additions_.coverage != nullptr) model["coverage"] = coverage();
@@ -259,7 +222,7 @@ private:
         return list;
     }
 
-    // --- ways, map, talks
+    // --- ways
 
     Json term(const story::Term& term) const {
         const bool flag = term.kind == story::Term::Kind::flag;
@@ -293,70 +256,6 @@ private:
             list.push_back(std::move(one));
         }
         return list;
-    }
-
-    static Json drawn(const Drawing& drawing) {
-        return {{"placed", drawing.placed}, {"w", number(drawing.width)}, {"h", number(drawing.height)}};
-    }
-    static void put(Json& to, const Drawing::Box& box) {
-        to["x"] = number(box.x);
-        to["y"] = number(box.y);
-        to["w"] = number(box.width);
-        to["h"] = number(box.height);
-    }
-    static void put(Json& to, const Drawing::Line& line) {
-        to["d"] = line.path;
-        to["x"] = number(line.labelX);
-        to["y"] = number(line.labelY);
-        to["w"] = number(line.labelWidth);
-    }
-
-    Json map() const {
-        Json out = drawn(map_.drawing);
-        out["boxes"] = Json::array();
-        out["lines"] = Json::array();
-        for (std::size_t i = 0; i < map_.boxes.size(); ++i) {
-            Json one{{"k", wordOf(map_.boxes[i].kind)}, {"r", map_.boxes[i].room}, {"n", map_.boxes[i].name}};
-            put(one, map_.drawing.boxes[i]);
-            out["boxes"].push_back(std::move(one));
-        }
-        for (std::size_t i = 0; i < map_.lines.size(); ++i) {
-            const RoomMap::Line& line = map_.lines[i];
-            Json one{
-                {"a", line.from}, {"b", line.to}, {"ways", line.ways}, {"both", line.both}, {"t", line.labels}};
-            put(one, map_.drawing.lines[i]);
-            out["lines"].push_back(std::move(one));
-        }
-        return out;
-    }
-
-    Json talks() const {
-        Json list = Json::array();
-        for (const Talk& talk : talks_) {
-            Json out = drawn(talk.drawing);
-            out["s"] = talk.section;
-            out["boxes"] = Json::array();
-            out["lines"] = Json::array();
-            for (std::size_t i = 0; i < talk.boxes.size(); ++i) out["boxes"].push_back(box(talk, i));
-            for (std::size_t i = 0; i < talk.lines.size(); ++i) {
-                const TalkLine& line = talk.lines[i];
-                Json one{{"a", line.from}, {"b", line.to}, {"t", line.label}, {"back", line.back}};
-                put(one, talk.drawing.lines[i]);
-                out["lines"].push_back(std::move(one));
-            }
-            list.push_back(std::move(out));
-        }
-        return list;
-    }
-
-    static Json box(const Talk& talk, std::size_t i) {
-        Json lines = Json::array();
-        for (const TalkBox::Line& line : talk.boxes[i].lines)
-            lines.push_back({{"k", wordOf(line.kind)}, {"t", line.text}, {"p", line.prefix}});
-        Json one{{"k", wordOf(talk.boxes[i].kind)}, {"t", lines}};
-        put(one, talk.boxes[i].place);
-        put(one, talk.drawing.boxes[i]);
-        return one;
     }
 
     // --- texts, findings, what has run

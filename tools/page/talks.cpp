@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "engine/language/opcodes.h"
 #include "tools/page/ways.h"
+#include "tools/page/words.h"
 #include "tools/story/grammar.h"
 
 namespace zentrox::page {
@@ -26,11 +28,6 @@ constexpr double commandWidth = 7.1;
 constexpr double leastWidth = 46;
 constexpr double lineHeight = 17;
 constexpr double margin = 20;
-
-std::size_t lengthOf(const std::string& utf8) {
-    return static_cast<std::size_t>(
-        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-}
 
 std::int32_t commandOf(const Statement& statement) {
     const Opcode* const row = statement.front().quoted ? nullptr : story::commandNamed(statement.front().value);
@@ -93,26 +90,10 @@ private:
     }
 
     void put(std::size_t number, LineKind kind, const std::string& prefix, const std::string& text) {
-        auto& lines = talk_.boxes[number].lines;
-        std::string line;
-        std::size_t length = prefix.empty() ? 0 : lengthOf(prefix) + 2;
-        bool first = true;
-        const auto end = [&] {
-            lines.push_back({kind, line, first ? prefix : ""});
-            first = false;
-            line.clear();
-            length = 0;
-        };
-        for (std::size_t at = 0; at < text.size();) {
-            const std::size_t stop = std::min(text.find(' ', at), text.size());
-            const std::string word = text.substr(at, stop - at);
-            at = stop + 1;
-            if (word.empty()) continue;
-            if (length > 0 && !(line.empty() && first) && length + 1 + lengthOf(word) > longestLine) end();
-            line += (line.empty() ? "" : " ") + word;
-            length += lengthOf(word) + 1;
-        }
-        if (!line.empty() || first) end();
+        const std::size_t before = prefix.empty() ? 0 : lengthOf(prefix) + 2;
+        std::string who = prefix;
+        for (std::string& line : brokenInto(text, longestLine, before))
+            talk_.boxes[number].lines.push_back({kind, std::move(line), std::exchange(who, "")});
     }
 
     Ends run(const Nodes& nodes, Ends ends) {
@@ -159,8 +140,7 @@ private:
         for (const story::Token& token : statement)
             words += (words.empty() ? "" : " ") +
                      (token.quoted ? "\"" + toUtf8(token.value) + "\"" : toUtf8(token.value));
-        while (lengthOf(words) > longestCommand) words.resize(words.size() - 1 - (words.back() & 0x80 ? 1 : 0));
-        talk_.boxes[number].lines.push_back({LineKind::command, words, ""});
+        talk_.boxes[number].lines.push_back({LineKind::command, shortened(words, longestCommand), ""});
         return {{number, {}}};
     }
 
@@ -325,19 +305,6 @@ std::vector<Talk> talksOf(const std::vector<Section>& sections) {
         all.push_back(std::move(talk));
     }
     return all;
-}
-
-std::string inWords(const story::Condition& condition) {
-    std::string words;
-    for (const auto& terms : condition) {
-        if (&terms != &condition.front()) words += " oder ";
-        for (const story::Term& term : terms) {
-            if (&term != &terms.front()) words += " und ";
-            if (term.negated) words += "nicht ";
-            words += toUtf8(term.name.value);
-        }
-    }
-    return words;
 }
 
 }  // namespace zentrox::page

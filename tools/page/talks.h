@@ -37,7 +37,4 @@ struct Talk {
 // One for each script in which somebody talks, asks, or has a choice.
 std::vector<Talk> talksOf(const std::vector<Section>& sections);
 
-// `A und nicht B oder C`, UTF-8.
-std::string inWords(const story::Condition& condition);
-
 }  // namespace zentrox::page
