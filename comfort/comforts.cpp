@@ -16,11 +16,8 @@ namespace {
 
 constexpr std::uint64_t mostBytes = 1'000'000;
 constexpr Milliseconds noticeLasts = 3000;
+const Text pausedNotice = "Pause";
 constexpr int noticeMargin = 6;  // pixels
-
-Settings settingsIn(const std::filesystem::path& file) {
-    return readSettings(readFile(file, mostBytes).value_or(""));
-}
 
 }  // namespace
 
@@ -28,14 +25,19 @@ std::filesystem::path settingsFile(const std::filesystem::path& directory) {
     return directory / "einstellungen.txt";
 }
 
+Settings storedSettings(const std::filesystem::path& file) {
+    return readSettings(readFile(file, mostBytes).value_or(""));
+}
+
 Comforts::Comforts(Platform& platform, Zustand& zustand, ComfortMachine& machine, std::filesystem::path file)
     : platform_(platform),
       zustand_(zustand),
       machine_(machine),
       file_(std::move(file)),
-      settings_(settingsIn(file_)) {
+      settings_(storedSettings(file_)) {
     platform_.queue.firstLook = [this](const Input& input) { return firstLook(input); };
-    machine_.setOverlay([this](Bitmap& picture, const Rect& base) {
+    machine_.setOverlay([this](Bitmap& picture, const Rect& base, const Rect& top) {
+        topArea_ = top;
         for (const auto& draw : overlays_) draw(picture, base);
         drawNotice(picture, base);
     });
@@ -52,6 +54,7 @@ Comforts::~Comforts() {
 void Comforts::apply() {
     machine_.setFullScreen(settings_.fullScreen);
     machine_.setEnlarging(static_cast<Enlarging>(settings_.enlarging));
+    machine_.setPausesAway(settings_.pauseAway);
     const auto volume = [this](int percent) { return settings_.muted ? 0 : percent; };
     const int speech = volume(settings_.speech);
     platform_.sound.setVolumes({speech, volume(settings_.effects), volume(settings_.music), speech});
@@ -105,6 +108,8 @@ void Comforts::pausedDuring(const std::function<void()>& work) {
 
 void Comforts::machineStands(bool stands) {
     pauseSound(stands);
+    standsAway_ = stands;
+    machine_.refreshOverlay();
 }
 
 void Comforts::pauseSound(bool on) {
@@ -124,15 +129,16 @@ void Comforts::notice(Text text) {
 }
 
 void Comforts::drawNotice(Bitmap& picture, const Rect& base) const {
-    if (notice_.empty()) return;
+    const Text& text = standsAway_ ? pausedNotice : notice_;
+    if (text.empty()) return;
     const Font& font = platform_.fonts.get({.points = 10});
-    const Size text = font.measure(notice_);
-    const Size size{text.w + 4 * noticeMargin, text.h + 2 * noticeMargin};
-    const Rect box{{base.x + (base.w - size.w) / 2, base.bottom() - size.h - 2 * noticeMargin}, size};
+    const Size room = font.measure(text);
+    const Size size{room.w + 4 * noticeMargin, room.h + 2 * noticeMargin};
+    const Rect box{{base.x + (base.w - size.w) / 2, base.y + 2 * noticeMargin}, size};
     picture.fill(box, black);
     picture.outline(box, look::highlight);
     Point at = box.at() + Point{2 * noticeMargin, noticeMargin};
-    for (const TextView line : linesOf(notice_)) {
+    for (const TextView line : linesOf(text)) {
         font.draw(picture, at, line, look::highlight);
         at.y += font.lineHeight();
     }

@@ -49,7 +49,9 @@ public:
     void addOverlay(std::function<void(Bitmap& picture, const Rect& base)> draw) {
         overlays_.push_back(std::move(draw));
     }
-    // Tells the player something for a few seconds, at the lower edge of the picture.
+    // Where the client area of the topmost window stands in the picture that is drawn over.
+    const Rect& topArea() const { return topArea_; }
+    // Tells the player something for a few seconds, at the upper edge of the picture.
     void notice(Text text);
     // The overlay would look different now.
     void refresh() { machine_.refreshOverlay(); }
@@ -71,10 +73,15 @@ private:
     std::vector<std::function<void(const Settings&)>> told_;
     std::vector<std::function<bool(const Input&)>> looks_;
     std::vector<std::function<void(Bitmap&, const Rect&)>> overlays_;
+    Rect topArea_;
+    bool standsAway_ = false;
     int soundPauses_ = 0;  // so many want it to stand still
     Text notice_;
     std::optional<Timer> noticeEnd_;
 };
+
+// What a file of settings holds; as out of the box if it can't be read.
+Settings storedSettings(const std::filesystem::path& file);
 
 // The file of the settings in a directory as `Places` has it.
 std::filesystem::path settingsFile(const std::filesystem::path& directory);

@@ -2,6 +2,7 @@
 
 #include "comfort/keyswindow.h"
 #include "comfort/settingswindow.h"
+#include "platform/machine/sound.h"
 #include "platform/values/keys.h"
 
 namespace zentrox {
@@ -32,6 +33,7 @@ Desk::Desk(Comforts& comforts)
                           .does = "stumm und wieder laut",
                           .down = [this] { mute(); },
                           .nests = true});
+    comforts_.observers().Dazu(*this);
     comforts_.addLook([this](const Input& input) { return atMark(input); });
     comforts_.addOverlay([this](Bitmap& picture, const Rect& base) { drawMark(picture, base); });
 }
@@ -51,6 +53,22 @@ void Desk::mute() {
     settings.muted = !settings.muted;
     comforts_.change(settings);
     comforts_.notice(settings.muted ? "Stumm; Strg+U macht wieder laut." : "Ton an.");
+}
+
+// Told once, when the story has come to rest.
+void Desk::Ruht() {
+    if (comforts_.settings().soundFontTold || !comforts_.platform().sound.lacksSoundFont()) return;
+    Settings settings = comforts_.settings();
+    settings.soundFontTold = true;
+    comforts_.change(settings);
+    comforts_.pausedDuring([this] {
+        showMessageBox(comforts_.platform(),
+                       {"Zentrox",
+                        Text("Die Musik bleibt stumm: Auf diesem Rechner ist kein Klangfont.\n\n"
+                             "Ein Paket wie timgm6mb-soundfont oder fluid-soundfont-gm bringt einen mit;\n"
+                             "oder eine Datei .sf2 kommt in das Verzeichnis musics der Geschichte."_t),
+                        MessageBox::Icon::information});
+    });
 }
 
 // --- the mark

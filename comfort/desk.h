@@ -6,7 +6,7 @@
 
 namespace zentrox {
 
-class Desk {
+class Desk : public Beobachter {
 public:
     // Must be outlived by the comforts, whose keys and looks it takes.
     explicit Desk(Comforts& comforts);
@@ -14,6 +14,7 @@ public:
     Desk& operator=(const Desk&) = delete;
 
 private:
+    void Ruht() override;
     void showSettings();
     void showKeys();
     void mute();

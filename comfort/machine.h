@@ -16,11 +16,13 @@ public:
     virtual void setFullScreen(bool on) = 0;
     virtual Enlarging enlarging() = 0;
     virtual void setEnlarging(Enlarging how) = 0;
+    // While another program has the keyboard, the game stands still.
+    virtual void setPausesAway(bool on) = 0;
     // All that plays stands still until it is told to go on, and so does the clock that films go by.
     virtual void setSoundPaused(bool paused) = 0;
     // Draws over the picture of all windows, in pixels of the game; `base` is where the client area of the
-    // bottommost one stands. Drawing is held to the bitmap's clip.
-    virtual void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) = 0;
+    // bottommost one stands, `top` that of the topmost one. Drawing is held to the bitmap's clip.
+    virtual void setOverlay(std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay) = 0;
     // The overlay would look different now.
     virtual void refreshOverlay() = 0;
 };

@@ -16,8 +16,17 @@ constexpr std::array enlargingWays{
     Choice{2, "weich", "so groß es geht, weich"_t},
 };
 
+constexpr std::array gamePaces{
+    Choice{100, "100", "wie es ist"_t},
+    Choice{75, "75", "etwas langsamer"_t},
+    Choice{50, "50", "halb so schnell"_t},
+    Choice{30, "30", "sehr langsam"_t},
+};
+
 constexpr TextView sound = "Ton";
 constexpr TextView picture = "Bild";
+constexpr TextView hands = "Bedienung";
+constexpr TextView games = "Spiele";
 constexpr TextView percent = " %";
 
 constexpr SettingsRow volume(const char* key, int Settings::*field, TextView title) {
@@ -40,6 +49,15 @@ constexpr std::array rows{
                 .page = picture,
                 .title = "Vergrößern"_t,
                 .choices = enlargingWays},
+    yesOrNo("pause-abseits", &Settings::pauseAway, picture, "Pause, solange ein anderes Programm vorn ist"_t),
+    yesOrNo("mit-tasten", &Settings::keyboardPlay, hands, "Alles mit der Tastatur spielen"_t),
+    SettingsRow{.key = "spieltempo",
+                .field = &Settings::gamePace,
+                .page = games,
+                .title = "Tempo der Spiele"_t,
+                .choices = gamePaces},
+    yesOrNo("durchwinken", &Settings::letThrough, games, "Nach drei Niederlagen fragen, ob es weitergehen soll"_t),
+    SettingsRow{.key = "klangfont-gemeldet", .field = &Settings::soundFontTold, .page = sound, .shown = false},
 };
 
 constexpr const char* yes = "ja";

@@ -19,9 +19,20 @@ struct Settings {
     bool muted = false;
     bool noSound = false;  // the program leaves the machine's sound alone
 
-    // --- picture
+    // --- picture; away means that another program has the keyboard
+    bool pauseAway = false;
     bool fullScreen = false;
     int enlarging = 0;  // as `Enlarging` counts
+
+    // --- hands
+    bool keyboardPlay = false;
+
+    // --- mini-games
+    int gamePace = 100;       // percent of the clock of those that go by it
+    bool letThrough = false;  // the player is asked after some defeats in a row
+
+    // --- what the player was told once
+    bool soundFontTold = false;
 
     friend bool operator==(const Settings&, const Settings&) = default;
 };

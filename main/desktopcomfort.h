@@ -37,12 +37,13 @@ public:
     void setFullScreen(bool on) override { desktop_.setFullScreen(on); }
     Enlarging enlarging() override { return desktop_.enlarging(); }
     void setEnlarging(Enlarging how) override { desktop_.setEnlarging(how); }
+    void setPausesAway(bool on) override { desktop_.setPausesAway(on); }
     void setSoundPaused(bool paused) override {
         if (paused) sound_.setPaused(true);
         paused ? clock_.stop() : clock_.goOn();
         if (!paused) sound_.setPaused(false);
     }
-    void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) override {
+    void setOverlay(std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay) override {
         desktop_.setOverlay(std::move(overlay));
     }
     void refreshOverlay() override { desktop_.refreshOverlay(); }

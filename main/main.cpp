@@ -5,6 +5,10 @@
 #include "author/workbench.h"
 #include "comfort/comforts.h"
 #include "comfort/desk.h"
+#include "comfort/games.h"
+#include "comfort/hands.h"
+#include "comfort/pictures.h"
+#include "comfort/question.h"
 #include "engine/files/titeldatei.h"
 #include "main/beginning.h"
 #include "main/desktopcomfort.h"
@@ -71,6 +75,22 @@ private:
     author::WalkWriter writer_;
 };
 
+// The story could not begin, since this machine has no sound. Who then wants to play without is remembered.
+void offerSilence(Comforts& comforts) {
+    try {
+        if (!ask(comforts.platform(),
+                 "Zentrox findet auf diesem Rechner keinen Ton.\nSoll es ohne Ton noch einmal beginnen?"_t,
+                 "Ohne Ton spielen"_t, "Beenden"_t))
+            return;
+    } catch (const ProgramEnd&) {
+        return;
+    }
+    Settings settings = comforts.settings();
+    settings.noSound = true;
+    comforts.change(settings);
+    comforts.platform().backend.restart();
+}
+
 int play(const Options& options, const StoryPlace& place) {
     const Files& files = place.files;
     checkBeginning(options.beginning, files);
@@ -78,13 +98,17 @@ int play(const Options& options, const StoryPlace& place) {
     if (options.beginning.seed) desktop.setSeed(*options.beginning.seed);
     const auto fonts = makeFonts();
     SoundClock clock(desktop);
-    const auto sound = desktopSound(files, [&clock] { return clock.now(); });
+    const bool silent = options.noSound || storedSettings(settingsFile(place.settings)).noSound;
+    const auto sound = desktopSound(
+        files, [&clock] { return clock.now(); }, silent);
     Platform platform(desktop, *fonts, *sound, files);
     platform.roots = rootsToSearch(options, searchRoots(options.directory));
     const auto zustand = std::make_unique<Zustand>();
     DesktopComfort machine(desktop, *sound, clock);
     Comforts comforts(platform, *zustand, machine, settingsFile(place.settings));
-    const Desk desk(comforts);
+    Desk desk(comforts);
+    const Screenshots screenshots(comforts, picturesDirectory());
+    GameComforts games(comforts);
     Beginner beginner(options.beginning);
     beginner.watch(&platform, zustand.get());
     if (options.beginning.hasState()) comforts.observers().Dazu(beginner);
@@ -92,8 +116,12 @@ int play(const Options& options, const StoryPlace& place) {
     if (options.record) record.emplace(options, comforts);
     std::optional<AuthorsPlace> authors;
     if (options.author) authors.emplace(options, comforts, record ? &record->writer() : nullptr);
+    Hands hands(comforts);  // behind the author's keys
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
-    return Spielen(platform, *zustand, fromUtf8(options.commandLine), {.observer = &comforts.observers()});
+    const int status = Spielen(platform, *zustand, fromUtf8(options.commandLine),
+                               {.observer = &comforts.observers(), .aroundGame = games.wrapper()});
+    if (status != 0 && sound->error() == SoundError::noDriver) offerSilence(comforts);
+    return status;
 }
 
 // Who opened the story by a click has no terminal to be told in.

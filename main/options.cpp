@@ -39,6 +39,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     std::string author;
     Options options;
     bool portable = false;
+    bool noSound = false;
     std::vector<std::string> roots;
     std::vector<std::string> room;
     const CLI::Validator there = CLI::Validator(CLI::ExistingDirectory).description("");
@@ -70,6 +71,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         ->type_name("FILE")
         ->take_last();
     app.add_flag("--record-on", options.recordGoesOn)->group("");
+    app.add_flag("--no-sound", noSound, "Plays without sound, also where the machine has none");
     app.add_option(
            "ROOM", room,
            "A packed story, FILE.zentrox, or the file name of a room; the game then begins there, without its "
@@ -78,7 +80,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     app.footer(
         "F11 or Alt+Enter switches to full screen and back; F8 goes through the ways of enlarging the picture:\n"
         "by whole multiples, as large as fits and sharp, as large as fits and smooth.\n"
-        "ZENTROX_SOUND=none in the environment plays without sound.");
+        "F10 opens the settings, F3 shows all keys. ZENTROX_SOUND=none in the environment is --no-sound.");
     addWordsFor(app);
     try {
         app.parse(count, words);
@@ -96,6 +98,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     if (!record.empty()) options.record = whole(record);
     if (!saves.empty()) options.saves = whole(saves);
     options.portable = portable;
+    options.noSound = noSound;
     for (const std::string& root : roots) options.roots.push_back(whole(root));
     return {options, 0};
 }
@@ -109,6 +112,7 @@ std::vector<std::string> restartCommand(const fs::path& program, const Options& 
     std::vector<std::string> command{program.string(), "--dir", options.directory.string()};
     for (const fs::path& root : options.roots) command.insert(command.end(), {"--root", root.string()});
     if (options.saves) command.insert(command.end(), {"--saves", options.saves->string()});
+    if (options.noSound) command.emplace_back("--no-sound");
     if (options.portable) command.emplace_back("--portable");
     if (options.author) command.insert(command.end(), {"--author", options.author->string()});
     if (options.record) command.insert(command.end(), {"--record", options.record->string(), "--record-on"});

@@ -49,7 +49,9 @@ int windows(Platform& platform, Zustand& zustand, const Text& kommandozeile, con
     Speicherwart& saves = extras.saves != nullptr ? *extras.saves : plain;
     try {
         Medien medien(platform, zustand);
-        const Spieltabelle table = spiele(platform, zustand, medien);
+        Spieltabelle table = spiele(platform, zustand, medien);
+        for (auto& [name, game] : table)
+            if (extras.aroundGame) game = extras.aroundGame(name, std::move(game));
         const auto showRoom = [&] {
             Form1 form(platform, zustand, medien, table, kommandozeile, observer, saves);
             form.Zeigen();

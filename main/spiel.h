@@ -1,7 +1,10 @@
 // The whole program between its start and its end, the same for the desktop and the probe.
 #pragma once
 
+#include <functional>
+
 #include "engine/interpreter/beobachter.h"
+#include "engine/interpreter/spieltabelle.h"
 #include "engine/state/zustand.h"
 #include "platform/platform.h"
 #include "saves/saves.h"
@@ -12,7 +15,9 @@ namespace zentrox {
 struct Extras {
     Beobachter* observer = nullptr;  // is told of all that happens
     Speicherwart* saves = nullptr;   // stands round saving and loading
-    bool withoutMenu = false;        // the data is looked for as ever, and the room window comes first
+    // What a player wants of a game, by its name, put around it.
+    std::function<Spiel(const Text& name, Spiel game)> aroundGame{};
+    bool withoutMenu = false;  // the data is looked for as ever, and the room window comes first
 };
 
 // Opens the first window and plays until the process ends; gives its exit status. Data that can't be used end it

@@ -12,23 +12,9 @@ namespace zentrox {
 
 namespace {
 
-// A game that leaves no outcome leaves its parameter: a number counts by its value, words mean nothing.
-bool gewonnen(const Übergabewert& wert) {
-    if (const bool* const wahrheit = std::get_if<bool>(&wert)) return *wahrheit;
-    if (const Text* const text = std::get_if<Text>(&wert)) return Zahl(*text).value_or(0) != 0;
-    return false;
-}
-
 bool istText(const Übergabewert& wert, TextView gesucht) {
     const Text* const text = std::get_if<Text>(&wert);
     return text != nullptr && *text == gesucht;
-}
-
-// Played again until it is not a draw.
-bool spieleBisEntschieden(const Spiel& spiel, const Zustand& z) {
-    do spiel();
-    while (istText(z.Übergabe, "U"));
-    return istText(z.Übergabe, "W");
 }
 
 // A name in a list for the length of a scope.
@@ -44,6 +30,14 @@ private:
 };
 
 }  // namespace
+
+bool Gewonnen(TextView name, const Übergabewert& wert) {
+    const SpielArt* const art = findSpiel(name);
+    if (art != nullptr && art->kenntUnentschieden) return istText(wert, "W");
+    if (const bool* const wahrheit = std::get_if<bool>(&wert)) return *wahrheit;
+    if (const Text* const text = std::get_if<Text>(&wert)) return Zahl(*text).value_or(0) != 0;
+    return false;
+}
 
 void Interpreter::Spielen(Lauf& lauf) {
     const auto feld = [&](int n) { return upper(Trim(Feld(lauf.argument(), ",", n))); };
@@ -70,13 +64,11 @@ bool Interpreter::spiele(const Lauf& lauf, const Text& name, const Spiel& spiel)
     beobachter_.SpielBeginnt(name);
     bool sieg = false;
     try {
+        // One that knows a draw is played again until it is none.
         const SpielArt* const art = findSpiel(name);
-        if (art != nullptr && art->kenntUnentschieden) {
-            sieg = spieleBisEntschieden(spiel, z_);
-        } else {
-            spiel();
-            sieg = gewonnen(z_.Übergabe);
-        }
+        do spiel();
+        while (art != nullptr && art->kenntUnentschieden && istText(z_.Übergabe, "U"));
+        sieg = Gewonnen(name, z_.Übergabe);
     } catch (const DataError& fehler) {
         auslassen(lauf, fehler);
     }

@@ -57,6 +57,7 @@ public:
     void setPaused(bool paused) override {
         if (open_) output_->setPaused(paused);
     }
+    bool lacksSoundFont() const override { return synthesiser_ && !synthesiser_->ready(); }
     void setVolumes(const Volumes& volumes) override { streams_.setVolumes(volumes); }
     void useSoundFontsIn(TextView directory) override { musics_ = files_.systemPath(directory); }
 

@@ -43,6 +43,8 @@ public:
     virtual SoundError error() const = 0;  // of the last call that can fail
     // Stops all and closes the output.
     virtual void free() = 0;
+    // Songs were asked for that are silent, since there is no sound font to play them with.
+    virtual bool lacksSoundFont() const { return false; }
     // All that plays stands still until it is told to go on.
     virtual void setPaused(bool /*paused*/) {}
     // From now on, for what plays as well.

@@ -44,7 +44,7 @@ public:
     // Set by the person when it has looked for the box that is open.
     bool boxExpected = false;
     // What a screen would draw over the picture of all windows; see `Scene::overlay` of the desktop.
-    std::function<void(Bitmap& picture, const Rect& base)> overlay;
+    std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay;
 
     Milliseconds clock() override { return now_; }
     std::optional<Input> nextInput() override;

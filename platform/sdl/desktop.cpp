@@ -18,7 +18,7 @@ Desktop::Desktop(const Files& files, std::vector<std::string> restartCommand)
     : restartCommand_(std::move(restartCommand)),
       cursors_(files),
       events_(screen_, cursors_) {
-    events_.onMinimised = [this](bool minimised) { pause(minimised); };
+    events_.onStanding = [this](bool stands) { pause(stands); };
 }
 
 Desktop::~Desktop() = default;
@@ -118,7 +118,7 @@ void Desktop::present() {
     presentDue_ = settle();
     if (!screen_.stale()) return;
     const Milliseconds now = clock();
-    if (now < lastPresent_ + frame) {
+    if (now < lastPresent_ + frame && !pausedAt_) {
         presentDue_ = std::min(presentDue_.value_or(lastPresent_ + frame), lastPresent_ + frame);
         return;
     }

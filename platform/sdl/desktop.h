@@ -22,11 +22,13 @@ public:
     Enlarging enlarging() const { return screen_.enlarging(); }
     void setEnlarging(Enlarging how);
     // What is drawn over the game's picture, see `Scene`; and that it would look different now.
-    void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) {
+    void setOverlay(std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay) {
         screen_.setOverlay(std::move(overlay));
         refreshOverlay();
     }
     void refreshOverlay() { screen_.expose(); }
+    // Away from the keyboard's focus the game stands still, as it does while it is minimised.
+    void setPausesAway(bool on) { events_.setPausesAway(on); }
     // Called before the clock stands still because the window was minimised, and after it goes on. Who asks the
     // clock in another thread must not between the two.
     std::function<void(bool paused)> onPause;

@@ -100,18 +100,22 @@ void Events::takeWindow(const SDL_WindowEvent& event) {
             if (screen_.scene().top() != nullptr) pending_.push_back({.kind = Input::Kind::close});
             return;
         case SDL_WINDOWEVENT_SIZE_CHANGED: screen_.sizeChanged(); return sizesChanged();
-        case SDL_WINDOWEVENT_MINIMIZED:
-            if (onMinimised) onMinimised(true);
-            return;
-        case SDL_WINDOWEVENT_FOCUS_GAINED:
+        case SDL_WINDOWEVENT_MINIMIZED: minimised_ = true; return tellStanding();
+        case SDL_WINDOWEVENT_FOCUS_LOST: away_ = true; return tellStanding();
+        case SDL_WINDOWEVENT_FOCUS_GAINED: away_ = false; [[fallthrough]];
         case SDL_WINDOWEVENT_RESTORED:
         case SDL_WINDOWEVENT_MAXIMIZED:
         case SDL_WINDOWEVENT_SHOWN:
         case SDL_WINDOWEVENT_EXPOSED:
-            if (onMinimised) onMinimised(false);
+            minimised_ = false;
+            tellStanding();
             return screen_.expose();
         default: return;
     }
+}
+
+void Events::tellStanding() {
+    if (onStanding) onStanding(minimised_ || (away_ && pausesAway_));
 }
 
 // --- the pointer

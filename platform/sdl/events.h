@@ -31,8 +31,10 @@ public:
     void sizesChanged();
     void showPointer();
 
-    // The native window was minimised, or is no longer.
-    std::function<void(bool minimised)> onMinimised;
+    // The game shall stand still from now on, or go on: the native window was minimised, or if the player wants
+    // that the keyboard went to another program.
+    std::function<void(bool stands)> onStanding;
+    void setPausesAway(bool on) { pausesAway_ = on; }
 
     // Keys that are down, or were since this was asked last.
     std::array<std::uint8_t, 256> keys();
@@ -45,6 +47,7 @@ private:
     void takeUp(const SDL_MouseButtonEvent& event);
     void takeWheel(const SDL_MouseWheelEvent& event);
     void takeKey(const SDL_KeyboardEvent& event);
+    void tellStanding();
     bool takeOwnKey(const SDL_KeyboardEvent& event);
     void takeText(const char* utf8);
     void release(Button button, Point at);
@@ -61,6 +64,9 @@ private:
     bool overClient_ = true;     // the pointer is over the topmost window's client area
     int clicksBefore_ = 0;       // clicks that another window has had of the present run of clicks
     int clicks_ = 0;
+    bool minimised_ = false;
+    bool away_ = false;  // the keyboard is another program's
+    bool pausesAway_ = false;
 };
 
 }  // namespace zentrox::sdl

@@ -97,7 +97,7 @@ void Scene::compose(const Rect& part) {
         if (i > 0) drawFrame(canvas_, *shown_[i].window, layout_.clients[i], {active, active && closeDown_});
         canvas_.copy(shown_[i].window->compose(), layout_.clients[i].at());
     }
-    if (overlay) overlay(canvas_, layout_.clients.front());
+    if (overlay) overlay(canvas_, layout_.clients.front(), layout_.clients.back());
     canvas_.setClip(canvas_.bounds());
 }
 

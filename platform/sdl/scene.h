@@ -32,8 +32,8 @@ public:
     void pressCloseBox(bool down);
 
     // Draws over the windows, in pixels of the game, whenever a part is shown anew, held to that part. `base` is
-    // where the bottommost window's client area stands. The game knows nothing of it.
-    std::function<void(Bitmap& picture, const Rect& base)> overlay;
+    // where the bottommost window's client area stands, `top` the topmost one's. The game knows nothing of it.
+    std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay;
 
     // True if something would look different after `paint`.
     bool stale() const;

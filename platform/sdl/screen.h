@@ -31,7 +31,9 @@ public:
     // All of it has to be shown again.
     void expose() { scene_.expose(); }
     // See `Scene::overlay`.
-    void setOverlay(std::function<void(Bitmap&, const Rect&)> overlay) { scene_.overlay = std::move(overlay); }
+    void setOverlay(std::function<void(Bitmap&, const Rect&, const Rect&)> overlay) {
+        scene_.overlay = std::move(overlay);
+    }
 
     // The native window may have another size now.
     void sizeChanged();

@@ -63,9 +63,9 @@ std::int64_t now() {
 
 }  // namespace
 
-std::unique_ptr<SoundDevice> desktopSound(const Files& files, std::function<std::int64_t()> clock) {
+std::unique_ptr<SoundDevice> desktopSound(const Files& files, std::function<std::int64_t()> clock, bool silent) {
     const char* choice = std::getenv("ZENTROX_SOUND");
-    const bool muted = choice != nullptr && std::string_view(choice) == "none";
+    const bool muted = silent || (choice != nullptr && std::string_view(choice) == "none");
     return soundPlayer(files, muted ? nullptr : std::make_unique<SdlOutput>(), clock ? std::move(clock) : now);
 }
 

@@ -13,6 +13,8 @@ namespace zentrox {
 // leaves the machine's sound alone; all is then silent without a complaint.
 // `clock` tells milliseconds; it may stand still while the sound is paused, and never goes back. Without one it is
 // the machine's.
-std::unique_ptr<SoundDevice> desktopSound(const Files& files, std::function<std::int64_t()> clock = {});
+// `silent` does the same as the environment variable.
+std::unique_ptr<SoundDevice> desktopSound(const Files& files, std::function<std::int64_t()> clock = {},
+                                          bool silent = false);
 
 }  // namespace zentrox

@@ -1,5 +1,5 @@
-// The time of the game: the machine's, which can be made to stand still or to go slower. Without either it is the
-// machine's own, to the millisecond.
+// The time of the game: the machine's, which can be made to stand still, or to go slower or faster. Without either
+// it is the machine's own, to the millisecond.
 #pragma once
 
 #include <algorithm>
@@ -28,10 +28,10 @@ public:
         --stands_;
     }
     int pace() const { return pace_; }
-    // Percent of the machine's, 1 to 100.
+    // Percent of the machine's, 1 to 10,000.
     void setPace(int percent, std::int64_t machine) {
         settle(machine);
-        pace_ = std::clamp(percent, 1, static_cast<int>(whole));
+        pace_ = std::clamp(percent, 1, 10'000);
     }
 
 private:

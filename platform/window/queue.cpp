@@ -110,8 +110,12 @@ bool Queue::serveInput() {
 }
 
 void Queue::deliver(const Input& input) {
+    if (active() != nullptr && (!firstLook || !firstLook(input))) handOver(input);
+}
+
+void Queue::handOver(const Input& input) {
     Window* const window = active();
-    if (window == nullptr || (firstLook && firstLook(input))) return;
+    if (window == nullptr) return;
     using Kind = Input::Kind;
     if (input.kind != Kind::resize) {
         window->showToolTip(false);

@@ -57,7 +57,7 @@ public:
     bool stands() const { return clock_.stands(); }
     void stopClock() { clock_.stop(backend_.clock()); }
     void letClockGoOn() { clock_.goOn(backend_.clock()); }
-    // Percent of the machine's time, 1 to 100.
+    // Percent of the machine's time, 1 to 10,000.
     int pace() const { return clock_.pace(); }
     void setPace(int percent) { clock_.setPace(percent, backend_.clock()); }
 
@@ -95,6 +95,9 @@ public:
     // Asked for each input before the topmost window is told of it; true if that shall not know of it. It may open
     // windows and wait.
     std::function<bool(const Input& input)> firstLook;
+
+    // Gives an input to the topmost window as if a person had made it, without a first look.
+    void handOver(const Input& input);
 
     // A moment between two inputs, for `disownHeld`.
     HeldInputs::Mark heldMark() const { return held_.mark(); }

@@ -3,24 +3,13 @@
 
 #include "comfort/desk.h"
 #include "platform/values/keys.h"
+#include "tests/comfort/machine.h"
 #include "tests/support/stage.h"
 
 namespace zentrox {
 namespace {
 
-class FakeMachine final : public ComfortMachine {
-public:
-    bool full = false;
-    std::vector<bool> soundPaused;
-
-    bool fullScreen() override { return full; }
-    void setFullScreen(bool on) override { full = on; }
-    Enlarging enlarging() override { return Enlarging::whole; }
-    void setEnlarging(Enlarging /*how*/) override {}
-    void setSoundPaused(bool paused) override { soundPaused.push_back(paused); }
-    void setOverlay(std::function<void(Bitmap&, const Rect&)> /*overlay*/) override {}
-    void refreshOverlay() override {}
-};
+using test::FakeMachine;
 
 struct ComfortsTest : testing::Test {
     test::Stage stage;

@@ -15,8 +15,9 @@ public:
     void setFullScreen(bool on) override { fullScreen_ = on; }
     Enlarging enlarging() override { return enlarging_; }
     void setEnlarging(Enlarging how) override { enlarging_ = how; }
+    void setPausesAway(bool /*on*/) override {}
     void setSoundPaused(bool paused) override { sound_.setPaused(paused); }
-    void setOverlay(std::function<void(Bitmap& picture, const Rect& base)> overlay) override {
+    void setOverlay(std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay) override {
         backend_.overlay = std::move(overlay);
     }
     void refreshOverlay() override {}

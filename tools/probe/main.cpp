@@ -10,6 +10,9 @@
 #include "author/walkwriter.h"
 #include "comfort/comforts.h"
 #include "comfort/desk.h"
+#include "comfort/games.h"
+#include "comfort/hands.h"
+#include "comfort/pictures.h"
 #include "engine/interpreter/verteiler.h"
 #include "main/beginning.h"
 #include "main/spiel.h"
@@ -105,6 +108,9 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     probe::ProbeComfort machine(backend, recorder);
     std::optional<Comforts> comforts;
     std::optional<Desk> desk;
+    std::optional<Screenshots> screenshots;
+    std::optional<GameComforts> games;
+    std::optional<Hands> hands;
     Verteiler observers;
     observers.Dazu(listeners.all());
     const auto sees = [&](const Input& input) { return listeners.sees(input); };
@@ -112,10 +118,14 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     if (!options.settings.empty()) {
         comforts.emplace(platform, zustand, machine, options.settings);
         desk.emplace(*comforts);
+        screenshots.emplace(*comforts, fs::absolute(options.pictures));
+        games.emplace(*comforts);
+        hands.emplace(*comforts);
         comforts->addLook(sees);
         observers.Dazu(comforts->observers());
     }
-    const int status = Spielen(platform, zustand, arguments, {.observer = &observers});
+    const int status = Spielen(platform, zustand, arguments,
+                               {.observer = &observers, .aroundGame = games ? games->wrapper() : nullptr});
     listeners.watch(nullptr, nullptr);
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);

@@ -69,7 +69,7 @@ Bitmap Player::picture(Window& window) {
     Bitmap seen = window.compose();
     if (!backend_.overlay) return seen;
     const Size base = platform_->queue.windows().front()->client();
-    backend_.overlay(seen, {{(seen.width() - base.w) / 2, (seen.height() - base.h) / 2}, base});
+    backend_.overlay(seen, {{(seen.width() - base.w) / 2, (seen.height() - base.h) / 2}, base}, seen.bounds());
     return seen;
 }
 

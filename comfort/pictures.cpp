@@ -1,0 +1,91 @@
+#include "comfort/pictures.h"
+
+#include <ctime>
+#include <sstream>
+
+#include "platform/codec/pictures.h"
+#include "platform/machine/whole_file.h"
+#include "platform/values/keys.h"
+
+namespace zentrox {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::uint64_t mostBytes = 100'000;
+constexpr std::string_view wanted = "XDG_PICTURES_DIR=\"";
+constexpr std::string_view homeWord = "$HOME";
+
+// The value of a line as the desktop's tools write it: "$HOME/Bilder" or an absolute path.
+fs::path pictureLine(const std::string& file, const fs::path& home) {
+    std::istringstream lines(file);
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with(wanted)) continue;
+        std::string value = line.substr(wanted.size());
+        value = value.substr(0, value.find('"'));
+        if (value.starts_with(homeWord)) value = home.string() + value.substr(homeWord.size());
+        if (fs::path(value).is_absolute()) return value;
+    }
+    return {};
+}
+
+fs::path ofEnvironment(const Environment& environment, const char* name) {
+    const char* const value = environment(name);
+    return value != nullptr && fs::path(value).is_absolute() ? fs::path(value) : fs::path();
+}
+
+}  // namespace
+
+fs::path picturesDirectory(const Environment& environment) {
+    if (const fs::path named = ofEnvironment(environment, "XDG_PICTURES_DIR"); !named.empty()) return named;
+    const fs::path home = ofEnvironment(environment, "HOME");
+    if (home.empty()) return {};
+    fs::path config = ofEnvironment(environment, "XDG_CONFIG_HOME");
+    if (config.empty()) config = home / ".config";
+    const std::string rules = readFile(config / "user-dirs.dirs", mostBytes).value_or("");
+    if (const fs::path listed = pictureLine(rules, home); !listed.empty()) return listed;
+    std::error_code error;
+    for (const char* const usual : {"Bilder", "Pictures"})
+        if (fs::is_directory(home / usual, error)) return home / usual;
+    return home;
+}
+
+Bitmap gamePicture(const Queue& queue) {
+    Window* const top = queue.active();
+    return top != nullptr ? top->compose() : Bitmap();
+}
+
+fs::path datedFile(const fs::path& directory, const std::string& stem, const std::string& extension) {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    std::array<char, 32> date{};
+    std::strftime(date.data(), date.size(), " %Y-%m-%d %H-%M-%S", &local);
+    fs::path file = directory / (stem + date.data() + extension);
+    std::error_code error;
+    for (int number = 2; fs::exists(file, error); ++number)
+        file = directory / (stem + date.data() + " (" + std::to_string(number) + ")" + extension);
+    return file;
+}
+
+Screenshots::Screenshots(Comforts& comforts, fs::path directory)
+    : comforts_(comforts),
+      directory_(std::move(directory)) {
+    comforts_.keys().add({.code = key::f12,
+                          .label = "F12",
+                          .does = "Bild des Spiels speichern",
+                          .down = [this] { take(); },
+                          .nests = true});
+}
+
+void Screenshots::take() {
+    std::error_code error;
+    fs::create_directories(directory_, error);
+    const fs::path file = datedFile(directory_, "Zentrox", ".png");
+    const bool saved = !directory_.empty() && savePng(gamePicture(comforts_.platform().queue), file.string());
+    comforts_.notice(saved ? Text("Bild gespeichert:\n") + fromUtf8(file.string())
+                           : Text("Das Bild kann nicht gespeichert werden:\n") + fromUtf8(directory_.string()));
+}
+
+}  // namespace zentrox
