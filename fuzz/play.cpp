@@ -185,8 +185,7 @@ Stage::~Stage() {
 
 void Stage::lay(const std::string& file) const {
     fs::create_directories((directory_ / file).parent_path());
-    fs::remove(directory_ / file);
-    fs::create_symlink(fs::path(ZENTROX_FUZZ_STORY) / file, directory_ / file);
+    fs::copy_file(fs::path(ZENTROX_FUZZ_STORY) / file, directory_ / file, fs::copy_options::overwrite_existing);
 }
 
 std::string Stage::whole(const std::string& file) const {

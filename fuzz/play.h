@@ -30,7 +30,7 @@ private:
     const std::uint8_t* end_;
 };
 
-// The data of the demo, each file a link to the real one until it is replaced.
+// A copy of the demo's data.
 class Stage {
 public:
     Stage();

@@ -79,6 +79,7 @@ void takeTitle(Platform& platform, Zustand& zustand) {
 }  // namespace
 
 int Spielen(Platform& platform, Zustand& zustand, const Text& kommandozeile, const Extras& extras) {
+    platform.files.confine();
     try {
         takeTitle(platform, zustand);
         return windows(platform, zustand, kommandozeile, extras);

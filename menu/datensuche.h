@@ -13,6 +13,6 @@ namespace zentrox {
 // Fills the eight paths of the state, each for a directory that need not be there, and makes the one for saved
 // games. Gives the root of the CD with a backslash at its end: the last of `wurzeln` that holds the CD's mark;
 // empty if none does. Nothing is reported.
-Text DatenSuchen(const Files& files, const std::vector<std::filesystem::path>& wurzeln, Zustand& z);
+Text DatenSuchen(Files& files, const std::vector<std::filesystem::path>& wurzeln, Zustand& z);
 
 }  // namespace zentrox

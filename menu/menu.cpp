@@ -93,7 +93,7 @@ void Menu::Form_Load(const std::vector<std::filesystem::path>& wurzeln) {
     CDLaufwerk = DatenSuchen(platform().files, wurzeln, z_);
     // What lies in a packed story can't be opened by another program.
     std::error_code fehler;
-    const bool offen = std::filesystem::is_directory(platform().files.systemPath(CDLaufwerk), fehler);
+    const bool offen = std::filesystem::is_directory(Files("/").systemPath(CDLaufwerk), fehler);
     zeile(Bonuszeile).setVisible(!CDLaufwerk.empty() && offen);
 
     MenuBonusSetzen(0);
@@ -174,10 +174,22 @@ void Menu::beginnen(TextView raum) {
     form1Zeigen_();
 }
 
+// What a link on the CD leads to elsewhere, or what is no folder or page there, is nobody's bonus. What is missing
+// is the desktop's to say.
 void Menu::öffnen(TextView was) {
-    const std::string pfad = platform().files.systemPath(CDLaufwerk + Text(was)).string();
-    if (platform().backend.start({"xdg-open", pfad})) return;
-    const Text text = "\"" + Text(was) + Text("\" kann nicht geöffnet werden, weil das Programm xdg-open fehlt."_t);
+    Files cd(Files("/").systemPath(CDLaufwerk));
+    cd.confine();
+    const std::filesystem::path pfad = cd.systemPath(was);
+    std::error_code fehler;
+    const bool seite = was.ends_with(".html");
+    const auto art = seite ? std::filesystem::file_type::directory : std::filesystem::file_type::regular;
+    Text text = "\"" + Text(was) + Text("\" kann nicht geöffnet werden, weil "_t);
+    if (pfad.empty() || std::filesystem::status(pfad, fehler).type() == art)
+        text += seite ? Text("es keine Seite auf der CD ist."_t) : Text("es kein Verzeichnis auf der CD ist."_t);
+    else if (platform().backend.start({"xdg-open", pfad.string()}))
+        return;
+    else
+        text += "das Programm xdg-open fehlt.";
     showMessageBox(platform(), {"Zentrox", text, MessageBox::Icon::critical});
 }
 

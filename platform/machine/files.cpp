@@ -81,6 +81,20 @@ fs::path found(fs::path at, TextView below) {
     return at;
 }
 
+fs::path wholly(const fs::path& path) {
+    std::error_code error;
+    fs::path whole = fs::weakly_canonical(path, error);
+    if (error) return {};
+    if (!whole.has_filename()) whole = whole.parent_path();
+    return whole;
+}
+
+// Both canonical.
+bool liesIn(const fs::path& path, const fs::path& directory) {
+    const auto [end, rest] = std::mismatch(directory.begin(), directory.end(), path.begin(), path.end());
+    return end == directory.end();
+}
+
 bool startsWithIgnoringCase(TextView text, TextView start) {
     return text.size() >= start.size() && equalIgnoringCase(text.substr(0, start.size()), start);
 }
@@ -100,6 +114,29 @@ void Files::keepSavesIn(const fs::path& directory) {
     saves_ = fs::absolute(directory).lexically_normal();
     if (!saves_.has_filename()) saves_ = saves_.parent_path();
     savesDirectory_ = gamePath(saves_) + "\\";
+    // Beside the story's data they are the story's own, and have to lie there.
+    if (!liesIn(saves_, root_)) admit(saves_);
+}
+
+void Files::confine() {
+    bounds_->hold = true;
+    admit(root_);
+}
+
+void Files::admit(const fs::path& directory) {
+    const fs::path whole = wholly(directory);
+    if (!whole.empty()) bounds_->directories.push_back(whole);
+}
+
+bool Files::mayBeRead(const fs::path& path) const {
+    if (!bounds_->hold) return true;
+    const fs::path whole = wholly(path);
+    std::error_code error;
+    const fs::file_type type = fs::status(whole, error).type();
+    const bool plain =
+        type == fs::file_type::regular || type == fs::file_type::directory || type == fs::file_type::not_found;
+    return plain && std::any_of(bounds_->directories.begin(), bounds_->directories.end(),
+                                [&](const fs::path& directory) { return liesIn(whole, directory); });
 }
 
 std::optional<TextView> Files::below(TextView path) const {
@@ -113,13 +150,19 @@ std::optional<std::size_t> Files::packedFile(TextView path) const {
     return inside ? packed_->find(*inside) : std::nullopt;
 }
 
-fs::path Files::systemPath(TextView path) const {
+fs::path Files::foundOnDisk(TextView path) const {
     // What has no letter in the game's code page would be lost on the way back.
     if (!saves_.empty() && startsWithIgnoringCase(path, savesDirectory_))
         return found(saves_, path.substr(savesDirectory_.size()));
-    if (const auto entry = packedFile(path)) return packed_->open(*entry);
     if (const auto inside = below(path)) return found(root_, *inside);
     return found("/", path);
+}
+
+fs::path Files::systemPath(TextView path) const {
+    const bool saved = !saves_.empty() && startsWithIgnoringCase(path, savesDirectory_);
+    if (const auto entry = saved ? std::nullopt : packedFile(path)) return packed_->open(*entry);
+    fs::path file = foundOnDisk(path);
+    return mayBeRead(file) ? file : fs::path();
 }
 
 Text Files::gamePath(const fs::path& path) {
@@ -169,6 +212,7 @@ std::string Files::read(TextView path) const {
         return *std::move(bytes);
     }
     const fs::path file = systemPath(path);
+    if (file.empty()) throw DataError("Die Datei \"" + display(path) + Text("\" gehört nicht zur Geschichte."_t));
     std::error_code error;
     bringNear(file);
     if (!fs::exists(file, error)) throw DataError("Die Datei \"" + display(path) + "\" fehlt.");
@@ -190,7 +234,7 @@ void Files::makeDirectory(TextView path) const {
 
 Text Files::display(TextView path) const {
     if (const auto entry = packedFile(path)) return packed_->spelled(*entry);
-    const fs::path file = systemPath(path).lexically_normal();
+    const fs::path file = foundOnDisk(path).lexically_normal();
     const fs::path below = file.lexically_relative(root_);
     const bool under = !below.empty() && *below.begin() != ".." && *below.begin() != ".";
     Text text = gamePath(under ? below : file);

@@ -28,9 +28,15 @@ public:
     const Text& savesDirectory() const { return savesDirectory_; }
     void keepSavesIn(const std::filesystem::path& directory);
 
+    // From now on nothing is found that lies outside of the program's directory, of the saved games' and of those
+    // that are admitted, wherever a path or a link leads, nor what is neither a plain file nor a directory. Copies
+    // share this, older ones too.
+    void confine();
+    void admit(const std::filesystem::path& directory);
+
     // The path of the system for a path of the game, each component found without regard to case. From the first
     // component on that does not exist, the rest is as spelled. A packed file has a path under which it can be
-    // opened soon, in this process.
+    // opened soon, in this process. Empty for what is not to be found.
     std::filesystem::path systemPath(TextView path) const;
     // The path of the game for a path of the system, as it stands.
     static Text gamePath(const std::filesystem::path& path);
@@ -58,12 +64,20 @@ private:
     std::optional<TextView> packedPath(TextView path) const { return packed_ ? below(path) : std::nullopt; }
     std::optional<std::size_t> packedFile(TextView path) const;
     [[noreturn]] void failUnreadable(TextView path) const;
+    std::filesystem::path foundOnDisk(TextView path) const;
+    bool mayBeRead(const std::filesystem::path& path) const;
+
+    struct Bounds {
+        bool hold = false;
+        std::vector<std::filesystem::path> directories;  // canonical
+    };
 
     std::filesystem::path root_;
     Text programDirectory_;
     std::shared_ptr<Packed> packed_;
     std::filesystem::path saves_;
     Text savesDirectory_;
+    std::shared_ptr<Bounds> bounds_ = std::make_shared<Bounds>();
 };
 
 }  // namespace zentrox

@@ -55,9 +55,12 @@ bool isDirectory(const fs::path& path) {
     return fs::is_directory(path, error);
 }
 
-// Whether saved games can be put into the directory `saves` beside the data.
+// Whether saved games can be put into the directory `saves` beside the data. What came with a story may be a link
+// to anywhere, and is left alone.
 bool takesSaves(const fs::path& data) {
     const fs::path saves = data / savesName;
+    std::error_code error;
+    if (fs::is_symlink(saves, error)) return false;
     return access((isDirectory(saves) ? saves : data).c_str(), W_OK | X_OK) == 0;
 }
 
@@ -88,7 +91,8 @@ void addLine(const fs::path& file, const std::string& line) {
 
 void addPlace(std::vector<fs::path>& places, const fs::path& place, const fs::path& saves) {
     std::error_code error;
-    if (place.empty() || !isDirectory(place) || fs::equivalent(place, saves, error)) return;
+    if (place.empty() || !isDirectory(place) || fs::is_symlink(place, error) || fs::equivalent(place, saves, error))
+        return;
     if (std::find(places.begin(), places.end(), place) == places.end()) places.push_back(place);
 }
 

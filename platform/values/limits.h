@@ -33,6 +33,10 @@ constexpr int channels = 8;
 constexpr double soundDelay = 10'000;  // milliseconds by which sound may come behind its video
 constexpr int soundFrame = 8'000'000;  // frames that are decoded in one piece, as they are heard
 
+// Sound and pictures are counted to know how long they last, so far into a file; behind that its header is
+// believed.
+constexpr std::int64_t countedBytes = 512LL << 20U;
+
 // --- films
 constexpr std::int64_t filmPixels = 4096LL * 2304;
 constexpr double filmPicture =

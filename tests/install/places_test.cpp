@@ -60,6 +60,14 @@ TEST_F(StoryPlaces, AWritableDirectoryKeepsItsGamesBesideTheData) {
     EXPECT_FALSE(fs::exists(temp.path() / "home")) << "nothing is written before there is a game";
 }
 
+TEST_F(StoryPlaces, ALinkThatCameWithTheStoryIsNoPlaceForGames) {
+    const fs::path story = temp.write("story/rooms/Start.lsd", "").parent_path().parent_path();
+    temp.write("elsewhere/a.xtc", "nobody's");
+    fs::create_directory_symlink(temp.path() / "elsewhere", story / "saves");
+    EXPECT_EQ(at(story, "eine").saves, home.data / "eine/saves");
+    EXPECT_FALSE(fs::exists(home.data / "eine/saves/a.xtc"));
+}
+
 TEST_F(StoryPlaces, APackedStoryKeepsThemInThePlayersDataUnderItsName) {
     const fs::path one = temp.write("eine.zentrox", "");
     const fs::path other = temp.write("andere.zentrox", "");

@@ -169,6 +169,24 @@ TEST(Menu, OpensTheBonusMaterialAsItIsFound) {
               "\"LernCD\" kann nicht geöffnet werden, weil das Programm xdg-open fehlt."_t);
 }
 
+TEST(Menu, OpensNothingOutsideOfTheCdAndNoProgram) {
+    MenuPlay play;
+    std::filesystem::create_directory_symlink("/usr", play.directory.path() / "cd/Videos");
+    play.directory.write("cd/LernCD", "#!/bin/sh");
+    play.backend.click(MenuPlay::line(2));
+    for (const int line : {0, 2}) {
+        play.backend.click(MenuPlay::line(line) - Point{30, 0});
+        play.backend.then([&] { EXPECT_EQ(play.platform.queue.active()->name(), "MsgBox"); });
+        play.backend.key(key::enter);
+    }
+    play.backend.closeBox();
+    play.run();
+    EXPECT_TRUE(play.backend.started.empty());
+    ASSERT_EQ(play.backend.boxes.size(), 2U);
+    EXPECT_EQ(play.backend.boxes[1].text,
+              "\"LernCD\" kann nicht geöffnet werden, weil es kein Verzeichnis auf der CD ist."_t);
+}
+
 // The typed text stands in the surface over the lines: is anything in the cell of a letter?
 bool typed(Window& menu, int column, int row) {
     const Bitmap& picture = menu.compose();

@@ -49,7 +49,8 @@ TEST_F(TheCall, WinsWithItsRootsOverWhatIsMounted) {
     std::ofstream(directory / "zweite cd" / "Zentrox");
     Zustand z;
     const auto roots = rootsToSearch(*options, {"/", directory / "zweite cd"});
-    EXPECT_EQ(DatenSuchen(Files(directory / "spiel"), roots, z), Files::gamePath(directory / "cd") + "\\");
+    Files files(directory / "spiel");
+    EXPECT_EQ(DatenSuchen(files, roots, z), Files::gamePath(directory / "cd") + "\\");
 }
 
 TEST_F(TheCall, TakesARoomWithBlanksUnquoted) {

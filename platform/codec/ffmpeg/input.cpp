@@ -112,6 +112,8 @@ std::int64_t Input::countedLength() {
             end = std::max(end, begins + lasts);
         }
         av_packet_unref(packet_.get());
+        if (avio_tell(format_->pb) > limits::countedBytes)
+            return std::max<std::int64_t>(std::llround(end), headerLength());
     }
     return std::llround(end);
 }
