@@ -3,7 +3,7 @@
 # fuzz/seeds.sh SOURCES INTO
 set -euo pipefail
 sources=$1 into=$2
-for target in picture sound song film games walk notes zip title; do
+for target in picture sound song film games walk notes zip title settings; do
     rm -rf "$into/fuzz-$target"
     mkdir -p "$into/fuzz-$target"
 done
@@ -43,6 +43,7 @@ encode -an -c:v flv1 "$film/e.flv"
 cp "$sources/demo/games/quiz/HDW.txt" "$into/fuzz-games"
 echo '3,14159265358979' >"$into/fuzz-games/Pi10000.txt"
 cp "$sources"/demo/walks/*.walk "$sources"/tests/walks/*.walk "$into/fuzz-walk"
+printf '# Ton\nmusic = 40\nspeech = 0\nmuted = yes\nmuted = no\nfullscreen = yes\nnonsense\n' >"$into/fuzz-settings/some"
 cp "$sources/demo/titel.txt" "$into/fuzz-title"
 printf '/dev/sr0 /media/CD\\040ROM iso9660 ro 0 0\n/dev/sda1 / ext4 rw 0 0\n' >"$into/fuzz-title/mounts"
 cp "$sources"/demo/music/*.notes "$into/fuzz-notes"

@@ -43,8 +43,8 @@ TEST_P(Weeks, AToolTipAndALongPeriodComeInTime) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Edges, Weeks,
-                         testing::Values(Milliseconds{1} << 31, Milliseconds{1} << 32, (Milliseconds{1} << 32) * 3 / 2,
-                                         Milliseconds{1} << 33),
+                         testing::Values(Milliseconds{1} << 31, Milliseconds{1} << 32,
+                                         (Milliseconds{1} << 32) * 3 / 2, Milliseconds{1} << 33),
                          [](const auto& edge) { return "At" + std::to_string(edge.param); });
 
 }  // namespace

@@ -32,7 +32,7 @@ protected:
         fs::resize_file(directory.write("fremde/geschichte/" + file, head), size);
     }
     // Played without hanging, in bounds; those count for what is delivered.
-    static void bounded(const Played& played, double seconds = 10) {
+    static void bounded(const Played& played, double seconds = 5) {
         EXPECT_TRUE(played.status == 0 || played.status == 1) << played.status << played.said;
         EXPECT_EQ(played.said.find("found"), std::string::npos) << played.said.substr(0, 2000);
         testing::Test::RecordProperty("megabytes", static_cast<int>(played.megabytes));
@@ -78,9 +78,9 @@ TEST_F(Harm, PicturesOfThirtyThousandBySide) {
            "BM" + number(112'560'062) + number(0) + number(62) + number(40) + number(side) + number(side) +
                number(1, 2) + number(1, 2) + number(0) + number(112'560'000) + std::string(24, '\0'),
            112'560'062);
-    directory.write("fremde/geschichte/graphics/gross.png", "\x89PNG\r\n\x1A\n" + bigNumber(13) + "IHDR" + bigNumber(side) +
-                                                                bigNumber(side) + std::string("\x01\0\0\0\0", 5) +
-                                                                bigNumber(0));
+    directory.write("fremde/geschichte/graphics/gross.png", "\x89PNG\r\n\x1A\n" + bigNumber(13) + "IHDR" +
+                                                                bigNumber(side) + bigNumber(side) +
+                                                                std::string("\x01\0\0\0\0", 5) + bigNumber(0));
     directory.write("fremde/geschichte/graphics/gross.jpg",
                     std::string("\xFF\xD8\xFF\xC0\0\x0B\x08\x75\x30\x75\x30\x01\x01\x11\0\xFF\xD9", 17));
     write("Start.lsd", room({{"B", {{showPicture, "gross.bmp"}}},
@@ -88,7 +88,8 @@ TEST_F(Harm, PicturesOfThirtyThousandBySide) {
                              {"J", {{showPicture, "gross.jpg"}}}}));
     std::string walk = "until idle\n";
     for (const char* name : {"B", "P", "J"})
-        walk += "use " + std::string(name) + "\nuntil window MsgBox\nexpect text \"gross.\"\nkey enter\nuntil idle\n";
+        walk +=
+            "use " + std::string(name) + "\nuntil window MsgBox\nexpect text \"gross.\"\nkey enter\nuntil idle\n";
     bounded(play(walk + "close\n"));
 }
 
@@ -99,7 +100,8 @@ TEST_F(Harm, AWavOfTwoGigabytes) {
                number(176'400) + number(4, 2) + number(16, 2) + "data" + number(size - 44),
            size);
     write("Start.lsd", room({{"W", {{voice, "gross.wav"}, {text, "Hört ihr?"}, {setFlag, "WEITER"}}}}));
-    const Played played = play("until idle\nuse W\nuntil text \"Hört\"\nwait 5000\nkey a\nuntil flag WEITER\nclose\n");
+    const Played played =
+        play("until idle\nuse W\nuntil text \"Hört\"\nwait 5000\nkey a\nuntil flag WEITER\nclose\n");
     bounded(played);
     EXPECT_NE(played.said.find("voice"), std::string::npos) << "it is heard";
 }
@@ -107,7 +109,9 @@ TEST_F(Harm, AWavOfTwoGigabytes) {
 TEST_F(Harm, ASavedGameOfAHundredMegabytes) {
     write("Start.lsd", room({}));
     sparse("saves/gross.xtc", "", 100'000'000);
-    const Played played = play("until idle\nkey f1\nuntil window Dialog\ntype \"gross\"\nkey enter\nuntil window MsgBox\nexpect text \"Daten nicht geladen!\"\n");
+    const Played played = play(
+        "until idle\nkey f1\nuntil window Dialog\ntype \"gross\"\nkey enter\nuntil window MsgBox\nexpect text "
+        "\"Daten nicht geladen!\"\n");
     bounded(played, 3);
 }
 

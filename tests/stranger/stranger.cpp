@@ -4,8 +4,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
-
 #include "platform/machine/whole_file.h"
 #include "tools/story/writer.h"
 
@@ -19,6 +17,10 @@ std::string number(std::uint32_t value, int bytes = 4) {
     std::string out;
     for (int i = 0; i < bytes; ++i) out += static_cast<char>(value >> (8 * i) & 0xFF);
     return out;
+}
+
+double seconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
 // One pixel in a file, with the rows of a mask behind it where it is a pointer's.
@@ -67,7 +69,8 @@ Raum Stranger::room(const std::vector<std::pair<std::string, std::vector<Command
         RaumObjekt object;
         object.Name = fromUtf8(name);
         object.Aktiv = true;
-        for (int row = 0; row < 4; ++row) object.Maske.set(column % Maskenspalten, column / Maskenspalten * 4 + row, true);
+        for (int row = 0; row < 4; ++row)
+            object.Maske.set(column % Maskenspalten, column / Maskenspalten * 4 + row, true);
         object.HatSkript[1] = true;
         object.Aktion[1] = script(commands);
         made.Objekte.push_back(object);
@@ -91,7 +94,6 @@ Played Stranger::play(const std::string& walk, std::vector<std::string> options)
 
 Played Stranger::run(std::vector<std::string> command) const {
     const fs::path said = directory.path() / "said";
-    const auto begin = std::chrono::steady_clock::now();
     const pid_t child = fork();
     if (child == 0) {
         if (freopen(said.c_str(), "w", stdout) == nullptr || dup2(1, 2) < 0) _exit(3);
@@ -104,9 +106,8 @@ Played Stranger::run(std::vector<std::string> command) const {
     int status = 0;
     rusage used{};
     wait4(child, &status, 0, &used);
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(said).value_or(""), took.count(),
-            static_cast<double>(used.ru_maxrss) / 1024};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(said).value_or(""),
+            seconds(used.ru_utime) + seconds(used.ru_stime), static_cast<double>(used.ru_maxrss) / 1024};
 }
 
 }  // namespace zentrox::test
