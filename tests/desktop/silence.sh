@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# A machine without sound: the box and the end as ever, then the offer to begin again without, which is remembered; and
+# the pictures that a player takes.
+set -uo pipefail
+zentrox=$1 data=$2 out=$3
+. "$(dirname "$0")/display.bash"
+mkdir -p "$out"
+cd "$out" || exit 1
+settings=config/zentrox/einstellungen.txt
+rm -rf pictures
+
+display 1024x768 openbox
+unset ZENTROX_SOUND
+export SDL_AUDIODRIVER=none-of-this-name XDG_PICTURES_DIR=$PWD/pictures
+stands() { [ "$(xdotool search --onlyvisible --class zentrox 2>/dev/null | wc -l)" -gt 0 ] && ! blank; }
+titled() { [ "$(xdotool getwindowname "$(xdotool search --onlyvisible --class zentrox | tail -1)" 2>/dev/null)" = "$1" ]; }
+
+play "$zentrox" --dir "$data" Spiele.lsd
+eventually titled Error || fail "no box tells of the missing sound"
+key Return
+eventually titled Zentrox || fail "nothing is offered after the end"
+sleep 0.4
+import -window root offer.png
+key Escape
+gone() { ! alive; }
+eventually gone || fail "a refusal does not end"
+wait "$game"
+[ $? = 1 ] || fail "the end is another than before"
+[ ! -e "$settings" ] || fail "a refusal was remembered"
+
+play "$zentrox" --dir "$data" Spiele.lsd
+eventually titled Error || fail "no box tells of the missing sound"
+key Return
+eventually titled Zentrox || fail "nothing is offered after the end"
+key Return
+eventually gone || fail "the first life does not end"
+grep -qx "ohne-ton = ja" "$settings" || fail "the choice was not remembered"
+again=
+second_life() { again=$(xdotool search --onlyvisible --class zentrox getwindowpid 2>/dev/null | tail -1); [ -n "$again" ]; }
+eventually second_life || fail "it does not begin again"
+kill "$again"
+
+# Now without a word; and a picture of it.
+sleep 0.5
+play "$zentrox" --dir "$data" Spiele.lsd
+sleep 1
+titled Error && fail "the choice has no effect"
+key F12
+there() { ls pictures/Zentrox*.png >/dev/null 2>&1; }
+eventually there || fail "no picture"
+sleep 0.3
+[ "$(identify -format %wx%h pictures/Zentrox*.png)" = "$(size_of_window)" ] || fail "the picture has another size"
+import -window "$window" notice.png
+must_live end
+kill "$game"
+wait "$game"
+rm "$settings"
+play "$zentrox" --no-sound --dir "$data" Spiele.lsd
+sleep 1
+titled Error && fail "--no-sound has no effect"
+exit 0
