@@ -54,6 +54,8 @@ Comforts::~Comforts() {
 void Comforts::apply() {
     machine_.setFullScreen(settings_.fullScreen);
     machine_.setEnlarging(static_cast<Enlarging>(settings_.enlarging));
+    machine_.usePad(settings_.pad);
+    machine_.useTouch(settings_.touch);
     machine_.setPausesAway(settings_.pauseAway);
     const auto volume = [this](int percent) { return settings_.muted ? 0 : percent; };
     const int speech = volume(settings_.speech);

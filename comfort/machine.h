@@ -18,6 +18,9 @@ public:
     virtual void setEnlarging(Enlarging how) = 0;
     // While another program has the keyboard, the game stands still.
     virtual void setPausesAway(bool on) = 0;
+    // Game pads are keyboards; a long tap of a finger is a click of the right button.
+    virtual void usePad(bool on) = 0;
+    virtual void useTouch(bool on) = 0;
     // All that plays stands still until it is told to go on, and so does the clock that films go by.
     virtual void setSoundPaused(bool paused) = 0;
     // Draws over the picture of all windows, in pixels of the game; `base` is where the client area of the

@@ -51,6 +51,8 @@ constexpr std::array rows{
                 .choices = enlargingWays},
     yesOrNo("pause-abseits", &Settings::pauseAway, picture, "Pause, solange ein anderes Programm vorn ist"_t),
     yesOrNo("mit-tasten", &Settings::keyboardPlay, hands, "Alles mit der Tastatur spielen"_t),
+    yesOrNo("gamepad", &Settings::pad, hands, "Gamepad als Tastatur (dazu die Zeile darüber)"_t),
+    yesOrNo("finger", &Settings::touch, hands, "Finger: lange tippen sieht an, ziehen zieht"_t),
     SettingsRow{.key = "spieltempo",
                 .field = &Settings::gamePace,
                 .page = games,

@@ -26,6 +26,8 @@ struct Settings {
 
     // --- hands
     bool keyboardPlay = false;
+    bool pad = false;    // a game pad is a keyboard
+    bool touch = false;  // fingers are more than a mouse
 
     // --- mini-games
     int gamePace = 100;       // percent of the clock of those that go by it

@@ -38,6 +38,8 @@ public:
     Enlarging enlarging() override { return desktop_.enlarging(); }
     void setEnlarging(Enlarging how) override { desktop_.setEnlarging(how); }
     void setPausesAway(bool on) override { desktop_.setPausesAway(on); }
+    void usePad(bool on) override { desktop_.usePad(on); }
+    void useTouch(bool on) override { desktop_.useTouch(on); }
     void setSoundPaused(bool paused) override {
         if (paused) sound_.setPaused(true);
         paused ? clock_.stop() : clock_.goOn();

@@ -27,6 +27,9 @@ public:
         refreshOverlay();
     }
     void refreshOverlay() { screen_.expose(); }
+    // See `Events`.
+    void usePad(bool on) { events_.usePad(on); }
+    void useTouch(bool on) { events_.useTouch(on); }
     // Away from the keyboard's focus the game stands still, as it does while it is minimised.
     void setPausesAway(bool on) { events_.setPausesAway(on); }
     // Called before the clock stands still because the window was minimised, and after it goes on. Who asks the

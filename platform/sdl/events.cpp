@@ -1,6 +1,7 @@
 #include "platform/sdl/events.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/values/error.h"
 #include "platform/values/keys.h"
@@ -22,6 +23,9 @@ Button heldButton(Uint32 state) {
     if ((state & SDL_BUTTON_RMASK) != 0) return Button::right;
     return (state & SDL_BUTTON_MMASK) != 0 ? Button::middle : Button::none;
 }
+
+constexpr int dragBegins = 12;     // units of the window system that a finger has to move
+constexpr Uint32 longPress = 500;  // milliseconds
 
 bool gameButton(Uint8 button) {
     return button <= SDL_BUTTON_RIGHT;
@@ -81,8 +85,11 @@ void Events::showPointer() {
 void Events::take(const SDL_Event& event) {
     if (event.type == SDL_QUIT) throw ProgramEnd{};
     if (event.type == SDL_WINDOWEVENT) return takeWindow(event.window);
-    if (screen_.scene().top() == nullptr) return;
+    if (screen_.scene().top() == nullptr || pad_.take(event)) return;
     switch (event.type) {
+        case SDL_FINGERDOWN:
+        case SDL_FINGERMOTION:
+        case SDL_FINGERUP: return takeFinger(event.tfinger);
         case SDL_MOUSEMOTION: return takeMove(event.motion);
         case SDL_MOUSEBUTTONDOWN: return takeDown(event.button);
         case SDL_MOUSEBUTTONUP: return takeUp(event.button);
@@ -192,7 +199,67 @@ void Events::takeWheel(const SDL_MouseWheelEvent& event) {
     pending_.push_back({.kind = Input::Kind::wheel, .at = screen_.inTop(at), .code = event.y});
 }
 
+// --- fingers
+
+void Events::useTouch(bool on) {
+    touches_ = on;
+    SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, on ? "0" : "1");
+}
+
+void Events::fingerMove(Point at, Uint32 held) {
+    SDL_MouseMotionEvent event{};
+    event.state = held;
+    event.x = at.x;
+    event.y = at.y;
+    takeMove(event);
+}
+
+void Events::fingerButton(Uint32 type, Uint8 button, Point at) {
+    SDL_MouseButtonEvent event{};
+    event.button = button;
+    event.clicks = 1;
+    event.x = at.x;
+    event.y = at.y;
+    type == SDL_MOUSEBUTTONDOWN ? takeDown(event) : takeUp(event);
+}
+
+// The first finger is the pointer; what others do meanwhile is left out.
+void Events::takeFinger(const SDL_TouchFingerEvent& event) {
+    if (!touches_) return;
+    const Size window = screen_.nativePoints();
+    const Point at{static_cast<int>(event.x * static_cast<float>(window.w)),
+                   static_cast<int>(event.y * static_cast<float>(window.h))};
+    if (event.type == SDL_FINGERDOWN && !finger_) {
+        finger_ = Finger{event.fingerId, at, event.timestamp};
+        return fingerMove(at, 0);
+    }
+    if (!finger_ || finger_->id != event.fingerId) return;
+    const Point way = at - finger_->at;
+    if (!finger_->drags && event.type == SDL_FINGERMOTION &&
+        way.x * way.x + way.y * way.y > dragBegins * dragBegins) {
+        finger_->drags = true;
+        fingerButton(SDL_MOUSEBUTTONDOWN, SDL_BUTTON_LEFT, finger_->at);
+    }
+    if (event.type == SDL_FINGERMOTION) {
+        if (finger_->drags) fingerMove(at, SDL_BUTTON_LMASK);
+        return;
+    }
+    const Finger finger = *std::exchange(finger_, std::nullopt);
+    if (finger.drags) return fingerButton(SDL_MOUSEBUTTONUP, SDL_BUTTON_LEFT, at);
+    const Uint8 button = event.timestamp - finger.since >= longPress ? SDL_BUTTON_RIGHT : SDL_BUTTON_LEFT;
+    fingerButton(SDL_MOUSEBUTTONDOWN, button, finger.at);
+    fingerButton(SDL_MOUSEBUTTONUP, button, finger.at);
+}
+
 // --- the keyboard
+
+// A pad's key is a key, with the character that it would type.
+void Events::takePadKey(int code, bool down) {
+    pending_.push_back({.kind = down ? Input::Kind::keyDown : Input::Kind::keyUp, .code = code});
+    if (down) taps_.note(code, SDL_GetTicks64());
+    const bool types = code == key::enter || code == key::space || code == key::tab || code == key::escape;
+    if (down && types) pressCharacter(static_cast<char>(code));
+}
 
 // F11 and Alt+Enter: full screen; F8: the next way of enlarging. The game never sees them.
 bool Events::takeOwnKey(const SDL_KeyboardEvent& event) {
@@ -239,6 +306,7 @@ void Events::pressCharacter(char character) {
 
 std::array<std::uint8_t, 256> Events::keys() {
     auto held = heldKeys();
+    pad_.addTo(held);
     taps_.addTo(held, SDL_GetTicks64());
     return held;
 }

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "platform/sdl/cursors.h"
+#include "platform/sdl/gamepad.h"
 #include "platform/sdl/keys.h"
 #include "platform/sdl/screen.h"
 #include "platform/window/backend.h"
@@ -34,6 +35,11 @@ public:
     // The game shall stand still from now on, or go on: the native window was minimised, or if the player wants
     // that the keyboard went to another program.
     std::function<void(bool stands)> onStanding;
+    // Takes game pads as keyboards.
+    void usePad(bool on) { pad_.use(on); }
+    // Fingers: a tap is a click, a long one a click of the right button, a drag a drag. Otherwise the window
+    // system's own likeness of a mouse holds, which knows no right button.
+    void useTouch(bool on);
     void setPausesAway(bool on) { pausesAway_ = on; }
 
     // Keys that are down, or were since this was asked last.
@@ -47,6 +53,10 @@ private:
     void takeUp(const SDL_MouseButtonEvent& event);
     void takeWheel(const SDL_MouseWheelEvent& event);
     void takeKey(const SDL_KeyboardEvent& event);
+    void takePadKey(int code, bool down);
+    void takeFinger(const SDL_TouchFingerEvent& event);
+    void fingerButton(Uint32 type, Uint8 button, Point at);
+    void fingerMove(Point at, Uint32 held);
     void tellStanding();
     bool takeOwnKey(const SDL_KeyboardEvent& event);
     void takeText(const char* utf8);
@@ -64,9 +74,18 @@ private:
     bool overClient_ = true;     // the pointer is over the topmost window's client area
     int clicksBefore_ = 0;       // clicks that another window has had of the present run of clicks
     int clicks_ = 0;
+    struct Finger {
+        SDL_FingerID id = 0;
+        Point at;  // where it came down
+        Uint32 since = 0;
+        bool drags = false;
+    };
+    std::optional<Finger> finger_;
+    GamePad pad_{[this](int code, bool down) { takePadKey(code, down); }};
     bool minimised_ = false;
     bool away_ = false;  // the keyboard is another program's
     bool pausesAway_ = false;
+    bool touches_ = false;
 };
 
 }  // namespace zentrox::sdl

@@ -127,6 +127,12 @@ void Screen::shape() {
     SDL_SetWindowResizable(native_.get(), sizable ? SDL_TRUE : SDL_FALSE);
 }
 
+Size Screen::nativePoints() const {
+    Size points;
+    if (native_) SDL_GetWindowSize(native_.get(), &points.w, &points.h);
+    return points;
+}
+
 void Screen::measure() {
     Size points;
     SDL_GetWindowSize(native_.get(), &points.w, &points.h);

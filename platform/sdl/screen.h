@@ -45,6 +45,9 @@ public:
     // The client area that the bottommost window should have, if that is another one than it has.
     std::optional<Size> resizeWanted() const;
 
+    // The size of the native window in the units that its events count in.
+    Size nativePoints() const;
+
     bool fullScreen() const { return fullScreen_; }
     void setFullScreen(bool on);
     Enlarging enlarging() const { return enlarging_; }

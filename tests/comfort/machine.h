@@ -17,6 +17,8 @@ public:
     Enlarging enlarging() override { return Enlarging::whole; }
     void setEnlarging(Enlarging /*how*/) override {}
     void setPausesAway(bool /*on*/) override {}
+    void usePad(bool /*on*/) override {}
+    void useTouch(bool /*on*/) override {}
     void setSoundPaused(bool paused) override { soundPaused.push_back(paused); }
     void setOverlay(std::function<void(Bitmap&, const Rect&, const Rect&)> /*overlay*/) override {}
     void refreshOverlay() override {}

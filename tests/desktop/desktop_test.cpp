@@ -235,5 +235,112 @@ TEST(Desktop, MinimisedTheClockStandsStill) {
     EXPECT_EQ(told, (std::vector<bool>{true, false}));
 }
 
+// A finger on the dialog; the display's window is 640 by 483.
+void finger(Uint32 type, Point at, Uint32 when, SDL_FingerID id = 1) {
+    SDL_Event event{};
+    event.tfinger.type = type;
+    event.tfinger.timestamp = when;
+    event.tfinger.fingerId = id;
+    event.tfinger.x = (static_cast<float>(at.x) + 0.5F) / 640;
+    event.tfinger.y = (static_cast<float>(at.y) + 0.5F) / 483;
+    SDL_PeepEvents(&event, 1, SDL_ADDEVENT, 0, 0);  // with its own time
+}
+
+std::vector<std::pair<Input::Kind, Button>> kindsOf(const std::vector<Input>& all) {
+    std::vector<std::pair<Input::Kind, Button>> kinds;
+    for (const Input& input : all) kinds.emplace_back(input.kind, input.button);
+    return kinds;
+}
+
+TEST(Desktop, AFingerTapsLooksAndDrags) {
+    using Kind = Input::Kind;
+    Stage stage;
+    stage.open();
+    const Point place = client + Point{20, 20};
+    finger(SDL_FINGERDOWN, place, 1000);
+    finger(SDL_FINGERUP, place, 1100);
+    EXPECT_TRUE(stage.inputs().empty()) << "out of the box the window system's mouse is all";
+
+    stage.desktop.useTouch(true);
+    using Kinds = std::vector<std::pair<Kind, Button>>;
+    finger(SDL_FINGERDOWN, place, 1000);
+    finger(SDL_FINGERDOWN, place + Point{50, 0}, 1010, 2);  // a second one is nobody's
+    finger(SDL_FINGERUP, place + Point{50, 0}, 1020, 2);
+    finger(SDL_FINGERUP, place, 1100);
+    EXPECT_EQ(kindsOf(stage.inputs()),
+              (Kinds{{Kind::move, Button::none}, {Kind::press, Button::left}, {Kind::release, Button::left}}));
+    finger(SDL_FINGERDOWN, place, 2000);
+    finger(SDL_FINGERMOTION, place + Point{3, 3}, 2300);  // no hand is quite still
+    finger(SDL_FINGERUP, place, 2600);
+    EXPECT_EQ(kindsOf(stage.inputs()),
+              (Kinds{{Kind::move, Button::none}, {Kind::press, Button::right}, {Kind::release, Button::right}}));
+    finger(SDL_FINGERDOWN, place, 3000);
+    finger(SDL_FINGERMOTION, place + Point{40, 0}, 3100);
+    finger(SDL_FINGERUP, place + Point{60, 0}, 3900);
+    const auto drag = stage.inputs();
+    EXPECT_EQ(kindsOf(drag), (Kinds{{Kind::move, Button::none},
+                                    {Kind::press, Button::left},
+                                    {Kind::move, Button::left},
+                                    {Kind::release, Button::left}}));
+    EXPECT_EQ(drag.at(1).at, (Point{20, 20})) << "a drag begins where the finger came down";
+    EXPECT_EQ(drag.at(3).at, (Point{80, 20}));
+    stage.desktop.useTouch(false);
+}
+
+TEST(Desktop, AVirtualPadIsAKeyboard) {
+    Stage stage;
+    stage.open();
+    SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");  // nothing has the keyboard here
+    stage.desktop.usePad(true);
+    const int device = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, SDL_CONTROLLER_AXIS_MAX,
+                                                 SDL_CONTROLLER_BUTTON_MAX, 0);
+    ASSERT_GE(device, 0) << SDL_GetError();
+    stage.drain();
+    SDL_Joystick* const stick = SDL_JoystickOpen(device);
+    ASSERT_NE(stick, nullptr);
+    const auto codes = [&] {
+        SDL_JoystickUpdate();
+        std::vector<int> all;
+        for (const Input& input : stage.inputs())
+            if (input.code != 0) all.push_back(input.kind == Input::Kind::keyDown ? input.code : -input.code);
+        return all;
+    };
+    SDL_JoystickSetVirtualButton(stick, SDL_CONTROLLER_BUTTON_A, 1);
+    EXPECT_EQ(codes(), (std::vector<int>{key::enter}));
+    EXPECT_EQ(stage.desktop.keys()[key::enter], 128);
+    SDL_JoystickSetVirtualButton(stick, SDL_CONTROLLER_BUTTON_A, 0);
+    EXPECT_EQ(codes(), (std::vector<int>{-key::enter}));
+    SDL_JoystickSetVirtualAxis(stick, SDL_CONTROLLER_AXIS_LEFTX, -30000);
+    EXPECT_EQ(codes(), (std::vector<int>{key::left}));
+    SDL_JoystickSetVirtualAxis(stick, SDL_CONTROLLER_AXIS_LEFTX, -15000);
+    EXPECT_TRUE(codes().empty()) << "held until it is nearly back";
+    SDL_JoystickSetVirtualAxis(stick, SDL_CONTROLLER_AXIS_LEFTX, 0);
+    EXPECT_EQ(codes(), (std::vector<int>{-key::left}));
+    SDL_JoystickClose(stick);
+    SDL_JoystickDetachVirtual(device);
+    stage.desktop.usePad(false);
+}
+
+TEST(Desktop, AwayFromItsFocusItStandsStillIfThePlayerWants) {
+    Stage stage;
+    stage.open();
+    std::vector<bool> paused;
+    stage.desktop.onPause = [&](bool on) { paused.push_back(on); };
+    Stage::window(SDL_WINDOWEVENT_FOCUS_LOST);
+    stage.drain();
+    EXPECT_TRUE(paused.empty());
+    Stage::window(SDL_WINDOWEVENT_FOCUS_GAINED);
+    stage.desktop.setPausesAway(true);
+    Stage::window(SDL_WINDOWEVENT_FOCUS_LOST);
+    Stage::window(SDL_WINDOWEVENT_EXPOSED);  // seen again, and still away
+    stage.drain();
+    const Milliseconds then = stage.desktop.clock();
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    EXPECT_EQ(stage.desktop.clock(), then);
+    Stage::window(SDL_WINDOWEVENT_FOCUS_GAINED);
+    stage.drain();
+    EXPECT_EQ(paused, (std::vector<bool>{true, false}));
+}
+
 }  // namespace
 }  // namespace zentrox::sdl

@@ -84,8 +84,7 @@ Json asJson(const RoomMap& map) {
     }
     for (std::size_t i = 0; i < map.lines.size(); ++i) {
         const RoomMap::Line& line = map.lines[i];
-        Json one{
-            {"a", line.from}, {"b", line.to}, {"ways", line.ways}, {"both", line.both}, {"t", line.labels}};
+        Json one{{"a", line.from}, {"b", line.to}, {"ways", line.ways}, {"both", line.both}, {"t", line.labels}};
         put(one, map.drawing.lines[i]);
         out["lines"].push_back(std::move(one));
     }

@@ -17,8 +17,8 @@ double widthOf(std::string_view utf8);
 
 // So many characters at most, the last of them dots where something is left out.
 std::string shortened(std::string utf8, std::size_t most);
-// Lines of so many characters at most, but for words that are longer; the first begins behind `before` others. At least
-// one line.
+// Lines of so many characters at most, but for words that are longer; the first begins behind `before` others. At
+// least one line.
 std::vector<std::string> brokenInto(const std::string& utf8, std::size_t most, std::size_t before);
 
 // `A und nicht B oder C`

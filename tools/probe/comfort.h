@@ -16,6 +16,8 @@ public:
     Enlarging enlarging() override { return enlarging_; }
     void setEnlarging(Enlarging how) override { enlarging_ = how; }
     void setPausesAway(bool /*on*/) override {}
+    void usePad(bool /*on*/) override {}
+    void useTouch(bool /*on*/) override {}
     void setSoundPaused(bool paused) override { sound_.setPaused(paused); }
     void setOverlay(std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay) override {
         backend_.overlay = std::move(overlay);
