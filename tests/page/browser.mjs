@@ -5,13 +5,12 @@ import { execFileSync, spawnSync } from "node:child_process";
 import { copyFileSync, existsSync, mkdirSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync } from "node:fs";
 import path from "node:path";
 import { pathToFileURL } from "node:url";
-import { Browser, wait } from "../web/driver.mjs";
+import { Browser, chromium, installed, wait } from "../web/driver.mjs";
+import { Firefox } from "../web/marionette.mjs";
 
-const [program, work, demo, demoData, trap, probe] = process.argv.slice(2);
-const chromium = ["chromium", "chromium-browser", "google-chrome"].find((name) => {
-    try { return execFileSync("which", [name], { stdio: ["ignore", "pipe", "ignore"] }).length > 0; } catch { return false; }
-});
-if (!chromium) {
+const [zentroxStory, work, demo, demoData, trap, probe] = process.argv.slice(2);
+const program = chromium();
+if (!program) {
     console.log("There is no Chromium.");
     process.exit(77);
 }
@@ -20,9 +19,9 @@ function check(name, good, seen = "") {
     console.log((good ? "ok      " : "FAILED  ") + name + (good || seen === "" ? "" : ": " + JSON.stringify(seen)));
     if (!good) ++failures;
 }
-const run = (...words) => execFileSync(program, words, { stdio: ["ignore", "pipe", "pipe"], encoding: "utf8" });
+const run = (...words) => execFileSync(zentroxStory, words, { stdio: ["ignore", "pipe", "pipe"], encoding: "utf8" });
 // What a call says, whatever comes of it.
-const outputOf = (words, env = process.env) => spawnSync(program, words, { env, encoding: "utf8" });
+const outputOf = (words, env = process.env) => spawnSync(zentroxStory, words, { env, encoding: "utf8" });
 
 // A story that does its best to break the page, in a directory whose name has to be escaped in addresses.
 const evil = `Person Ada
@@ -120,6 +119,7 @@ async function lookAround(page, name) {
 async function evilRound(browser) {
     const url = make();
     const page = await browser.page({ width: 1440, height: 900 });
+    await page.send("Browser.grantPermissions", { permissions: ["clipboardReadWrite", "clipboardSanitizedWrite"] }).catch(() => {});
     await open(page, url);
     check("the title is text", (await page.evaluate(text("#title"))) === "A & </title><script>window.slipped=4</script>");
     check("the map shows the rooms", (await page.evaluate(`document.querySelectorAll("#view .box.room, #view .cards a").length`)) === 3, await page.evaluate(text("#view")));
@@ -152,6 +152,9 @@ async function evilRound(browser) {
     await page.key(13, "Enter");
     const polygon = await page.evaluate(text(".drawnLine"));
     check("a polygon is drawn", /^Vieleck (\d+ \d+, ){2}\d+ \d+$/.test(polygon), polygon);
+    await page.send("Page.bringToFront");
+    const kept = await page.evaluate(`navigator.clipboard.readText()`).catch((failure) => failure.message);
+    check("what is drawn is in the clipboard", kept === polygon, kept);
     writeFileSync(path.join(work, "drawn.story"), `Raum "Start.lsd"\nObjekt "x"\nFläche\n${rectangle}\n${polygon}\nRechts\n`);
     run("build", path.join(work, "drawn.story"), "--into", path.join(work, "drawn"));
     check("and both compile", existsSync(path.join(work, "drawn/rooms/Start.lsd")));
@@ -232,6 +235,23 @@ async function oddRound(browser) {
     await page.close();
 }
 
+// The same page in another browser, in short.
+async function firefoxRound() {
+    const firefox = installed(["firefox-esr", "firefox"]), file = path.join(work, "proof.html");
+    if (!firefox || !existsSync(file)) return console.log("not tried: there is no Firefox");
+    const browser = await Firefox.start({ program: firefox });
+    try {
+        const page = await browser.page({ width: 1280, height: 800 });
+        await page.open(pathToFileURL(file).href);
+        await page.until(`document.documentElement.dataset.ready === "yes"`, "the page");
+        const failed = await page.evaluate(`${JSON.stringify(views)}.filter((view) => { try { show("#/" + view); return !document.querySelector("#view h1"); } catch (failure) { return true; } })`);
+        check("Firefox shows all views", failed.length === 0, failed);
+        check("and places the map", await page.evaluate(`(show("#/karte"), document.querySelectorAll("#view .box.room").length === 2)`));
+    } finally {
+        await browser.stop();
+    }
+}
+
 async function demoRound(browser) {
     if (!existsSync(path.join(demoData, "graphics"))) return console.log("not tried: the demo's data is not there");
     const file = path.join(work, "demo.html");
@@ -264,13 +284,14 @@ async function demoRound(browser) {
     }
 }
 
-const browser = await Browser.start({ program: chromium, options: ["--autoplay-policy=no-user-gesture-required"] });
+const browser = await Browser.start({ program, options: ["--autoplay-policy=no-user-gesture-required"] });
 try {
     await evilRound(browser);
     await oddRound(browser);
     await proofRound(browser);
     await ranRound(browser);
     await demoRound(browser);
+    await firefoxRound();
 } catch (failure) {
     check(failure.message, false);
     const last = browser.pages[browser.pages.length - 1];

@@ -1,6 +1,7 @@
 #include "tools/page/talks.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <utility>
 
@@ -21,6 +22,10 @@ using LineKind = TalkBox::Line::Kind;
 
 constexpr std::size_t longestLine = 40;  // characters
 constexpr std::size_t longestCommand = 44;
+// Commands that tell a reader what a talk does, besides its words.
+constexpr std::array told{"SetzeMerker"_op, "LöscheMerker"_op, "NimmGegenstand"_op, "GibGegenstand"_op,
+                          "Raumwechsel"_op, "Spiel"_op,        "BöseÄndern"_op,     "System"_op,
+                          "ObjektAn"_op,    "ObjektAus"_op,    "Film"_op,           "CountDownSetzen"_op};
 // Pixels, as the page writes it.
 constexpr double textPart = 0.9;     // of what is said, whose letters are narrower
 constexpr double answerPart = 1.12;  // of answers, which are bold
@@ -146,38 +151,37 @@ private:
 
     Ends plain(const Statement& statement, Ends ends, bool& over) {
         const std::int32_t number = commandOf(statement);
-        const Opcode* const row = findOpcode(number);
-        if (row == nullptr) return ends;
-        if (number == "Text"_op) {
-            const std::size_t box = boxForMore(ends, statement.front().place);
-            put(box, LineKind::text, "", toUtf8(textBehind(statement)));
-            return {{box, {}}};
-        }
-        const Text name = statement.size() > 1 ? story::normalised(statement[1].value) : Text();
-        if (number == "Marke"_op) {
-            const std::size_t box = this->box(TalkBox::Kind::says, statement.front().place, ends);
-            put(box, LineKind::command, "",
-                toUtf8("Marke " + (statement.size() > 1 ? statement[1].value : Text())));
-            marks_.emplace(name, box);
-            open_ = true;
-            return {{box, {}}};
-        }
+        if (number == "Text"_op) return text(statement, ends);
+        if (number == "Marke"_op) return mark(statement, ends);
         if (number == "Springe"_op) {
             over = true;
-            auto& loose = jumps_[name];
-            loose.insert(loose.end(), ends.begin(), ends.end());
+            append(jumps_[nameIn(statement)], std::move(ends));
             return {};
         }
-        const bool ends_ = row->next == Next::ends || row->next == Next::word;
-        static const std::vector<std::int32_t> told{"SetzeMerker"_op,   "LöscheMerker"_op, "NimmGegenstand"_op,
-                                                    "GibGegenstand"_op, "Raumwechsel"_op,  "Spiel"_op,
-                                                    "BöseÄndern"_op,    "System"_op,       "ObjektAn"_op,
-                                                    "ObjektAus"_op,     "Film"_op,         "CountDownSetzen"_op};
         if (std::find(told.begin(), told.end(), number) == told.end()) return ends;
         Ends after = command(statement, ends);
-        if (row->next == Next::ends) talk_.boxes[after[0].box].kind = TalkBox::Kind::leaves;
-        over = ends_ && (row->next == Next::ends || (name != "save" && name != "open" && name != "abspann"));
+        const bool leaves = number == "Raumwechsel"_op;
+        if (leaves) talk_.boxes[after[0].box].kind = TalkBox::Kind::leaves;
+        over = leaves || (number == "System"_op && !goesOn(nameIn(statement)));
         return over ? Ends() : after;
+    }
+    static Text nameIn(const Statement& statement) {
+        return statement.size() > 1 ? story::normalised(statement[1].value) : Text();
+    }
+    // A word of `System` behind which the script runs on.
+    static bool goesOn(TextView word) { return word == "save" || word == "open" || word == "abspann"; }
+
+    Ends text(const Statement& statement, const Ends& ends) {
+        const std::size_t number = boxForMore(ends, statement.front().place);
+        put(number, LineKind::text, "", toUtf8(textBehind(statement)));
+        return {{number, {}}};
+    }
+
+    Ends mark(const Statement& statement, const Ends& ends) {
+        const std::size_t number = box(TalkBox::Kind::says, statement.front().place, ends);
+        marks_.emplace(nameIn(statement), number);
+        open_ = true;
+        return command(statement, {{number, {}}});
     }
 
     Ends conditions(const Node& node, Ends ends, bool& over) {
