@@ -1,5 +1,7 @@
 #include "tools/page/drawings.h"
 
+#include <cmath>
+
 namespace zentrox::page {
 
 namespace {
@@ -41,7 +43,7 @@ const char* wordOf(TalkBox::Line::Kind kind) {
 }
 
 Json number(double value) {
-    return static_cast<int>(value + 0.5);
+    return std::lround(value);
 }
 
 Json drawn(const Drawing& drawing) {
