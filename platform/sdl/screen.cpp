@@ -28,8 +28,9 @@ void endOnHangUp() {
 }
 
 // The plain window surface without acceleration starts faster, takes less memory and costs less than what SDL
-// chooses by itself on a machine without a graphics card. A hint set in the environment wins.
-void startVideo() {
+// chooses by itself on a machine without a graphics card. A hint set in the environment wins. SDL keeps its hints
+// without a lock, and the thread of the sound reads them: they have to stand before it runs.
+void setHints() {
     SDL_SetHintWithPriority(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0", SDL_HINT_DEFAULT);
     SDL_SetHintWithPriority(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1", SDL_HINT_DEFAULT);
     SDL_SetHintWithPriority(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0", SDL_HINT_DEFAULT);
@@ -38,6 +39,9 @@ void startVideo() {
     SDL_SetHintWithPriority(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0", SDL_HINT_DEFAULT);
     SDL_SetHintWithPriority(SDL_HINT_APP_NAME, program, SDL_HINT_DEFAULT);
     SDL_setenv("SDL_VIDEO_X11_WMCLASS", "zentrox", 0);
+}
+
+void startVideo() {
     // Without a display SDL takes a driver that shows nothing; only who names it can want that.
     const bool works = SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
     const std::string_view driver = works ? SDL_GetCurrentVideoDriver() : "";
@@ -60,6 +64,10 @@ bool plainFormat(const SDL_Surface& surface) {
 }
 
 }  // namespace
+
+Screen::Screen() {
+    setHints();
+}
 
 // The window system takes the native window back with the process. Destroyed before that, it could still be the
 // target of an event that SDL sends to wake itself over a connection of its own; the answer to that is an error,

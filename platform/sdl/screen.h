@@ -13,7 +13,7 @@ namespace zentrox::sdl {
 
 class Screen {
 public:
-    Screen() = default;
+    Screen();
     ~Screen();
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
