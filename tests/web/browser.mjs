@@ -9,7 +9,7 @@ import { serve } from "../../scripts/serve.mjs";
 import { Browser, chromium, wait } from "./driver.mjs";
 import { gamesRound } from "./games.mjs";
 import { filmRound, lossRound, networkRound } from "./media.mjs";
-import { check, colours, failures, keepPictures, load, save, shot, state, toIdle, toMenu, toRoom, toStart } from "./steps.mjs";
+import { check, colours, failures, fromStartToMenu, keepPictures, load, middleOf, save, shot, state, toIdle, toMenu, toRoom, toStart } from "./steps.mjs";
 
 const [directory, pictures, games, walks] = process.argv.slice(2);
 const found = chromium();
@@ -20,7 +20,7 @@ if (!found || !existsSync(path.join(directory, "index.html"))) {
 if (pictures) mkdirSync(pictures, { recursive: true });
 keepPictures(pictures && path.join(pictures, "/"));
 
-async function desktopRound(browser, url, asked, downloads) {
+async function desktopRound(browser, url, asked, downloads, transferred) {
     const page = await browser.page({ width: 1366, height: 768 });
     await toStart(page, url);
     await shot(page, "start");
@@ -30,7 +30,8 @@ async function desktopRound(browser, url, asked, downloads) {
     await page.evaluate(`(() => { const s = document.createElement("script"); s.textContent = "window.slipped = 1"; document.head.append(s); })()`);
     check("the policy holds", (await page.evaluate(`window.slipped === undefined`)));
     page.complaints.length = 0;  // the one about that script
-    await toMenu(page, url);
+    await fromStartToMenu(page);
+    check("the menu stands within 2 MB of transfer", transferred() < 2e6, transferred());
     await shot(page, "menu");
     await toRoom(page);
     await shot(page, "room");
@@ -76,6 +77,31 @@ async function desktopRound(browser, url, asked, downloads) {
     await page.close();
 }
 
+// The size of the picture, full screen, and the page as an app.
+async function shellRound(browser, url) {
+    const page = await browser.page({ width: 1366, height: 768, ratio: 1.5 });
+    await toMenu(page, url);
+    await toRoom(page);
+    const scale = `(() => { const c = document.querySelector("#stage canvas"); return c.getBoundingClientRect().width * devicePixelRatio / c.width; })()`;
+    const press = (id) => page.evaluate(`document.getElementById("${id}").click()`);
+    const filling = await page.evaluate(scale);
+    await press("toolScale");
+    const whole = await page.evaluate(scale);
+    check("the picture fills the window, or stands in whole multiples", filling > 2 && Math.abs(whole - Math.floor(filling)) < 0.01, [filling, whole]);
+    await press("toolScale");
+    await page.key(122, "F11");
+    await page.until("document.fullscreenElement !== null", "full screen by a key");
+    await page.key(122, "F11");
+    await page.until("document.fullscreenElement === null", "the end of full screen");
+    await page.click(...await middleOf(page, "toolFull"));
+    await page.until("document.fullscreenElement !== null", "full screen by a button");
+    check("full screen by a key and by a button", true);
+    const { errors } = await page.send("Page.getAppManifest");
+    const { installabilityErrors } = await page.send("Page.getInstallabilityErrors");
+    check("it can be installed as an app", errors.length + installabilityErrors.length === 0, [errors, installabilityErrors]);
+    await page.close();
+}
+
 async function phoneRound(browser, url) {
     const page = await browser.page({ width: 740, height: 360, ratio: 2, phone: true });
     await toStart(page, url);
@@ -108,12 +134,14 @@ async function offlineRound(browser, url, server) {
 
 const downloads = path.join(os.tmpdir(), "zentrox-downloads-" + process.pid);
 mkdirSync(downloads);
-const server = await serve(directory);
+let bytes = 0;
+const server = await serve(directory, 0, (url, size) => { bytes += size; });
 const url = `http://localhost:${server.address().port}/`;
 const browser = await Browser.start({ program: found });
 try {
     const asked = (requests) => requests.every((request) => /^(data|blob):/.test(request) || request.startsWith(url));
-    await desktopRound(browser, url, asked, downloads);
+    await desktopRound(browser, url, asked, downloads, () => bytes);
+    await shellRound(browser, url);
     await phoneRound(browser, url);
     for (const [made, rounds] of [[games, [gamesRound]], [walks, [filmRound, lossRound, networkRound]]]) {
         if (!made || !existsSync(path.join(made, "index.html"))) continue;

@@ -42,11 +42,14 @@ export async function begin(page) {
     if (page.phone) await page.tap(x, y);
     else await page.click(x, y);
 }
-export async function toMenu(page, url) {
-    await toStart(page, url);
+export async function fromStartToMenu(page) {
     await begin(page);
     await page.until(topWindow("Menu"), "the menu");
     await page.until(colours + " > 30", "a picture of the menu");
+}
+export async function toMenu(page, url) {
+    await toStart(page, url);
+    await fromStartToMenu(page);
 }
 export async function toRoom(page) {
     if (page.phone) await page.tap(...await partOf(page, 0.2, 0.45));  // a little below the line
