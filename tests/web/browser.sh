@@ -5,11 +5,11 @@ set -u
 source=$1 build=$2 work=$3 script=${4:-browser.mjs}
 if [ -d "$source/build/web-engine/page" ]; then
     for data in games walks; do
-        [ -d "$build/tests/$data/data" ] || continue
+        [ -d "$build/tests/$data/data" ] || { echo "left out: the data of tests/$data are not built"; continue; }
         # Some of the data is broken on purpose, which is told and does no harm.
-        "$build/zentrox-story" web "$build/tests/$data/data" --into "$work/$data" --engine "$source/build/web-engine" \
-            --title Spiele >"$work/$data.log" 2>&1
-        [ -f "$work/$data/index.html" ] || { cat "$work/$data.log"; exit 1; }
+        "$build/zentrox-story" web "$build/tests/$data/data" --into "$work/page-$data" --engine "$source/build/web-engine" \
+            --title Spiele >"$work/page-$data.log" 2>&1
+        [ -f "$work/page-$data/index.html" ] || { cat "$work/page-$data.log"; exit 1; }
     done
 fi
-exec node "$source/tests/web/$script" "$source/build/web" "$work/pictures" "$work/games" "$work/walks"
+exec node "$source/tests/web/$script" "$source/build/web" "$work/pictures" "$work/page-games" "$work/page-walks"

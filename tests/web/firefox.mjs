@@ -57,7 +57,8 @@ async function gameRound(browser, server) {
     }
 }
 
-const servers = await Promise.all([directory, games, walks].filter(Boolean).map((place) => serve(place)));
+const there = (place) => place && existsSync(path.join(place, "index.html"));
+const servers = await Promise.all([directory, games, walks].map((place) => (there(place) ? serve(place) : null)));
 const browser = await Firefox.start({ program: found });
 try {
     await storyRound(browser, servers[0]);
@@ -68,6 +69,6 @@ try {
     await shot(await browser.page(), "failure").catch(() => {});
 } finally {
     await browser.stop();
-    servers.forEach((server) => { server.close(); server.closeAllConnections(); });
+    servers.filter(Boolean).forEach((server) => { server.close(); server.closeAllConnections(); });
 }
 process.exit(failures ? 1 : 0);
