@@ -75,7 +75,7 @@ void hover(benchmark::State& state) {
     answer(state, "textDocument/hover", "ESEL_FERTIG", "GETAN_7_3");
 }
 void references(benchmark::State& state) {
-    answer(state, "textDocument/references", "GibGegenstand ANGEL", "ring.bmp");
+    answer(state, "textDocument/references", "ANGEL", "ring.bmp");
 }
 void rename(benchmark::State& state) {
     answer(state, "textDocument/rename", "ESEL_FERTIG", "GETAN_7_3");

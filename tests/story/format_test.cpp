@@ -1,5 +1,6 @@
 // Sources as they are set: what comes of single lines, and that nothing of a story changes.
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include "story_support.h"
@@ -133,6 +134,55 @@ TEST(Format, WhatIsCompiledStaysTheSame) {
     said.str("");
     EXPECT_EQ(run({"format", at("after"), "--check"}, said, said), clean);
     EXPECT_EQ(said.str(), "");
+}
+
+// Lines that are torn apart, joined, or out of their place: set twice is set once, and all that was said is still
+// said.
+TEST(Format, DamagedSourcesToo) {
+    std::mt19937 random(7);
+    const std::vector<std::string> pieces{"\"",
+                                          "\n",
+                                          ",",
+                                          "//",
+                                          "{09}",
+                                          "{",
+                                          "Sonst\n",
+                                          "EndeWenn\n",
+                                          "\r\n",
+                                          "\t",
+                                          "Bei A\n",
+                                          "\"x\"\n",
+                                          "Objekt \"x\"\n",
+                                          "EndeGespräch\n",
+                                          "Frage \"?\"\n",
+                                          "\x01",
+                                          "日",
+                                          "Einbinden x\n",
+                                          ":"};
+    std::string all;
+    for (const auto& [name, text] : filesBelow(DEMO))
+        if (name.ends_with(".story")) all += text;
+    const auto said = [](const std::string& source) {
+        Findings findings;
+        std::vector<Silence> silences;
+        std::vector<Place> comments;
+        std::size_t words = 0;
+        for (const Statement& s : scan(source, 0, findings, silences, &comments)) words += s.size();
+        return std::make_tuple(words, comments.size(), silences.size(), findings.all().size());
+    };
+    int sets = 0;
+    for (int i = 0; i < 400; ++i) {
+        std::string text = all.substr(random() % (all.size() - 2000), 1500);
+        for (unsigned k = 0; k < random() % 12; ++k)
+            text.replace(random() % text.size(), random() % 12, pieces[random() % pieces.size()]);
+        const auto set = formatted(text);
+        if (!set) continue;  // a letter torn apart
+        ++sets;
+        EXPECT_EQ(formatted(*set), *set) << text;
+        EXPECT_EQ(said(*set), said(text)) << text;
+        if (HasFailure()) return;
+    }
+    EXPECT_GT(sets, 200);
 }
 
 TEST(Format, TellsWhatItCantRead) {

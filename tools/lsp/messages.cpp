@@ -14,6 +14,7 @@ constexpr std::string_view lengthField = "content-length:";
 constexpr std::size_t longestLine = 1000;          // of a header; what is longer is none
 constexpr std::size_t longestMessage = 1U << 25U;  // bytes
 constexpr int deepestMessage = 100;
+constexpr std::size_t mostWaiting = 200;
 
 std::string lowered(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
@@ -107,7 +108,7 @@ void writeMessage(std::ostream& out, const Json& message) {
 }
 
 void Inbox::put(Incoming incoming) {
-    const std::lock_guard lock(mutex_);
+    std::unique_lock lock(mutex_);
     const Json& message = incoming.message;
     if (message.is_object() && message.value("method", Json()) == "$/cancelRequest") {
         const Json params = message.value("params", Json());
@@ -119,6 +120,7 @@ void Inbox::put(Incoming incoming) {
         if (waits && !id.is_null()) cancelled_.insert(id);
         return;
     }
+    gone_.wait(lock, [&] { return waiting_.size() < mostWaiting; });
     waiting_.push_back(std::move(incoming));
     come_.notify_one();
 }
@@ -135,6 +137,7 @@ std::optional<Inbox::Taken> Inbox::take() {
     if (waiting_.empty()) return std::nullopt;
     Taken taken{std::move(waiting_.front()), false};
     waiting_.pop_front();
+    gone_.notify_one();
     if (taken.incoming.message.is_object()) {
         const Json id = taken.incoming.message.value("id", Json());
         taken.cancelled = !id.is_null() && cancelled_.erase(id) > 0;

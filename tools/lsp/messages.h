@@ -40,6 +40,7 @@ void writeMessage(std::ostream& out, const Json& message);
 // Messages that wait to be handled. One thread puts them in, another takes them out.
 class Inbox {
 public:
+    // Waits while so many are there that nobody keeps up with them.
     void put(Incoming incoming);
     // There will be no more.
     void close();
@@ -57,6 +58,7 @@ public:
 private:
     std::mutex mutex_;
     std::condition_variable come_;
+    std::condition_variable gone_;
     std::deque<Incoming> waiting_;
     std::set<Json> cancelled_;  // ids of requests that still wait
     bool closed_ = false;

@@ -67,7 +67,9 @@ Position positionIn(const Json& json) {
 }
 
 Range Here::range(int inFile, int onLine, int from, int to) const {
-    const Lines text = lines(story.file(inFile));
+    const auto found = known->find(inFile);
+    const Lines& text =
+        found != known->end() ? found->second : known->emplace(inFile, lines(story.file(inFile))).first->second;
     return {text.position(onLine, from, encoding), text.position(onLine, to, encoding)};
 }
 

@@ -39,6 +39,7 @@ struct Here {
     int line = 1;
     int column = 1;
     Encoding encoding = Encoding::utf16;
+    std::shared_ptr<std::map<int, Lines>> known = std::make_shared<std::map<int, Lines>>();  // by their files
 
     Lines lines(const fs::path& other) const { return Lines(workspace.text(other)); }
     Lines lines() const { return lines(path); }

@@ -134,9 +134,6 @@ void Workspace::parse(Analysis& story) {
     const auto sources = sourcesIn(story.directory);
     story.parsed = story::parseAll(sources, files_, story.findings);
     story.uses = story::usesOf(story.parsed.sources, story.parsed.names);
-    for (const story::Source& source : story.parsed.sources)
-        for (const story::Statement& statement : source.statements)
-            for (const story::Token& word : statement) story.ends[word.place] = word.end;
     if (!data_.empty())
         story.data = data_;
     else if (!sources.empty())

@@ -43,7 +43,6 @@ struct Analysis {
     story::Parsed parsed;
     story::Findings findings;  // settled, if `checked`; else those of the compiler alone
     std::vector<story::Use> uses;
-    std::map<story::Place, int> ends;  // the column behind each word, by where it begins
     bool checked = false;
 
     // The number of a file in it; -1 if it has no part in this story.

@@ -1,6 +1,7 @@
 #include "tools/story/area.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace zentrox::story {
 
@@ -10,11 +11,32 @@ namespace {
 constexpr int samples = 10;
 constexpr unsigned whiteFrom = 3 * 128;
 
+// A block of cells; the second ones are not in it any more.
+struct Cells {
+    int fromColumn = 0;
+    int toColumn = Maskenspalten;
+    int fromRow = 0;
+    int toRow = Maskenzeilen;
+};
+
+// All that an outline may touch.
+Cells cellsAround(const std::vector<Corner>& corners) {
+    const auto byX =
+        std::minmax_element(corners.begin(), corners.end(), [](auto& a, auto& b) { return a.x < b.x; });
+    const auto byY =
+        std::minmax_element(corners.begin(), corners.end(), [](auto& a, auto& b) { return a.y < b.y; });
+    const auto cell = [](double pixel, int most) {
+        return static_cast<int>(std::clamp(std::floor(pixel / Maskenzelle), 0.0, static_cast<double>(most)));
+    };
+    return {cell(byX.first->x - 1, Maskenspalten), cell(byX.second->x + 1 + Maskenzelle, Maskenspalten),
+            cell(byY.first->y - 1, Maskenzeilen), cell(byY.second->y + 1 + Maskenzelle, Maskenzeilen)};
+}
+
 template <typename Inside>
-bool addWhere(Maske& mask, const Inside& inside) {
+bool addWhere(Maske& mask, const Cells& cells, const Inside& inside) {
     bool any = false;
-    for (int column = 0; column < Maskenspalten; ++column) {
-        for (int row = 0; row < Maskenzeilen; ++row) {
+    for (int column = cells.fromColumn; column < cells.toColumn; ++column) {
+        for (int row = cells.fromRow; row < cells.toRow; ++row) {
             if (!inside(column, row)) continue;
             mask.set(column, row, true);
             any = true;
@@ -76,18 +98,22 @@ bool addRectangle(Maske& mask, Corner a, Corner b) {
         return a.x < (column + 1) * Maskenzelle && b.x > column * Maskenzelle && a.y < (row + 1) * Maskenzelle &&
                b.y > row * Maskenzelle && a.x < b.x && a.y < b.y;
     };
-    return addWhere(mask, holdsMiddle) || addWhere(mask, touches);
+    const Cells cells = cellsAround({a, b});
+    return addWhere(mask, cells, holdsMiddle) || addWhere(mask, cells, touches);
 }
 
 bool addPolygon(Maske& mask, const std::vector<Corner>& corners) {
-    return addWhere(mask, [&](int column, int row) { return insidePolygon(corners, middleOf(column, row)); }) ||
-           addWhere(mask, [&](int column, int row) { return touchesCell(corners, column, row); });
+    if (corners.empty()) return false;
+    const Cells cells = cellsAround(corners);
+    return addWhere(mask, cells,
+                    [&](int column, int row) { return insidePolygon(corners, middleOf(column, row)); }) ||
+           addWhere(mask, cells, [&](int column, int row) { return touchesCell(corners, column, row); });
 }
 
 bool addPicture(Maske& mask, const Bitmap& picture) {
     if (picture.empty()) return false;
-    return addWhere(mask, [&](int column, int row) { return whiteShare(picture, column, row) >= 0.5; }) ||
-           addWhere(mask, [&](int column, int row) { return whiteShare(picture, column, row) > 0; });
+    return addWhere(mask, {}, [&](int column, int row) { return whiteShare(picture, column, row) >= 0.5; }) ||
+           addWhere(mask, {}, [&](int column, int row) { return whiteShare(picture, column, row) > 0; });
 }
 
 }  // namespace zentrox::story

@@ -171,13 +171,19 @@ const Form& formOf(Arg arg) {
 }
 
 Text normalised(TextView word) {
-    constexpr std::array<std::pair<TextView, TextView>, 4> spelled{
-        {{"ä"_t, "ae"}, {"ö"_t, "oe"}, {"ü"_t, "ue"}, {"ß"_t, "ss"}}};
+    constexpr std::array<std::pair<char, TextView>, 4> spelled{
+        {{"ä"_t[0], "ae"}, {"ö"_t[0], "oe"}, {"ü"_t[0], "ue"}, {"ß"_t[0], "ss"}}};
     Text out;
-    for (const char c : lower(word)) {
-        const auto umlaut = std::find_if(spelled.begin(), spelled.end(), [&](auto& s) { return s.first[0] == c; });
+    out.reserve(word.size() + 2);
+    for (const char c : word) {
+        if (static_cast<unsigned char>(c) < 0x80) {
+            out += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+            continue;
+        }
+        const char small = lower(c);
+        const auto umlaut = std::find_if(spelled.begin(), spelled.end(), [&](auto& s) { return s.first == small; });
         if (umlaut == spelled.end())
-            out += c;
+            out += small;
         else
             out += umlaut->second;
     }

@@ -17,7 +17,11 @@ namespace {
 constexpr TextView carried = "GEGENSTAND ";
 
 bool isWord(const Statement& s, std::size_t i, TextView word) {
-    return i < s.size() && !s[i].quoted && normalised(s[i].value) == word;
+    if (i >= s.size() || s[i].quoted) return false;
+    // Most words are others, and no umlaut begins one of those that are asked for.
+    const Text& written = s[i].value;
+    if (written.empty() || written.size() > word.size() || lower(written[0]) != word[0]) return false;
+    return normalised(written) == word;
 }
 
 // The words of a statement from one on, joined as a name that may have blanks.
