@@ -23,10 +23,37 @@ constexpr std::array gamePaces{
     Choice{30, "30", "sehr langsam"_t},
 };
 
+constexpr std::array forwardWays{
+    Choice{0, "aus", "nein"_t},
+    Choice{1, "lesezeit", "nach der Lesezeit"_t},
+    Choice{2, "stimme", "nach der Stimme"_t},
+};
+
+constexpr std::array readingPaces{
+    Choice{95, "langsam", "langsam"_t},
+    Choice{60, "mittel", "mittel"_t},
+    Choice{35, "schnell", "schnell"_t},
+};
+
+constexpr std::array letterSizes{
+    Choice{100, "100", "wie immer"_t},
+    Choice{150, "150", "150 %"_t},
+    Choice{200, "200", "200 %"_t},
+};
+
+constexpr std::array speechWays{
+    Choice{0, "aus", "nein"_t},
+    Choice{1, "stimme", "mit der Sprachausgabe"_t},
+    Choice{2, "ablage", "in die Zwischenablage"_t},
+};
+
 constexpr TextView sound = "Ton";
 constexpr TextView picture = "Bild";
 constexpr TextView hands = "Bedienung";
 constexpr TextView games = "Spiele";
+constexpr TextView saving = "Spielstände"_t;
+constexpr TextView talk = "Texte";
+constexpr TextView reading = "Lesen";
 constexpr TextView percent = " %";
 
 constexpr SettingsRow volume(const char* key, int Settings::*field, TextView title) {
@@ -35,6 +62,11 @@ constexpr SettingsRow volume(const char* key, int Settings::*field, TextView tit
 
 constexpr SettingsRow yesOrNo(const char* key, bool Settings::*field, TextView page, TextView title) {
     return {.key = key, .field = field, .page = page, .title = title};
+}
+
+constexpr SettingsRow oneOf(const char* key, int Settings::*field, TextView page, TextView title,
+                            std::span<const Choice> choices) {
+    return {.key = key, .field = field, .page = page, .title = title, .choices = choices};
 }
 
 constexpr std::array rows{
@@ -60,6 +92,21 @@ constexpr std::array rows{
                 .choices = gamePaces},
     yesOrNo("durchwinken", &Settings::letThrough, games, "Nach drei Niederlagen fragen, ob es weitergehen soll"_t),
     SettingsRow{.key = "klangfont-gemeldet", .field = &Settings::soundFontTold, .page = sound, .shown = false},
+    yesOrNo("automatisch-speichern", &Settings::autosave, saving, "Von selbst speichern"_t),
+    yesOrNo("beenden-fragen", &Settings::askOnLeaving, saving,
+            "Vor dem Beenden fragen, wenn etwas verloren geht"_t),
+    yesOrNo("bilder-der-spielstaende", &Settings::richDialog, saving,
+            "Spielstände mit Bild; fragen vor dem Ersetzen"_t),
+    oneOf("buchstaben", &Settings::letters, talk, "Buchstaben"_t, letterSizes),
+    yesOrNo("klare-schrift", &Settings::clearFont, talk, "Klarere Schrift"_t),
+    yesOrNo("namen", &Settings::speakerNames, talk, "Namen vor dem, was gesagt wird"_t),
+    yesOrNo("untertitel", &Settings::captions, talk, "Geräusche in Worten"_t),
+    oneOf("vorlesen", &Settings::speechWay, talk, "Vorlesen"_t, speechWays),
+    yesOrNo("sofort", &Settings::instantText, reading, "Texte stehen sofort"_t),
+    yesOrNo("weiter-nur", &Settings::strictSkip, reading, "Weiter nur mit Klick, Leertaste, Eingabe"_t),
+    oneOf("weiter-von-selbst", &Settings::autoForward, reading, "Von selbst weiter"_t, forwardWays),
+    oneOf("lesetempo", &Settings::letterTime, reading, "Lesetempo"_t, readingPaces),
+    yesOrNo("gehoertes-merken", &Settings::rememberHeard, reading, "Gehörtes merken"_t),
 };
 
 constexpr const char* yes = "ja";

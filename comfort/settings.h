@@ -35,6 +35,22 @@ struct Settings {
 
     // --- what the player was told once
     bool soundFontTold = false;
+    // --- saved games
+    bool autosave = false;
+    bool askOnLeaving = false;  // where play would be lost
+    bool richDialog = false;    // pictures in the list; a question before a game is replaced
+
+    // --- texts
+    bool strictSkip = false;     // only a click, space or Enter reads on
+    bool instantText = false;    // no opening and closing of the band
+    int autoForward = 0;         // 1 after the time to read, 2 after the voice where there is one
+    int letterTime = 60;         // milliseconds to read a letter
+    bool rememberHeard = false;  // what was heard is known in later plays, too
+    int letters = 100;           // percent
+    bool clearFont = false;
+    bool speakerNames = false;
+    bool captions = false;
+    int speechWay = 0;  // 1 by the speech of the machine, 2 by the clipboard
 
     friend bool operator==(const Settings&, const Settings&) = default;
 };

@@ -9,6 +9,8 @@
 #include "comfort/hands.h"
 #include "comfort/pictures.h"
 #include "comfort/question.h"
+#include "comfort/keepsakes.h"
+#include "comfort/talk.h"
 #include "engine/files/titeldatei.h"
 #include "main/beginning.h"
 #include "main/desktopcomfort.h"
@@ -118,8 +120,15 @@ int play(const Options& options, const StoryPlace& place) {
     if (options.author) authors.emplace(options, comforts, record ? &record->writer() : nullptr);
     Hands hands(comforts);  // behind the author's keys
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
-    const int status = Spielen(platform, *zustand, fromUtf8(options.commandLine),
-                               {.observer = &comforts.observers(), .aroundGame = games.wrapper()});
+    Keepsakes keepsakes(comforts);
+    const Talk talk(comforts, keepsakes.history());
+    Extras extras{
+        .observer = &comforts.observers(), .saves = &keepsakes.saves(), .aroundGame = games.wrapper()};
+    if (options.goesOn && keepsakes.canContinue()) {
+        keepsakes.continueWhenOpened();
+        extras.withoutMenu = true;
+    }
+    const int status = Spielen(platform, *zustand, fromUtf8(options.commandLine), extras);
     if (status != 0 && sound->error() == SoundError::noDriver) offerSilence(comforts);
     return status;
 }

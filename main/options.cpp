@@ -40,6 +40,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     Options options;
     bool portable = false;
     bool noSound = false;
+    bool goesOn = false;
     std::vector<std::string> roots;
     std::vector<std::string> room;
     const CLI::Validator there = CLI::Validator(CLI::ExistingDirectory).description("");
@@ -72,6 +73,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         ->take_last();
     app.add_flag("--record-on", options.recordGoesOn)->group("");
     app.add_flag("--no-sound", noSound, "Plays without sound, also where the machine has none");
+    app.add_flag("--continue", goesOn, "Goes on where the last play ended, if saving by itself is on");
     app.add_option(
            "ROOM", room,
            "A packed story, FILE.zentrox, or the file name of a room; the game then begins there, without its "
@@ -99,6 +101,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
     if (!saves.empty()) options.saves = whole(saves);
     options.portable = portable;
     options.noSound = noSound;
+    options.goesOn = goesOn;
     for (const std::string& root : roots) options.roots.push_back(whole(root));
     return {options, 0};
 }

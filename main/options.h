@@ -22,6 +22,7 @@ struct Options {
     std::optional<std::filesystem::path> author;  // the sources of the story; absolute
     bool recordGoesOn = false;                    // behind what the record holds
     bool noSound = false;                         // the machine's sound is left alone
+    bool goesOn = false;                          // with the play that was saved by itself last, if there is one
 };
 
 // What the words ask for, or the exit status of a call that ends here: 0 after help and version, 2 after a wrong

@@ -34,7 +34,8 @@ public:
     void ZeigText(TextView argument) override;
     void WegText(TextView argument) override;
     bool TextSteht() const override { return textband_.has_value(); }
-    int TextHöhe(TextView text) override { return Picture1.textHeight(text); }
+    void TextSetzen(TextView argument) override;
+    int TextHöhe(TextView text) override;
     void ZoomIN(std::int32_t FX1, std::int32_t FY1, std::int32_t FX2, std::int32_t FY2) override;
     void ZoomOUT(std::int32_t FX1, std::int32_t FY1, std::int32_t FX2, std::int32_t FY2) override;
     void BlendWeiß() override;
@@ -106,6 +107,13 @@ private:
     // What a release in the room does later acts with the item that was held then.
     void losImRaumNachher(int taste, int X, int Y, const Text& gehalten);
 
+    // --- texts
+    // The font of the texts; the surface has it for the length of a scope.
+    class Textschrift;
+    FontSpec textschrift() const;
+    // A text with all its line ends: as it stands, or broken so that it fits in letters of another size.
+    Text gesetzt(TextView argument) const;
+
     // --- transitions
     struct Region {
         int X1, Y1, X2, Y2;
@@ -143,6 +151,7 @@ private:
     std::set<int> umschalter_;      // the modifier keys that are held
     int alleiniger_ = 0;            // of these the one that no other key has joined
     std::optional<Rect> textband_;  // where the text stands that was shown last
+    int textProzent_ = 100;         // the size of its letters
     bool filmLäuft_ = false;
 };
 

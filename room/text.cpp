@@ -1,10 +1,13 @@
 // The band across the picture in which all of the story's texts stand.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "engine/state/farbe.h"
 #include "engine/state/felder.h"
+#include "engine/state/textzeilen.h"
 #include "engine/state/warten.h"
+#include "platform/window/controls/textlayout.h"
 #include "room/form1.h"
 
 namespace zentrox {
@@ -14,7 +17,9 @@ namespace {
 constexpr double winkelschritt = 0.1;
 constexpr int takt = 16;
 constexpr int mehrHöhe = 2;
-constexpr int weiß = 15;
+constexpr int randDerZeile = 16;  // pixels at each side of a line that was broken
+constexpr TextView zeilenende = "\r";
+constexpr TextView farbziffern = "0123456789ABCDEF";
 
 Text mitZeilenenden(TextView text) {
     Text out(text);
@@ -22,68 +27,95 @@ Text mitZeilenenden(TextView text) {
     return out;
 }
 
-// Cuts the first line off the front of `rest`; false when there is none left.
-bool nächsteZeile(TextView& rest, TextView& zeile, bool& fertig) {
-    if (fertig) return false;
-    const std::size_t ende = rest.find_first_of("\r\n");
-    zeile = rest.substr(0, ende);
-    fertig = ende == TextView::npos;
-    if (fertig) return true;
-    const bool paar = rest[ende] == '\r' && ende + 1 < rest.size() && rest[ende + 1] == '\n';
-    rest.remove_prefix(ende + (paar ? 2 : 1));
-    return true;
-}
-
-// Takes the colour mark off a line; a line without one is white, and so is one whose mark is no hexadecimal digit.
-int farbeDerZeile(TextView& zeile) {
-    if (zeile.empty() || zeile.front() != '$') return weiß;
-    int n = weiß;
-    if (zeile.size() > 1) {
-        n = static_cast<unsigned char>(upper(zeile[1])) - '0';
-        if (n > 9) n -= 7;
-    }
-    zeile.remove_prefix(std::min<std::size_t>(2, zeile.size()));
-    return n >= 0 && n <= weiß ? n : weiß;
-}
-
 }  // namespace
 
+class Form1::Textschrift {
+public:
+    explicit Textschrift(Form1& form) : Picture1_(form.Picture1), vorher_(form.Picture1.font) {
+        if (!form.z_.Textart.wieImmer()) Picture1_.font = form.textschrift();
+    }
+    ~Textschrift() { Picture1_.font = vorher_; }
+    Textschrift(const Textschrift&) = delete;
+    Textschrift& operator=(const Textschrift&) = delete;
+
+private:
+    Surface& Picture1_;
+    FontSpec vorher_;
+};
+
+FontSpec Form1::textschrift() const {
+    FontSpec schrift = Picture1.font;
+    schrift.points *= static_cast<float>(textProzent_) / 100;
+    if (!z_.Textart.Schrift.empty()) schrift.family = z_.Textart.Schrift;
+    return schrift;
+}
+
+Text Form1::gesetzt(TextView argument) const {
+    if (z_.Textart.wieImmer()) return mitZeilenenden(argument);
+    const Font& schrift = platform_.fonts.get(textschrift());
+    Text alles;
+    Text name = z_.Textart.Name;
+    for (const Textzeile& zeile : TextzeilenVon(argument)) {
+        const auto farbe = static_cast<std::size_t>(zeile.Farbe);
+        Text inhalt(zeile.Inhalt);
+        if (!name.empty() && !Getrimmt(inhalt).empty()) inhalt = std::exchange(name, {}) + ": " + inhalt;
+        for (const TextLine& stück : wrapText(schrift, inhalt, Picture1.width() - 2 * randDerZeile)) {
+            if (!alles.empty()) alles += zeilenende;
+            alles += Text("$") + farbziffern[farbe] + inhalt.substr(stück.begin, stück.end - stück.begin);
+        }
+    }
+    return alles;
+}
+
+void Form1::TextSetzen(TextView argument) {
+    textProzent_ = z_.Textart.Prozent;
+    if (z_.Textart.wieImmer()) return;
+    constexpr int schritt = 25;
+    while (textProzent_ > 100 && TextHöhe(argument) + 2 * mehrHöhe >= Picture1.height()) textProzent_ -= schritt;
+}
+
+int Form1::TextHöhe(TextView text) {
+    const Textschrift schrift(*this);
+    return Picture1.textHeight(z_.Textart.wieImmer() ? Text(text) : gesetzt(text));
+}
+
 void Form1::ZeigText(TextView argument) {
-    const Text text = mitZeilenenden(argument);
+    TextSetzen(argument);
+    const Textschrift schrift(*this);
+    const Text text = gesetzt(argument);
     const int W = Picture1.width();
     const float M = static_cast<float>(Picture1.height()) / 2;
     const double A = Picture1.textHeight(text) / 2.0 + mehrHöhe;
     AuswahlZeile = -1;
     for (double winkel = 0; winkel < z_.PI / 2; winkel += winkelschritt) {
+        const bool letzter = winkel + winkelschritt >= z_.PI / 2;
+        if (z_.Textart.sofort && !letzter) continue;
         const double c = std::sin(winkel) * A;
         Picture1.box({0, Runden(M - c + 1)}, {W, Runden(M + c - 1)}, black);
         Picture1.line({0, Runden(M - c)}, {W, Runden(M - c)}, white);
         Picture1.line({0, Runden(M + c)}, {W, Runden(M + c)}, white);
         textband_ = Rect{0, Runden(M - c), W, Runden(M + c) - Runden(M - c) + 1};
         if (filmLäuft_) FilmBild();
-        WarteFrame(z_, platform_, takt);
+        if (!z_.Textart.sofort) WarteFrame(z_, platform_, takt);
     }
     Picture1.foreground = white;
     Picture1.currentY = static_cast<int>(M) - Picture1.textHeight(Trim(text)) / 2 + 1;
-    TextView rest = text;
-    TextView zeile;
-    for (bool fertig = false; nächsteZeile(rest, zeile, fertig);) {
-        Picture1.foreground = Farbe16(farbeDerZeile(zeile));
-        Picture1.currentX = W / 2 - Picture1.textWidth(Trim(zeile)) / 2;
-        Picture1.print(zeile);
+    for (const Textzeile& zeile : TextzeilenVon(text)) {
+        Picture1.foreground = Farbe16(zeile.Farbe);
+        Picture1.currentX = W / 2 - Picture1.textWidth(Trim(zeile.Inhalt)) / 2;
+        Picture1.print(zeile.Inhalt);
     }
 }
 
 void Form1::WegText(TextView argument) {
-    const Text text = mitZeilenenden(argument);
     const int W = Picture1.width();
     const int H = Picture1.height();
     const float M = static_cast<float>(H) / 2;
-    const double A = Picture1.textHeight(text) / 2.0 + mehrHöhe;
+    const double A = TextHöhe(mitZeilenenden(argument)) / 2.0 + mehrHöhe;
     textband_.reset();
     const auto zeileZurück = [this, W](int y) { Picture1.copy(Picture3.image(), {0, y, W, 1}, {0, y}); };
     Picture1.setAutoRedraw(false);
-    for (double winkel = z_.PI / 2; winkel > 0; winkel -= winkelschritt) {
+    for (double winkel = z_.PI / 2; winkel > 0 && !z_.Textart.sofort; winkel -= winkelschritt) {
         const double c = std::sin(winkel) * A;
         Picture1.line({0, Runden(M - c)}, {W, Runden(M - c)}, white);
         zeileZurück(std::max(Runden(M - c - 1), 0));

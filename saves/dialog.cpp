@@ -43,8 +43,8 @@ Text Speicherverzeichnis(const Files& files) {
     return files.savesDirectory();
 }
 
-Dialog::Dialog(Platform& platform, Zustand& zustand)
-    : Window(platform, "Dialog", titel(zustand), Fläche, Frame::dialog),
+Dialog::Dialog(Platform& platform, Zustand& zustand, int mehrBreite)
+    : Window(platform, "Dialog", titel(zustand), {Fläche.w + mehrBreite, Fläche.h}, Frame::dialog),
       z_(zustand),
       File1(&root(), {0, 0, 393, 214}),
       Text1(&root(), {0, 216, 393, 19}, zustand.LetzterSpielstand),
@@ -61,6 +61,10 @@ Dialog::Dialog(Platform& platform, Zustand& zustand)
     z_.Übergabe = Text();
 }
 
+Text Dialog::Pfad(TextView name) const {
+    return Speicherverzeichnis(platform().files) + Text(name);
+}
+
 void Dialog::onOpen() {
     setFocus(&Text1);
     Text1.selectAll();
@@ -73,11 +77,14 @@ void Dialog::onKeyDown(int code) {
 
 void Dialog::File1_Click() {
     Text1.setText(File1.selectedText());
+    if (File1.selected()) Ausgesucht(Pfad(File1.selectedText()));
 }
 
 void Dialog::OKButton_Click() {
     z_.LetzterSpielstand = zulässig(Text1.text());
-    z_.Übergabe = Speicherverzeichnis(platform().files) + z_.LetzterSpielstand;
+    const Text pfad = Pfad(z_.LetzterSpielstand);
+    if (!Annehmen(pfad)) return;
+    z_.Übergabe = pfad;
     close();
 }
 

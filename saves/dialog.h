@@ -19,7 +19,18 @@ Text Speicherverzeichnis(const Files& files);
 // chosen.
 class Dialog : public Window {
 public:
-    Dialog(Platform& platform, Zustand& zustand);
+    Dialog(Platform& platform, Zustand& zustand) : Dialog(platform, zustand, 0) {}
+
+protected:
+    // With room for more at the right, in pixels.
+    Dialog(Platform& platform, Zustand& zustand, int mehrBreite);
+
+    // An entry of the list was chosen; full path.
+    virtual void Ausgesucht(const Text& /*pfad*/) {}
+    // Whether the window may close with this path as its outcome.
+    virtual bool Annehmen(const Text& /*pfad*/) { return true; }
+    // The full path of a game of that name.
+    Text Pfad(TextView name) const;
 
 private:
     void onOpen() override;

@@ -19,6 +19,8 @@ public:
     virtual void WegText(TextView Text) = 0;
     // False when what `ZeigText` has shown last has been painted over or taken away.
     virtual bool TextSteht() const { return true; }
+    // The whole of the text whose parts are measured next: its letters become no larger than fits the picture.
+    virtual void TextSetzen(TextView /*Text*/) {}
     // Pixels, in the font of `Picture1`; every line end starts a further line.
     virtual int TextHöhe(TextView Text) = 0;
     virtual void ZoomIN(std::int32_t FX1, std::int32_t FY1, std::int32_t FX2, std::int32_t FY2) = 0;

@@ -172,16 +172,22 @@ Text Interpreter::baueAuswahl(const Lauf& lauf) {
     z_.AuswahlKanten.assign(static_cast<std::size_t>(n) + 1, 0);
 
     Text text = mitZeilenenden(Feld(argument, "|", 2)) + Text(zeilenende) + Text(zeilenende);
-    z_.AuswahlKanten[0] = raum_.TextHöhe(text);
+    const std::size_t fragenLänge = text.size();
     text += zeilenende;
     z_.AuswahlTexte[0] = text;
+    std::vector<std::size_t> längen;
     for (std::int32_t i = 1; i <= n; ++i) {
         const auto option = static_cast<std::size_t>(i);
         z_.AuswahlTexte[option] = mitZeilenenden(Trim(Feld(argument, "|", i + 2)));
         text += z_.AuswahlTexte[option];
-        z_.AuswahlHöhe = raum_.TextHöhe(text);
-        z_.AuswahlKanten[option] = z_.AuswahlHöhe;
+        längen.push_back(text.size());
         if (i != n) text += zeilenende;
+    }
+    raum_.TextSetzen(text);
+    z_.AuswahlKanten[0] = raum_.TextHöhe(TextView(text).substr(0, fragenLänge));
+    for (std::size_t i = 0; i < längen.size(); ++i) {
+        z_.AuswahlHöhe = raum_.TextHöhe(TextView(text).substr(0, längen[i]));
+        z_.AuswahlKanten[i + 1] = z_.AuswahlHöhe;
     }
     return text;
 }

@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "engine/state/textart.h"
 #include "engine/state/titel.h"
 #include "platform/values/text.h"
 
@@ -112,6 +113,7 @@ struct Zustand {
     std::uint32_t Stimme = 0;               // the sound device's handle of the voice, 0 for none
     Text AktuellerSong;                     // full path, empty for none
 
+    zentrox::Textart Textart;
     // What `WarteFrame` remembers: when it returned last.
     std::int32_t LetzterFrame = 0;
     // What has been told of data that is missing.

@@ -15,6 +15,8 @@
 #include "comfort/pictures.h"
 #include "engine/interpreter/verteiler.h"
 #include "main/beginning.h"
+#include "comfort/keepsakes.h"
+#include "comfort/talk.h"
 #include "main/spiel.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/replace_file.h"
@@ -46,6 +48,7 @@ struct Options {
     std::string pictures = ".";
     std::string ran;
     std::string settings;
+    bool goesOn = false;
     unsigned timeout = 600;
     bool quiet = false;
     std::string walk = "-";
@@ -92,7 +95,7 @@ private:
 
 // One life of the program, from its first window to its end; gives its exit status.
 int live(const Options& options, const Files& files, probe::ProbeBackend& backend, probe::Player& player,
-         Listeners& listeners, const Text& arguments) {
+         Listeners& listeners, const Text& arguments, bool goesOn) {
     backend.beginAnew();
     const auto fonts = makeFonts();
     Recorder recorder(
@@ -111,6 +114,8 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     std::optional<Screenshots> screenshots;
     std::optional<GameComforts> games;
     std::optional<Hands> hands;
+    std::optional<Keepsakes> keepsakes;
+    std::optional<Talk> talk;
     Verteiler observers;
     observers.Dazu(listeners.all());
     const auto sees = [&](const Input& input) { return listeners.sees(input); };
@@ -121,11 +126,19 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
         screenshots.emplace(*comforts, fs::absolute(options.pictures));
         games.emplace(*comforts);
         hands.emplace(*comforts);
+        keepsakes.emplace(*comforts);
+        talk.emplace(*comforts, keepsakes->history());
         comforts->addLook(sees);
         observers.Dazu(comforts->observers());
     }
-    const int status = Spielen(platform, zustand, arguments,
-                               {.observer = &observers, .aroundGame = games ? games->wrapper() : nullptr});
+    Extras extras{.observer = &observers,
+                  .saves = keepsakes ? &keepsakes->saves() : nullptr,
+                  .aroundGame = games ? games->wrapper() : nullptr};
+    if (goesOn && keepsakes && keepsakes->canContinue()) {
+        keepsakes->continueWhenOpened();
+        extras.withoutMenu = true;
+    }
+    const int status = Spielen(platform, zustand, arguments, extras);
     listeners.watch(nullptr, nullptr);
     player.attach(nullptr, nullptr);
     backend.setClockMoved(nullptr);
@@ -192,8 +205,10 @@ int play(const Options& options) {
     int result = 0;
     try {
         Text arguments = fromUtf8(roomOf(options.beginning, options.arguments));
+        bool goesOn = options.goesOn;
         do {
-            const int status = live(options, files, backend, player, listeners, std::exchange(arguments, {}));
+            const int status = live(options, files, backend, player, listeners, std::exchange(arguments, {}),
+                                    std::exchange(goesOn, false));
             needNoFailure(status, backend, player);
         } while (backend.restartWanted() && !player.over());
         backend.trace("end");
@@ -222,6 +237,7 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_option("--ran", options.ran, "Writes which instructions have run, for zentrox-story coverage");
     app.add_option("--settings", options.settings, "Plays with the player's comforts, by this file of settings")
         ->group("");
+    app.add_flag("--continue", options.goesOn, "With these, goes on where the last play ended")->group("");
     app.add_option("--timeout", options.timeout, "Seconds of real time after which the walk fails")
         ->capture_default_str();
     app.add_flag("--quiet", options.quiet, "No trace, only what say prints and what fails");

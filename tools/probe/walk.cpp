@@ -62,7 +62,8 @@ bool isColour(const std::string& word) {
 }
 
 bool isWindow(const std::string& word) {
-    static constexpr std::array others{"Menu", "Form1", "Dialog", "MsgBox"};
+    static constexpr std::array others{"Menu",  "Form1",  "Dialog",  "MsgBox",  // and those of the comforts
+                                       "Frage", "WasWar", "Verlauf", "Einstellungen", "Tasten"};
     const auto games = Spiele();
     return std::find(others.begin(), others.end(), word) != others.end() ||
            std::any_of(games.begin(), games.end(),
@@ -174,12 +175,25 @@ int keyCode(const std::string& name) {
         int code;
     };
     static constexpr std::array keys{
-        Named{"space", key::space},     Named{"enter", key::enter},   Named{"escape", key::escape},
-        Named{"tab", key::tab},         Named{"home", key::home},     Named{"backspace", key::backspace},
-        Named{"delete", key::del},      Named{"end", key::end},       Named{"up", key::up},
-        Named{"down", key::down},       Named{"left", key::left},     Named{"right", key::right},
-        Named{"comma", key::comma},     Named{"period", key::period}, Named{"shift", key::shift},
-        Named{"control", key::control}, Named{"alt", key::alt},
+        Named{"space", key::space},
+        Named{"enter", key::enter},
+        Named{"escape", key::escape},
+        Named{"tab", key::tab},
+        Named{"home", key::home},
+        Named{"pageup", key::pageUp},
+        Named{"pagedown", key::pageDown},
+        Named{"backspace", key::backspace},
+        Named{"delete", key::del},
+        Named{"end", key::end},
+        Named{"up", key::up},
+        Named{"down", key::down},
+        Named{"left", key::left},
+        Named{"right", key::right},
+        Named{"comma", key::comma},
+        Named{"period", key::period},
+        Named{"shift", key::shift},
+        Named{"control", key::control},
+        Named{"alt", key::alt},
     };
     if (name.size() == 1 && name[0] >= 'a' && name[0] <= 'z') return name[0] - 'a' + 'A';
     if (name.size() == 1 && name[0] >= '0' && name[0] <= '9') return name[0];
