@@ -7,9 +7,9 @@
 #include "comfort/desk.h"
 #include "comfort/games.h"
 #include "comfort/hands.h"
+#include "comfort/keepsakes.h"
 #include "comfort/pictures.h"
 #include "comfort/question.h"
-#include "comfort/keepsakes.h"
 #include "comfort/talk.h"
 #include "engine/files/titeldatei.h"
 #include "main/beginning.h"
@@ -122,8 +122,7 @@ int play(const Options& options, const StoryPlace& place) {
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
     Keepsakes keepsakes(comforts);
     const Talk talk(comforts, keepsakes.history());
-    Extras extras{
-        .observer = &comforts.observers(), .saves = &keepsakes.saves(), .aroundGame = games.wrapper()};
+    Extras extras{.observer = &comforts.observers(), .saves = &keepsakes.saves(), .aroundGame = games.wrapper()};
     if (options.goesOn && keepsakes.canContinue()) {
         keepsakes.continueWhenOpened();
         extras.withoutMenu = true;

@@ -42,6 +42,7 @@ Raum "Bibliothek.lsd"
                     Marke SPIELEN
                     Tirsa: "Die Diskette bekommt, wer sich etwas merken kann. Memory. Acht Paare."
                     Auswahl "Tirsa mischt sechzehn Karten, ohne hinzusehen."
+                            "Ein Klick dreht eine um, zwei sind ein Zug."
                         Fall "Fang an."
                             Marke MEMORY
                             Spiel MEMORY MEMORY_SIEG
@@ -68,8 +69,9 @@ Raum "Bibliothek.lsd"
                         Option "Ich muss mich erst sammeln."
                     EndeAuswahl
                 Sonst
-                    Velmix: "Tirsa, ich brauche die Freundschaftsdiskette von 1974."
-                    Tirsa: "Flüster bitte. Und: Leseausweis, bitte."
+                    Velmix: "Tirsa, unsere Master-CD ist weg. Hast du etwas Ähnliches?"
+                    Tirsa: "Nur die Freundschaftsdiskette von Zentrox, 1974. Nach ihr hat er immer gesummt."
+                           "Flüster bitte. Und: Leseausweis, bitte."
                     Velmix: "Den hat der Globus verschluckt. Vorige Woche, beim Ausleihen."
                     Tirsa: "Dann sprich mit ihm. Er redet gern. Leider."
                 EndeWenn
@@ -98,6 +100,7 @@ Raum "Bibliothek.lsd"
                 Sonst
                     Globus: "Willkommen bei »Hauptstadt, du weißt«! Vier Richtige, und Ihr Ausweis ist frei!"
                     Auswahl "In seinem Schlitz steckt ein Stück Pappe mit meinem Gesicht."
+                            "Die richtige Stadt klickt man an. So steht es auf dem Sockel."
                         Fall "Los, fragen Sie."
                             Marke QUIZ
                             Spiel HDW HDW_SIEG
@@ -126,6 +129,9 @@ Raum "Bibliothek.lsd"
                     EndeAuswahl
                 EndeWenn
             EndeGespräch
+        Ablegen
+            Bei MÜNZE
+                Globus: "Ich frage, Sie antworten! Trinkgeld erst danach!"
 
     Objekt "Katze"
         Zeiger "hand1.ico"

@@ -46,6 +46,7 @@ Raum "Chemie.lsd"
                     Ampulla: "Einundzwanzig Stück! Der Deckel war nur ganz kurz offen. Seit gestern."
                              "Wer sie alle fängt, bekommt meinen besten Magneten!"
                     Auswahl "Es flattert."
+                            "Wer draufklickt, hat sie. Zwanzig Sekunden lang hat er Zeit."
                         Fall "Ich fange sie!"
                             Marke JAGD
                             Spiel BRUHKS BRUHKS_SIEG
@@ -95,6 +96,7 @@ Raum "Chemie.lsd"
             Bei MISCHUNG
                 GibGegenstand MISCHUNG
                 NimmGegenstand ZAUBERTRANK
+                SetzeMerker GEBRAUT
                 Ton "blubber.wav"
                 Text "Blubber. Blubber. PUFF!"
                 Ampulla: "Sie haben es getan! Der Zaubertrank! Nicht unterrichten, nur trinken!"

@@ -10,6 +10,7 @@ Raum "Flur.lsd"
         WennMerker nicht FLUR_GESEHEN
             SetzeMerker FLUR_GESEHEN
             Text "Der Flur im Erdgeschoss. Frisch gewischt."
+                 "Wer vorsichtig ist, merkt sich die Stelle: mit F2. Mit F1 steht er wieder da."
         EndeWenn
 
     Objekt "Herr Grobbel"

@@ -65,6 +65,7 @@ Raum "Hof.lsd"
                 Balduin: "Alles macht Umstände. Darum liege ich ja."
                          "Aber für ein gelöstes Rätsel stehe ich auf. Aus Prinzip."
                 Frage "Balduin kaut an einer Butterblume."
+                      "Seine Rätsel löst man mit der Tastatur, Wort für Wort."
                     Antwort "Das Rätsel, bitte."
                         Marke RÄTSEL
                         Spiel ESEL ESEL_SIEG

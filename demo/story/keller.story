@@ -63,6 +63,7 @@ Raum "Keller.lsd"
         Rechts
             ZoomIN 240 90 400 210
             Velmix: "»Rechenzentrum«. Und ein Schloss der Mathe-AG: Wer Pi tippen kann, darf hinein."
+                    "Ziffer für Ziffer auf der Tastatur, und immer schneller."
             ZoomOUT 240 90 400 210
         Links
             WennMerker PI_FERTIG

@@ -9,7 +9,7 @@ Raum "Sporthalle.lsd"
             Kessa: "Na endlich! Ein Gegner! Oder bist du wegen der Hallenschuhe hier?"
         EndeWenn
 
-    Objekt "Ball auf der Platte"
+    Objekt "Schläger"
         Zeiger "auge1.ico"
         Fläche
             Rechteck 320 270 400 290
@@ -33,6 +33,7 @@ Raum "Sporthalle.lsd"
                     Kessa: "Leihen? Erspielen! Bis elf. Wer gewinnt, kriegt das Seil."
                            "Wer verliert, trägt mir die Tasche. Und ich habe viele Taschen."
                     Auswahl "Kessa lässt den Ball auf dem Schlägerrand tanzen."
+                            "Pfeil hoch, Pfeil runter: Mehr muss mein Schläger nicht können."
                         Fall "Angenommen!"
                             Marke SPIEL
                             Spiel PONG PONG_SIEG
@@ -82,14 +83,23 @@ Raum "Sporthalle.lsd"
                     Brokan: "Geräteraum ist zu. Herr Grobbel hat gesagt: Niemand kommt durch."
                             "Also kommt niemand durch. Außer er kämpft mit mir. Hat er auch gesagt."
                     Frage "Brokans Magen knurrt. Oder das war Brokan."
+                          "Er kämpft nach Plan: Sechs Angriffe und sechs Abwehren klickt man vorher an."
                         Schluss "Dann kämpfen wir."
                             Marke KAMPF
-                            Spiel PRÜGEL PRÜGEL_SIEG
-                            Springe URTEIL
-                        Antwort "Erst ein Schluck Zaubertrank, dann kämpfen."
                             WennMerker TRANK
                                 Spiel PRÜGEL PRÜGEL_SIEG zaubertrank
-                                Springe URTEIL
+                            Sonst
+                                Spiel PRÜGEL PRÜGEL_SIEG
+                            EndeWenn
+                            Springe URTEIL
+                        Antwort "Erst ein Schluck Zaubertrank, dann kämpfen."
+                            WennMerker GEBRAUT
+                                WennMerker nicht TRANK
+                                    GibGegenstand ZAUBERTRANK
+                                    SetzeMerker TRANK
+                                    Velmix: "Gluck. Schmeckt nach Minze und Mut. Hält hoffentlich bis zum Abend."
+                                EndeWenn
+                                Springe KAMPF
                             Sonst
                                 Velmix: "Ich habe nur leider keinen. Cola und Minze, hat Dr. Ampulla gesagt. Und heiß!"
                             EndeWenn
@@ -136,8 +146,7 @@ Raum "Sporthalle.lsd"
                     EndeWenn
                 EndeGespräch
             Bei ZAUBERTRANK
-                Velmix: "Den Trank nehme ich lieber selbst. Sag ihm einfach, dass du kämpfen willst, Velmix."
-                SetzeMerker TRANK
+                Velmix: "Den Trank nehme ich lieber selbst, sobald er kämpfen will. Ich muss ihn nur fragen."
 
     Objekt "Geräteraum"
         Zeiger "auge1.ico"

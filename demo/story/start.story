@@ -23,6 +23,7 @@ Raum "Start.lsd"
                 Orlix: "Ohne Master keine CD, ohne CD kein Abschluss."
                        "Dann müsst ihr alle noch ein Jahr bleiben. Ich auch!"
                 Velmix: "Ich finde sie. Noch ein Jahr Kantine überlebe ich nicht."
+                        "Links zupacken, rechts hinsehen: Mehr hat man mir hier nicht beigebracht."
             EndeGespräch
         EndeWenn
 
@@ -37,8 +38,15 @@ Raum "Start.lsd"
             Gespräch
                 Frage "Frau Orlix sieht mich über die Brille hinweg an."
                     Antwort "Wo soll ich anfangen?"
-                        Orlix: "Frag den Hausmeister im Flur!"
-                               "Herr Grobbel sieht alles. Er sagt es nur nicht von selbst."
+                        WennMerker CD
+                            Orlix: "Du hast sie ja! In die Anlage damit, ehe ich sie noch einmal verlege!"
+                        SonstWenn KELLER_OFFEN
+                            Orlix: "Der Keller ist offen? Dann hinunter! Und mach Licht, du trittst mir sonst auf die Akten!"
+                                   "Wenn einer die CD hat, dann der da unten."
+                        Sonst
+                            Orlix: "Frag den Hausmeister im Flur!"
+                                   "Herr Grobbel sieht alles. Er sagt es nur nicht von selbst."
+                        EndeWenn
                     Antwort "Darf ich ein Stück Kuchen?"
                         WennMerker KUCHEN_ERLAUBT
                             Orlix: "Du hast schon gefragt, und ich habe schon ja gesagt!"
@@ -55,6 +63,15 @@ Raum "Start.lsd"
                     Schluss "Bin schon unterwegs."
                         Orlix: "Und nicht auf den Fluren rennen!"
             EndeGespräch
+        Ablegen
+            Bei SCHLÜSSEL
+                Orlix: "Der Kellerschlüssel! Steh hier nicht herum und zeig ihn mir, schließ damit auf!"
+            Bei SICHERUNG
+                Orlix: "Eine Sicherung? Im Keller ist es seit Wochen dunkel. Denk an die CD, nicht an mich!"
+            Bei DISKETTE
+                Orlix: "Die kenne ich! Dazu hat der alte Kasten immer gesummt, als er noch Freunde hatte."
+            Bei CD
+                Orlix: "Nicht mir! Der Anlage!"
 
     Objekt "Rednerpult"
         Zeiger "auge1.ico"
@@ -112,6 +129,7 @@ Raum "Start.lsd"
                 Ton "muenze.wav"
                 Text "Kling, kling, kuller."
                 Velmix: "Unter dem hohen C steckte eine Münze! Die nehme ich als Gage."
+                        "Ab in die Tasche. Die Leertaste macht sie auf und wieder zu."
             EndeWenn
 
     Objekt "Kuchen"
@@ -127,6 +145,7 @@ Raum "Start.lsd"
                 SetzeMerker KUCHEN
                 NimmGegenstand KUCHEN
                 Velmix: "Das Stück mit der Kirsche. Ich habe schließlich gefragt."
+                        "Es passt genau in die Tasche. Unter die Leertaste."
             Sonst
                 Auswahl "Frau Orlix sieht gerade aus dem Fenster."
                     Fall "Heimlich ein Stück nehmen."

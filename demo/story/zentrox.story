@@ -75,9 +75,10 @@ Raum "Zentrox.lsd"
                                   "OH, DAS IST LANGE HER."
                     Velmix: "Komm doch mit zur Feier. Auf der CD ist noch Platz."
                     ZentroxRuhig: "ICH? AUF EINER CD? DANN WÄRE ICH JA IN JEDEM WOHNZIMMER."
-                                  "DU DARFST SIE HABEN. NUR KLEMMT LEIDER MEINE KLAPPE. SEIT 1981."
+                                  "DU DARFST SIE HABEN. NUR KLEMMT LEIDER MEINE KLAPPE. SEIT 1978."
                     ZentroxRuhig: "DU MÜSSTEST HINEINSPRINGEN. DURCH DEN DATENBUS. ES IST GANZ LEICHT."
                                   "ES LAUFEN NUR EIN PAAR FEHLER HERUM. TRITT EINFACH DARAUF."
+                                  "PFEILTASTEN ZUM LAUFEN, LEERTASTE ZUM SPRINGEN. ICH HABE DAS ERFUNDEN."
                 EndeGespräch
             Bei CD
                 Velmix: "Die eine heraus, die andere hinein? Nein, die CD kommt in die Aula."
