@@ -103,6 +103,11 @@ Text Keepsakes::Fragen(Platform& platform, Zustand& zustand, TextView title) {
     return path != nullptr ? *path : Text();
 }
 
+void Keepsakes::Geschrieben(const Text& path, TextView bytes) {
+    moment_.saved(bytes);
+    if (comforts_.settings().richDialog) moment_.writeBeside(path, bytes);
+}
+
 bool Keepsakes::TrotzdemLaden(const std::vector<Text>& items) {
     return !comforts_.settings().richDialog || loadWithout(platform_, items);
 }

@@ -25,7 +25,7 @@ public:
 
 private:
     Text Fragen(Platform& platform, Zustand& zustand, TextView title) override;
-    void Geschrieben(const Text& path, TextView bytes) override { moment_.writeBeside(path, bytes); }
+    void Geschrieben(const Text& path, TextView bytes) override;
     bool TrotzdemLaden(const std::vector<Text>& items) override;
     void Öffnet(Raumfenster& room) override;
 

@@ -19,6 +19,14 @@ Text withoutExtension(const Text& name) {
     return name.substr(0, name.rfind('.'));
 }
 
+// Without it the game is safe; it only has no picture.
+void tryToWrite(const Files& files, const Text& path, TextView bytes, const Sidecar& sidecar) {
+    try {
+        writeSidecar(files, path, bytes, sidecar);
+    } catch (const std::system_error&) {
+    }
+}
+
 }  // namespace
 
 void Moment::Ruht() {
@@ -57,20 +65,11 @@ void Moment::write(const Text& path) {
     platform_.files.makeDirectory(Speicherverzeichnis(platform_.files));
     replaceFile(platform_.files.systemPath(path), bytes_);
     saved_ = bytes_;
-    try {
-        writeSidecar(platform_.files, path, bytes_, sidecar_);
-    } catch (const std::system_error&) {
-        // The game is safe; it only has no picture.
-    }
+    tryToWrite(platform_.files, path, bytes_, sidecar_);
 }
 
-void Moment::writeBeside(const Text& path, TextView bytes) {
-    saved_ = bytes;
-    try {
-        writeSidecar(platform_.files, path, bytes, sidecar());
-    } catch (const std::system_error&) {
-        // As above.
-    }
+void Moment::writeBeside(const Text& path, TextView bytes) const {
+    tryToWrite(platform_.files, path, bytes, sidecar());
 }
 
 }  // namespace zentrox

@@ -26,8 +26,10 @@ public:
 
     // Writes it, and what belongs beside it. Throws `std::system_error` where the game itself could not be written.
     void write(const Text& path);
-    // The same for a game that somebody else has just written from the play as it stands.
-    void writeBeside(const Text& path, TextView bytes);
+    // Somebody else has written these bytes from the play as it stands.
+    void saved(TextView bytes) { saved_ = bytes; }
+    // Writes what belongs beside them, as far as that can be written.
+    void writeBeside(const Text& path, TextView bytes) const;
     // Of the play as it is now.
     Sidecar sidecar() const;
 

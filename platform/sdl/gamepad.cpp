@@ -13,18 +13,12 @@ struct PadKey {
 
 // What the keys do is the business of who asks for them: use, look, take in hand, the bag.
 constexpr std::array padKeys{
-    PadKey{SDL_CONTROLLER_BUTTON_A, key::enter},
-    PadKey{SDL_CONTROLLER_BUTTON_B, 'A'},
-    PadKey{SDL_CONTROLLER_BUTTON_X, key::space},
-    PadKey{SDL_CONTROLLER_BUTTON_Y, 'H'},
-    PadKey{SDL_CONTROLLER_BUTTON_BACK, key::escape},
-    PadKey{SDL_CONTROLLER_BUTTON_START, key::f10},
-    PadKey{SDL_CONTROLLER_BUTTON_LEFTSHOULDER, key::f6},
-    PadKey{SDL_CONTROLLER_BUTTON_RIGHTSHOULDER, key::tab},
-    PadKey{SDL_CONTROLLER_BUTTON_DPAD_UP, key::up},
-    PadKey{SDL_CONTROLLER_BUTTON_DPAD_DOWN, key::down},
-    PadKey{SDL_CONTROLLER_BUTTON_DPAD_LEFT, key::left},
-    PadKey{SDL_CONTROLLER_BUTTON_DPAD_RIGHT, key::right},
+    PadKey{SDL_CONTROLLER_BUTTON_A, key::enter},         PadKey{SDL_CONTROLLER_BUTTON_B, 'A'},
+    PadKey{SDL_CONTROLLER_BUTTON_X, key::space},         PadKey{SDL_CONTROLLER_BUTTON_Y, 'H'},
+    PadKey{SDL_CONTROLLER_BUTTON_BACK, key::escape},     PadKey{SDL_CONTROLLER_BUTTON_START, key::f10},
+    PadKey{SDL_CONTROLLER_BUTTON_LEFTSHOULDER, key::f6}, PadKey{SDL_CONTROLLER_BUTTON_RIGHTSHOULDER, key::tab},
+    PadKey{SDL_CONTROLLER_BUTTON_DPAD_UP, key::up},      PadKey{SDL_CONTROLLER_BUTTON_DPAD_DOWN, key::down},
+    PadKey{SDL_CONTROLLER_BUTTON_DPAD_LEFT, key::left},  PadKey{SDL_CONTROLLER_BUTTON_DPAD_RIGHT, key::right},
 };
 
 // How far the stick has to be pushed, and let back, of 32,767.
@@ -47,7 +41,9 @@ void GamePad::use(bool on) {
 
 bool GamePad::take(const SDL_Event& event) {
     switch (event.type) {
-        case SDL_CONTROLLERDEVICEADDED: pads_.emplace_back(SDL_GameControllerOpen(event.cdevice.which)); return true;
+        case SDL_CONTROLLERDEVICEADDED:
+            pads_.emplace_back(SDL_GameControllerOpen(event.cdevice.which));
+            return true;
         case SDL_CONTROLLERDEVICEREMOVED: letGo(); return true;
         case SDL_CONTROLLERAXISMOTION: takeAxis(event.caxis); return true;
         case SDL_CONTROLLERBUTTONDOWN:

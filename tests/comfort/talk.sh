@@ -12,8 +12,8 @@ play() {
         --args Bequem.lsd - >"$scratch/trace" 2>"$scratch/complaint" || fail "$(cat "$scratch/complaint")"
 }
 mkdir -p "$scratch/data"
-for folder in "$data"/*/; do ln -s "$folder" "$scratch/data/"; done
-rm "$scratch/data/sounds"
+cp -RL "$data"/*/ "$scratch/data/"
+rm -rf "$scratch/data/sounds"
 mkdir "$scratch/data/sounds"
 cp "$data/sounds/lang.wav" "$scratch/data/sounds/"
 printf 'LANG.wav\tEin langer Ton\nohne Tabulator\n\tleer\n' >"$scratch/data/sounds/untertitel.tsv"

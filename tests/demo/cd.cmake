@@ -23,7 +23,7 @@ if(NOT opened STREQUAL "Videos;Bilder/index.html;LernCD")
 endif()
 
 string(REPLACE "/" "\\" sounds "${CD}/Spiel/sounds/")
-foreach(voice orlix-start-01.mp3 velmix-start-01.mp3 klavier.wav velmix-start-16.mp3)
+foreach(voice orlix-start-01.mp3 velmix-start-01.mp3 klavier.wav velmix-start-36.mp3)
   string(FIND "${printed}" "voice ${sounds}${voice}" heard)
   if(heard EQUAL -1)
     message(FATAL_ERROR "${voice} was not heard from the CD:\n${printed}")

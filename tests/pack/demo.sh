@@ -71,7 +71,7 @@ refused() {
 grep -v Kennung "$title" >demo/titel.txt
 refused "no name for the saved games" 'Kennung: mein-spiel'
 { cat "$title"; echo 'Farbe: rot'; } >demo/titel.txt
-refused "an unknown line" 'titel.txt:5: '
+refused "an unknown line" "titel.txt:$(wc -l <demo/titel.txt): "
 cp "$title" demo/titel.txt
 cp demo/rooms/Start.lsd demo/rooms/START.lsd
 refused "two files of one name" 'anders geschrieben'
