@@ -23,6 +23,7 @@ public:
     void enter(const Text& room);
     // What is wrong with the sources as they are now, line by line; it stands over the picture.
     const std::vector<std::string>& findings() const { return findings_; }
+    Raumfenster* room() const { return room_; }
     const Compiler& compiler() const { return compiler_; }
     Comforts& comforts() { return comforts_; }
     WalkWriter* record() const { return record_; }

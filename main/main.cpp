@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "author/areas.h"
+#include "author/panel.h"
 #include "author/workbench.h"
 #include "comfort/comforts.h"
 #include "comfort/desk.h"
@@ -46,13 +47,15 @@ StoryPlace placeOf(const Options& options) {
 
 // The game on its sources.
 struct AuthorsPlace {
-    AuthorsPlace(const Options& options, Comforts& comforts, author::WalkWriter* record)
+    AuthorsPlace(const Options& options, sdl::Desktop& desktop, Comforts& comforts, author::WalkWriter* record)
         : compiler(*options.author, options.directory),
           workbench(comforts, compiler, record),
-          areas(workbench) {}
+          areas(workbench),
+          panel(workbench, desktop) {}
     author::Compiler compiler;
     author::Workbench workbench;
     author::Areas areas;
+    author::Panel panel;
 };
 
 // What is played, written down.
@@ -117,7 +120,7 @@ int play(const Options& options, const StoryPlace& place) {
     std::optional<Record> record;
     if (options.record) record.emplace(options, comforts);
     std::optional<AuthorsPlace> authors;
-    if (options.author) authors.emplace(options, comforts, record ? &record->writer() : nullptr);
+    if (options.author) authors.emplace(options, desktop, comforts, record ? &record->writer() : nullptr);
     Hands hands(comforts);  // behind the author's keys
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
     Keepsakes keepsakes(comforts);

@@ -32,6 +32,12 @@ public:
     void useTouch(bool on) { events_.useTouch(on); }
     // Away from the keyboard's focus the game stands still, as it does while it is minimised.
     void setPausesAway(bool on) { events_.setPausesAway(on); }
+    // Asked for each event before the game's window is told of it; true if it is another window's. One at most.
+    void onForeign(std::function<bool(const SDL_Event&)> take) { events_.foreign = std::move(take); }
+    SDL_Window* window() const { return screen_.window(); }
+    // The pointer as it is over another window, and over the game again.
+    void showPlainPointer() { cursors_.show({}, 1); }
+    void showGamesPointer() { events_.showPointer(); }
     // Called before the clock stands still because the window was minimised, and after it goes on. Who asks the
     // clock in another thread must not between the two.
     std::function<void(bool paused)> onPause;

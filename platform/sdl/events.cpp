@@ -84,6 +84,7 @@ void Events::showPointer() {
 
 void Events::take(const SDL_Event& event) {
     if (event.type == SDL_QUIT) throw ProgramEnd{};
+    if (foreign && foreign(event)) return;
     if (event.type == SDL_WINDOWEVENT) return takeWindow(event.window);
     if (screen_.scene().top() == nullptr || pad_.take(event)) return;
     switch (event.type) {

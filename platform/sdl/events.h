@@ -42,6 +42,9 @@ public:
     void useTouch(bool on);
     void setPausesAway(bool on) { pausesAway_ = on; }
 
+    // Takes what is meant for another native window, see `Desktop::onForeign`.
+    std::function<bool(const SDL_Event&)> foreign;
+
     // Keys that are down, or were since this was asked last.
     std::array<std::uint8_t, 256> keys();
 

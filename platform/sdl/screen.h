@@ -19,6 +19,8 @@ public:
     Screen& operator=(const Screen&) = delete;
 
     bool ready() const { return native_ != nullptr; }
+    // Null before the first window has opened.
+    SDL_Window* window() const { return native_.get(); }
     // Ends the program with a word on standard error if there is no display.
     void opened(Window& window);
     void closed(Window& window);

@@ -1,6 +1,7 @@
 // The line of an area in a source: where it goes, and what it leaves alone.
 #include <gtest/gtest.h>
 
+#include "author/editor.h"
 #include "author/sourceedit.h"
 
 namespace zentrox::author {
@@ -54,6 +55,18 @@ TEST(AnAreaThat, HasNoObjectIsNotWritten) {
 TEST(AShape, IsSpelledAsTheLanguageHasIt) {
     EXPECT_EQ(rectangleLine({30, 4}, {1, 20}), "Rechteck 1 4 30 20");
     EXPECT_EQ(polygonLine({{1, 2}, {3, 4}, {5, 6}}), "Vieleck 1 2, 3 4, 5 6");
+}
+
+TEST(AnEditor, IsToldTheLineAsItWantsIt) {
+    using Words = std::vector<std::string>;
+    const auto command = [](const char* visual, const char* editor) {
+        return editorCommand(visual, editor, "/a b/c", 7);
+    };
+    EXPECT_EQ(command("kate", "vim"), (Words{"kate", "-l", "7", "/a b/c"}));
+    EXPECT_EQ(command("/usr/bin/code -n", nullptr), (Words{"/usr/bin/code", "-n", "--goto", "/a b/c:7"}));
+    EXPECT_EQ(command("", "vim"), (Words{"x-terminal-emulator", "-e", "vim", "+7", "/a b/c"}));
+    EXPECT_EQ(command("unknown", nullptr), (Words{"unknown", "/a b/c"}));
+    EXPECT_EQ(command(nullptr, nullptr), (Words{"xdg-open", "/a b/c"}));
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ forbid comfort 'room|menu|games|author|main|tools/'
 forbid room 'comfort|menu|games|author|main|tools/'
 forbid menu 'comfort|games|author|main|tools/'
 forbid games 'room/|saves|comfort|menu|author|main|tools/'
-forbid author 'menu|games|main|tools/(probe|prove|web)'
+forbid author 'menu|games|main|tools/(prove|web)'
 for game in games/*/; do
     game=$(basename "$game")
     others=$(basename -a games/*/ | grep -vxE "$game|base|sparks" | paste -sd"|")
