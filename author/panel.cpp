@@ -135,7 +135,7 @@ void Panel::toggleFlag(const Text& name) {
     set ? MerkerLöschen(z_, name) : MerkerSetzen(z_, name);
     WalkWriter* const record = bench_.record();
     if (record != nullptr && !set) record->setsFlag(name);
-    if (record != nullptr && set) record->remarks("the flag " + toUtf8(name) + " was cleared by hand");
+    if (record != nullptr && set) record->clearsFlag(name);
 }
 
 bool Panel::carries(const Text& file) const {
@@ -153,7 +153,7 @@ void Panel::toggleItem(const Text& file) {
         std::move(slot + 1, end, slot);
         (end - 1)->clear();
         --z_.InventarLetzter;
-        if (record != nullptr) record->remarks("the item " + toUtf8(baseName(file)) + " was taken away by hand");
+        if (record != nullptr) record->dropsItem(baseName(file));
     } else if (z_.InventarLetzter + 1 < InventarPlätze) {
         z_.Inventar[static_cast<std::size_t>(++z_.InventarLetzter)] = z_.PfadItems + file;
         if (record != nullptr) record->takesItem(baseName(file));
@@ -163,8 +163,7 @@ void Panel::toggleItem(const Text& file) {
 
 void Panel::changeEvil(int by) {
     z_.BösePunkte += by;
-    if (bench_.record() != nullptr)
-        bench_.record()->remarks("the evil counter was set to " + std::to_string(z_.BösePunkte) + " by hand");
+    if (bench_.record() != nullptr) bench_.record()->setsEvil(z_.BösePunkte);
 }
 
 void Panel::openEditor(const Trace::Entry& entry) {

@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include "author/walkwords.h"
 #include "engine/state/felder.h"
 #include "engine/state/merker.h"
 #include "platform/values/keys.h"
@@ -97,14 +96,9 @@ void WalkWriter::Schließt() {
 
 // --- what an author does
 
-void WalkWriter::setsFlag(TextView name) {
+void WalkWriter::doesByHand(const std::string& line) {
     inWindow("Form1");
-    put("set " + word(name));
-}
-
-void WalkWriter::takesItem(TextView name) {
-    inWindow("Form1");
-    put("take " + word(name));
+    put(line);
 }
 
 void WalkWriter::enters(TextView room) {

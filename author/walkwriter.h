@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "author/recordfile.h"
+#include "author/walkwords.h"
 #include "engine/interpreter/beobachter.h"
 #include "engine/state/zustand.h"
 #include "platform/platform.h"
@@ -26,8 +27,11 @@ public:
     void sees(const Input& input);
 
     // What an author does, that no player can.
-    void setsFlag(TextView name);
-    void takesItem(TextView name);
+    void setsFlag(TextView name) { doesByHand("set " + word(name)); }
+    void clearsFlag(TextView name) { doesByHand("clear " + word(name)); }
+    void takesItem(TextView name) { doesByHand("take " + word(name)); }
+    void dropsItem(TextView name) { doesByHand("drop " + word(name)); }
+    void setsEvil(int points) { doesByHand("evil " + std::to_string(points)); }
     void enters(TextView room);
     // What has no words in a walk.
     void remarks(const std::string& text);
@@ -58,6 +62,7 @@ private:
     };
 
     void put(const std::string& line);
+    void doesByHand(const std::string& line);
     void until(const std::string& condition);
     void tail(const std::string& condition);
     std::string limit() const;

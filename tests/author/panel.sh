@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The panel beside the game: it sets and gives, jumps, holds a script before each command, and opens the editor.
 set -uo pipefail
-zentrox=$1 story=$2 out=$3
+zentrox=$1 story=$2 probe=$3 out=$4
 . "$(dirname "$0")/../desktop/display.bash"
 rm -rf "$out"
 mkdir -p "$out"
@@ -41,12 +41,12 @@ flags
 row 3
 recorded '^set TÜR_OFFEN$'
 row 3
-recorded 'TÜR_OFFEN was cleared'
+recorded '^clear TÜR_OFFEN$'
 items
 row 1
 recorded '^take schluessel$'
 row 1
-recorded 'schluessel was taken away'
+recorded '^drop schluessel$'
 rooms
 row 2
 recorded '^go Start.lsd$'
@@ -76,4 +76,7 @@ gone() { ! xdotool search --onlyvisible --name Werkbank >/dev/null 2>&1; }
 key F9
 eventually gone || fail "the panel does not close"
 must_live "the end"
+kill -9 $game
+{ cat gespielt.walk; echo 'expect not item schluessel'; echo 'expect not flag TÜR_OFFEN'; } >ganz.walk
+"$probe" --quiet --dir s --args Start.lsd --flags "BEGRÜSST" ganz.walk || fail "the record does not lead there"
 exit 0

@@ -351,6 +351,19 @@ void Player::takeItem(const Command& command) {
     if (!room("the item").takeItem(item)) fail("item " + command.words[0], game_->whyNoSuchItem(item));
 }
 
+void Player::clearFlag(const Command& command) {
+    if (!room("the flag").clearFlag(fromUtf8(command.words[0]))) fail("a room to clear a flag in", seen());
+}
+
+void Player::dropItem(const Command& command) {
+    const Text item = fromUtf8(command.words[0]);
+    if (!room("the item").dropItem(item)) fail("item " + command.words[0], game_->whyNoItem(item));
+}
+
+void Player::setEvil(const Command& command) {
+    if (!room("the evil counter").setEvil(number(command.words[0]))) fail("a room to be evil in", seen());
+}
+
 // The room's script begins right here, as it would in a handler, and the walk goes on inside of it.
 void Player::goToRoom(const Command& command) {
     whenFree("room " + command.words[0], [this, file = fromUtf8(command.words[0]), word = command.words[0]] {

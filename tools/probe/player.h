@@ -52,6 +52,9 @@ public:
     virtual void leaveGame() = 0;
     virtual bool setFlag(TextView name) = 0;
     virtual bool takeItem(TextView item) = 0;
+    virtual bool clearFlag(TextView name) = 0;
+    virtual bool dropItem(TextView item) = 0;
+    virtual bool setEvil(int points) = 0;
     virtual bool goTo(TextView room) = 0;
 };
 
@@ -111,6 +114,9 @@ public:
     void lose(const Command& command);
     void setFlag(const Command& command);
     void takeItem(const Command& command);
+    void clearFlag(const Command& command);
+    void dropItem(const Command& command);
+    void setEvil(const Command& command);
     void goToRoom(const Command& command);
     void resize(const Command& command);
     void close(const Command& command);

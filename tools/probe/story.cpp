@@ -231,6 +231,30 @@ bool Story::takeItem(TextView item) {
     return true;
 }
 
+bool Story::clearFlag(TextView name) {
+    MerkerLöschen(z_, name);
+    return room() != nullptr;
+}
+
+bool Story::dropItem(TextView item) {
+    if (room() == nullptr) return false;
+    item = itemName(item);
+    const auto end = z_.Inventar.begin() + z_.InventarLetzter + 1;
+    const auto slot = std::find_if(z_.Inventar.begin(), end,
+                                   [&](const Text& path) { return equalIgnoringCase(baseName(path), item); });
+    if (slot == end) return false;
+    std::move(slot + 1, end, slot);
+    (end - 1)->clear();
+    --z_.InventarLetzter;
+    room()->GegenständeLaden();
+    return true;
+}
+
+bool Story::setEvil(int points) {
+    z_.BösePunkte = points;
+    return room() != nullptr;
+}
+
 bool Story::goTo(TextView file) {
     const Text path = z_.PfadRooms + Text(file);
     if (room() == nullptr || !platform_.files.exists(path)) return false;

@@ -39,6 +39,9 @@ public:
     void leaveGame() override;
     bool setFlag(TextView name) override;
     bool takeItem(TextView item) override;
+    bool clearFlag(TextView name) override;
+    bool dropItem(TextView item) override;
+    bool setEvil(int points) override;
     bool goTo(TextView room) override;
 
 private:
