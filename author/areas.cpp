@@ -50,8 +50,12 @@ int distance(Point a, Point b) {
 
 Areas::Areas(Workbench& bench) : bench_(bench), z_(bench.comforts().zustand()) {
     ComfortKeys& keys = bench.comforts().keys();
-    keys.add({.code = key::f1 + 4, .label = "F5", .does = "Flächen zeigen"_t, .down = [this] { showOrHide(); }});
-    keys.add({.code = key::f1 + 5, .label = "F6", .does = "Flächen zeichnen"_t, .down = [this] { beginOrEnd(); }});
+    keys.add({.code = key::f5, .control = true, .label = "Strg+F5", .does = "Flächen zeigen"_t, .down = [this] {
+                  showOrHide();
+              }});
+    keys.add({.code = key::f6, .control = true, .label = "Strg+F6", .does = "Flächen zeichnen"_t, .down = [this] {
+                  beginOrEnd();
+              }});
     bench.comforts().addLook([this](const Input& input) { return look(input); });
     bench.comforts().addOverlay([this](Bitmap& picture, const Rect& base) { draw(picture, base); });
 }

@@ -42,17 +42,18 @@ Panel::Panel(Workbench& bench, sdl::Desktop& desktop)
     comforts_.observers().Dazu(trace_);
     trace_.onCommand = [this] { holdBeforeCommand(); };
     ComfortKeys& keys = comforts_.keys();
-    keys.add({.code = key::f1 + 8, .label = "F9", .does = "Werkbank: das Fenster daneben", .down = [this] {
-                  showOrHide();
-              }});
+    keys.add({.code = key::f9,
+              .control = true,
+              .label = "Strg+F9",
+              .does = "Werkbank: das Fenster daneben",
+              .down = [this] { showOrHide(); }});
     keys.add(
-        {.code = key::f1 + 11, .control = true, .label = "Strg+F12", .does = "ohne Halt weiter", .down = [this] {
-             goOn();
+        {.code = key::f4, .label = "F4", .does = "vor jedem Befehl halten; einen Befehl weiter", .down = [this] {
+             step();
          }});
-    keys.add({.code = key::f1 + 11,
-              .label = "F12",
-              .does = "vor jedem Befehl halten; einen Befehl weiter",
-              .down = [this] { step(); }});
+    keys.add({.code = key::f4, .control = true, .label = "Strg+F4", .does = "ohne Halt weiter", .down = [this] {
+                  goOn();
+              }});
     comforts_.addLook([this](const Input& input) { return heldInput(input); });
 }
 
@@ -116,7 +117,7 @@ void Panel::holdBeforeCommand() {
 
 void Panel::step() {
     if (stepping_) mayRun_ = true;
-    if (!stepping_) comforts_.notice("Vor jedem Befehl wird gehalten: F12 weiter, Strg+F12 ohne Halt.");
+    if (!stepping_) comforts_.notice("Vor jedem Befehl wird gehalten: F4 weiter, Strg+F4 ohne Halt.");
     stepping_ = true;
     shown_.clear();
 }
@@ -263,8 +264,8 @@ int Panel::header(int y) {
         spots_.push_back({{0, y, picture_.width(), line}, [this, entry] { openEditor(entry); }});
     }
     y += line + 6;
-    x = button({margin, y}, held_ ? "Schritt (F12)" : "Halten (F12)", stepping_, [this] { step(); });
-    if (stepping_) button({x, y}, "Weiter (Strg+F12)", false, [this] { goOn(); });
+    x = button({margin, y}, held_ ? "Schritt (F4)" : "Halten (F4)", stepping_, [this] { step(); });
+    if (stepping_) button({x, y}, "Weiter (Strg+F4)", false, [this] { goOn(); });
     return y + line + 16;
 }
 

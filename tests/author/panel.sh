@@ -15,7 +15,7 @@ export VISUAL=$PWD/kate
 display 1100x700 openbox
 play "$zentrox" --author s/story --record gespielt.walk --flags "BEGRÜSST" Start.lsd
 sleep 1.5
-key F9
+key ctrl+F9
 panel_there() { panel=$(xdotool search --onlyvisible --name Werkbank 2>/dev/null | tail -1); [ -n "$panel" ]; }
 eventually panel_there || fail "no panel"
 sleep 0.7
@@ -55,7 +55,7 @@ must_live "the panel"
 
 # Held before a command, the text does not come; one step, and it does.
 sleep 0.5
-key F12
+key F4
 sleep 0.3
 before=$(middle)
 eval "$(xdotool getwindowgeometry --shell "$window")"
@@ -66,14 +66,14 @@ recorded '^look Tür$'
 sleep 0.7
 text_band() { import -window "$window" -crop 640x40+0+220 +repage -depth 8 rgb:- | cksum; }
 held=$(text_band)
-key F12
+key F4
 other_band() { [ "$(text_band)" != "$held" ]; }
 eventually other_band || fail "a step does not lead on"
-key ctrl+F12
+key ctrl+F4
 sleep 0.2
 key Return
 gone() { ! xdotool search --onlyvisible --name Werkbank >/dev/null 2>&1; }
-key F9
+key ctrl+F9
 eventually gone || fail "the panel does not close"
 must_live "the end"
 kill -9 $game

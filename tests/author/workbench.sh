@@ -81,7 +81,7 @@ eventually looks_like "$room" || fail "the room does not come back"
 eval "$(xdotool getwindowgeometry --shell "$window")"
 at() { xdotool mousemove --window "$window" "$1" "$(($2 + 1))"; sleep 0.1; }
 at 150 200
-key F6
+key ctrl+F6
 sleep 0.2
 at 50 60
 xdotool mousedown 1
