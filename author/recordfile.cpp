@@ -7,6 +7,28 @@ namespace zentrox::author {
 
 namespace fs = std::filesystem;
 
+void RecordText::line(const std::string& line) {
+    tail_.clear();
+    lines_.push_back(last_ = line);
+}
+
+void RecordText::changeLast(const std::string& line) {
+    if (!lines_.empty()) lines_.pop_back();
+    RecordText::line(line);
+}
+
+std::string RecordText::text() const {
+    std::string all;
+    for (const std::string& line : lines_) all += line + '\n';
+    return tail_.empty() ? all : all + tail_ + '\n';
+}
+
+void RecordText::clear() {
+    lines_.clear();
+    tail_.clear();
+    last_.clear();
+}
+
 RecordFile::RecordFile(const fs::path& path, bool goOn) : path_(path) {
     constexpr auto both = std::ios::binary | std::ios::in | std::ios::out;
     if (!goOn || !fs::exists(path)) std::ofstream(path, std::ios::binary | std::ios::trunc);

@@ -16,7 +16,7 @@ namespace zentrox::author {
 
 class WalkWriter : public Beobachter {
 public:
-    explicit WalkWriter(RecordFile& file) : file_(file) {}
+    explicit WalkWriter(RecordLines& file) : file_(file) {}
 
     // A life of the program begins, with its menu if it is not the first; both null: it is over.
     void watch(Platform* platform, const Zustand* state);
@@ -85,7 +85,7 @@ private:
     void clicks(const Window& window, const Input& input);
     std::string withButton(const char* verb, const Input& input) const;
 
-    RecordFile& file_;
+    RecordLines& file_;
     Platform* platform_ = nullptr;
     const Zustand* z_ = nullptr;
     bool first_ = true;

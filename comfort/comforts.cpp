@@ -130,8 +130,16 @@ void Comforts::notice(Text text) {
     });
 }
 
+Text Comforts::noticeNow() const {
+    if (standsAway_) return pausedNotice;
+    if (!notice_.empty()) return notice_;
+    for (const auto& hint : hints_)
+        if (Text text = hint(); !text.empty()) return text;
+    return {};
+}
+
 void Comforts::drawNotice(Bitmap& picture, const Rect& base) const {
-    const Text& text = standsAway_ ? pausedNotice : notice_;
+    const Text text = noticeNow();
     if (text.empty()) return;
     const Font& font = platform_.fonts.get({.points = 10});
     const Size room = font.measure(text);

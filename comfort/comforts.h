@@ -53,6 +53,8 @@ public:
     const Rect& topArea() const { return topArea_; }
     // Tells the player something for a few seconds, at the upper edge of the picture.
     void notice(Text text);
+    // Asked for each picture: what stands there as long as no notice does; empty for nothing.
+    void addHint(std::function<Text()> hint) { hints_.push_back(std::move(hint)); }
     // The overlay would look different now.
     void refresh() { machine_.refreshOverlay(); }
 
@@ -61,6 +63,7 @@ private:
     void apply();
     void takeFromMachine();
     void pauseSound(bool on);
+    Text noticeNow() const;
     void drawNotice(Bitmap& picture, const Rect& base) const;
 
     Platform& platform_;
@@ -73,6 +76,7 @@ private:
     std::vector<std::function<void(const Settings&)>> told_;
     std::vector<std::function<bool(const Input&)>> looks_;
     std::vector<std::function<void(Bitmap&, const Rect&)>> overlays_;
+    std::vector<std::function<Text()>> hints_;
     Rect topArea_;
     bool standsAway_ = false;
     int soundPauses_ = 0;  // so many want it to stand still

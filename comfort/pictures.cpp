@@ -1,5 +1,6 @@
 #include "comfort/pictures.h"
 
+#include <array>
 #include <ctime>
 #include <sstream>
 
@@ -14,11 +15,11 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::uint64_t mostBytes = 100'000;
-constexpr std::string_view wanted = "XDG_PICTURES_DIR=\"";
 constexpr std::string_view homeWord = "$HOME";
 
 // The value of a line as the desktop's tools write it: "$HOME/Bilder" or an absolute path.
-fs::path pictureLine(const std::string& file, const fs::path& home) {
+fs::path listedAs(const std::string& name, const std::string& file, const fs::path& home) {
+    const std::string wanted = name + "=\"";
     std::istringstream lines(file);
     for (std::string line; std::getline(lines, line);) {
         if (!line.starts_with(wanted)) continue;
@@ -35,20 +36,28 @@ fs::path ofEnvironment(const Environment& environment, const char* name) {
     return value != nullptr && fs::path(value).is_absolute() ? fs::path(value) : fs::path();
 }
 
-}  // namespace
-
-fs::path picturesDirectory(const Environment& environment) {
-    if (const fs::path named = ofEnvironment(environment, "XDG_PICTURES_DIR"); !named.empty()) return named;
+fs::path ofUser(const Environment& environment, const char* name, std::array<const char*, 2> usual) {
+    if (fs::path named = ofEnvironment(environment, name); !named.empty()) return named;
     const fs::path home = ofEnvironment(environment, "HOME");
     if (home.empty()) return {};
     fs::path config = ofEnvironment(environment, "XDG_CONFIG_HOME");
     if (config.empty()) config = home / ".config";
     const std::string rules = readFile(config / "user-dirs.dirs", mostBytes).value_or("");
-    if (const fs::path listed = pictureLine(rules, home); !listed.empty()) return listed;
+    if (fs::path listed = listedAs(name, rules, home); !listed.empty()) return listed;
     std::error_code error;
-    for (const char* const usual : {"Bilder", "Pictures"})
-        if (fs::is_directory(home / usual, error)) return home / usual;
+    for (const char* const one : usual)
+        if (fs::is_directory(home / one, error)) return home / one;
     return home;
+}
+
+}  // namespace
+
+fs::path picturesDirectory(const Environment& environment) {
+    return ofUser(environment, "XDG_PICTURES_DIR", {"Bilder", "Pictures"});
+}
+
+fs::path documentsDirectory(const Environment& environment) {
+    return ofUser(environment, "XDG_DOCUMENTS_DIR", {"Dokumente", "Documents"});
 }
 
 Bitmap gamePicture(const Queue& queue) {

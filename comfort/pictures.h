@@ -11,6 +11,8 @@ namespace zentrox {
 // Where the player keeps pictures, as the desktop's rules name it: XDG_PICTURES_DIR of the environment or of
 // user-dirs.dirs, else a directory Bilder or Pictures in HOME, else HOME itself; empty without one.
 std::filesystem::path picturesDirectory(const Environment& environment = processEnvironment);
+// The same for texts: XDG_DOCUMENTS_DIR, Dokumente, Documents.
+std::filesystem::path documentsDirectory(const Environment& environment = processEnvironment);
 
 // The client area of the topmost window, without the windows of the comforts and what they draw over it.
 Bitmap gamePicture(const Queue& queue);

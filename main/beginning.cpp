@@ -49,6 +49,9 @@ void addBeginning(CLI::App& app, Beginning& beginning) {
     names("--items", beginning.items, "Items that are carried in the beginning, with commas between them");
     app.add_option("--evil", beginning.evil, "Where the evil counter stands in the beginning")->type_name("N");
     app.add_option("--seed", beginning.seed, "Seed of the random numbers")->type_name("N");
+    app.add_option("--random", beginning.random,
+                   "The same, but from the first room on, as reports of problems have it")
+        ->type_name("N");
 }
 
 std::string roomOf(const Beginning& beginning, const std::string& named) {
@@ -59,6 +62,7 @@ std::string walkCall(const std::string& room, const Beginning& beginning) {
     std::string words = "# zentrox-probe";
     if (!room.empty()) words += " --args " + inQuotes(room);
     if (beginning.seed) words += " --seed " + std::to_string(*beginning.seed);
+    if (beginning.random) words += " --random " + std::to_string(*beginning.random);
     if (!beginning.flags.empty()) words += " --flags " + joined(beginning.flags);
     if (!beginning.items.empty()) words += " --items " + joined(beginning.items);
     if (beginning.evil != 0) words += " --evil " + std::to_string(beginning.evil);
@@ -79,6 +83,7 @@ void Beginner::Öffnet(Raumfenster& room) {
         state_->Inventar[static_cast<std::size_t>(++state_->InventarLetzter)] = std::move(file);
     state_->BösePunkte += beginning_.evil;
     if (!beginning_.items.empty()) room.GegenständeLaden();
+    if (beginning_.random) platform_->random.reseed(*beginning_.random);
 }
 
 }  // namespace zentrox

@@ -21,13 +21,14 @@ struct Beginning {
     std::vector<std::string> flags;  // UTF-8, as all of these
     std::vector<std::string> items;  // by any name that walks have for them
     std::int32_t evil = 0;
-    std::optional<std::uint64_t> seed;  // of the random numbers
+    std::optional<std::uint64_t> seed;    // of the random numbers
+    std::optional<std::uint64_t> random;  // the same, but from the first room on
 
     // True if there is more to begin with than a room.
-    bool hasState() const { return !flags.empty() || !items.empty() || evil != 0; }
+    bool hasState() const { return !flags.empty() || !items.empty() || evil != 0 || random; }
 };
 
-// Adds `--flags`, `--items`, `--evil` and `--seed`.
+// Adds `--flags`, `--items`, `--evil`, `--seed` and `--random`.
 void addBeginning(CLI::App& app, Beginning& beginning);
 // The room to begin in: the one that is named, else the first one if there is something to begin with.
 std::string roomOf(const Beginning& beginning, const std::string& named);

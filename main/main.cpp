@@ -16,6 +16,7 @@
 #include "main/beginning.h"
 #include "main/desktopcomfort.h"
 #include "main/options.h"
+#include "main/report.h"
 #include "main/spiel.h"
 #include "main/story.h"
 #include "platform/codec/zip.h"
@@ -121,6 +122,9 @@ int play(const Options& options, const StoryPlace& place) {
     if (options.record) record.emplace(options, comforts);
     std::optional<AuthorsPlace> authors;
     if (options.author) authors.emplace(options, desktop, comforts, record ? &record->writer() : nullptr);
+    std::optional<Report> report;
+    if (!options.author)  // its walk would not know of what an author does
+        report.emplace(comforts, documentsDirectory(), walkCall(options.commandLine, options.beginning));
     Hands hands(comforts);  // behind the author's keys
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
     Keepsakes keepsakes(comforts);

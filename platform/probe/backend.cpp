@@ -47,6 +47,10 @@ std::optional<Input> ProbeBackend::nextInput() {
     auto input = person_->next();
     handedOver_ = input.has_value();
     if (input && input->kind == Input::Kind::press) input->shift = keys_[key::shift] == held;
+    if (input && input->kind == Input::Kind::keyDown) {
+        input->shift = keys_[key::shift] == held;
+        input->control = keys_[key::control] == held;
+    }
     if (input && input->code > 0 && input->code < 256) {
         if (input->kind == Input::Kind::keyDown) keys_[static_cast<std::size_t>(input->code)] = held;
         if (input->kind == Input::Kind::keyUp) keys_[static_cast<std::size_t>(input->code)] = 0;

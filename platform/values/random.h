@@ -9,6 +9,8 @@ class Random {
 public:
     explicit Random(std::uint64_t seed = 1) { reseed(seed); }
     void reseed(std::uint64_t seed) { state_ = seed; }
+    // A seed that goes on from here.
+    std::uint64_t state() const { return state_; }
     // A fresh number from 0 up to but excluding 1.
     double draw();
     // A fresh whole number from 0 up to but excluding n; n at least 1. One draw.

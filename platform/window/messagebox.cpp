@@ -119,13 +119,16 @@ public:
         : Window(platform, "MsgBox", box.title, layout.client, Frame::dialog),
           icon_(&root(), layout.icon),
           text_(&root(), layout.text, box.text),
-          ok_(&root(), layout.button, "OK") {
+          ok_(&root(), layout.button, "OK"),
+          failure_(box.icon == MessageBox::Icon::critical) {
         if (box.icon == MessageBox::Icon::none)
             icon_.setVisible(false);
         else
             icon_.setPicture(draw(box.icon));
         ok_.onClick = [this] { close(); };
     }
+
+    bool failure() const { return failure_; }
 
     void onOpen() override { setFocus(&ok_); }
 
@@ -137,6 +140,7 @@ private:
     Image icon_;
     Label text_;
     PushButton ok_;
+    bool failure_;
 };
 
 }  // namespace
@@ -145,6 +149,11 @@ void showMessageBox(Platform& platform, const MessageBox& box) {
     MsgBox window(platform, box, layOut(platform.fonts, box));
     platform.backend.messageBoxOpened(box);
     window.showModal();
+}
+
+bool tellsOfFailure(const Window& window) {
+    const auto* const box = dynamic_cast<const MsgBox*>(&window);
+    return box != nullptr && box->failure();
 }
 
 }  // namespace zentrox

@@ -6,6 +6,7 @@
 namespace zentrox {
 
 class Platform;
+class Window;
 
 struct MessageBox {
     enum class Icon { none, information, critical };
@@ -16,5 +17,8 @@ struct MessageBox {
 
 // Shows it and returns when it has been closed, by its button, Enter, Escape, space or its close box.
 void showMessageBox(Platform& platform, const MessageBox& box);
+
+// True if the window is such a box with the icon of a failure.
+bool tellsOfFailure(const Window& window);
 
 }  // namespace zentrox

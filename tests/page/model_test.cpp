@@ -205,6 +205,9 @@ TEST(Pictures, AreMeansOfWhatTheyStandFor) {
     EXPECT_EQ(small.pixel({0, 0}), 0x800000);
     EXPECT_EQ(small.pixel({1, 0}), 0);
     EXPECT_EQ(fitted(picture, {4, 2}), picture);
+}
+
+TEST(Base64, FillsUpWithEqualsSigns) {
     EXPECT_EQ(base64("Zentrox"), "WmVudHJveA==");
     EXPECT_EQ(base64("abc"), "YWJj");
     EXPECT_EQ(base64(std::string("\xFF\x00", 2)), "/wA=");

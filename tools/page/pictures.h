@@ -31,6 +31,4 @@ private:
 // The picture in a size that fits into `most`, each pixel the mean of those it stands for. A smaller one stays.
 Bitmap fitted(const Bitmap& picture, Size most);
 
-std::string base64(std::string_view bytes);
-
 }  // namespace zentrox::page

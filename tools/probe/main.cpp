@@ -17,6 +17,7 @@
 #include "comfort/talk.h"
 #include "engine/interpreter/verteiler.h"
 #include "main/beginning.h"
+#include "main/report.h"
 #include "main/spiel.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/replace_file.h"
@@ -113,6 +114,7 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
     std::optional<Desk> desk;
     std::optional<Screenshots> screenshots;
     std::optional<GameComforts> games;
+    std::optional<Report> report;
     std::optional<Hands> hands;
     std::optional<Keepsakes> keepsakes;
     std::optional<Talk> talk;
@@ -125,6 +127,7 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
         desk.emplace(*comforts);
         screenshots.emplace(*comforts, fs::absolute(options.pictures));
         games.emplace(*comforts);
+        report.emplace(*comforts, fs::absolute(options.pictures), walkCall(toUtf8(arguments), options.beginning));
         hands.emplace(*comforts);
         keepsakes.emplace(*comforts);
         talk.emplace(*comforts, keepsakes->history());
@@ -222,6 +225,15 @@ int play(const Options& options) {
     return result;
 }
 
+// The options that the first remark of a recorded walk names; empty if it is none.
+std::string callOf(const std::string& walk) {
+    constexpr std::string_view begin = "# zentrox-probe ";
+    std::istringstream lines(walk == "-" ? std::string() : readFile(walk).value_or(""));
+    std::string first;
+    std::getline(lines, first);
+    return first.starts_with(begin) ? first.substr(begin.size()) : std::string();
+}
+
 int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_option("--dir", options.directory,
                    "The program's directory: where the data directories and saves lie; or a packed story");
@@ -241,11 +253,14 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_option("--timeout", options.timeout, "Seconds of real time after which the walk fails")
         ->capture_default_str();
     app.add_flag("--quiet", options.quiet, "No trace, only what say prints and what fails");
+    bool asRecorded = false;
+    app.add_flag("--as-recorded", asRecorded, "Begins as the walk's first remark says, which a record writes");
     app.add_option("WALK", options.walk, "A file, or - for standard input");
     app.set_version_flag("--version", "zentrox-probe " ZENTROX_VERSION);
     addWordsFor(app);
     try {
         app.parse(argc, argv);
+        if (asRecorded) app.parse(callOf(options.walk), false);
     } catch (const CLI::Success& shown) {
         app.exit(shown);
         return -1;
