@@ -23,8 +23,10 @@ constexpr std::size_t lineLength = 100;
 constexpr const char* contents =
     "#\n"
     "# Diese Datei kann so, wie sie ist, an eine Mail gehängt werden. Bitte dazuschreiben, was nicht stimmt.\n"
-    "# Sie enthält: Geschichte und Version, die Einstellungen, wo das Programm gerade steht, was seit dem Betreten des\n"
-    "# Raums gespielt wurde, den Spielstand und das Bild. Im Spielstand stehen auch die Verzeichnisse, in denen die\n"
+    "# Sie enthält: Geschichte und Version, die Einstellungen, wo das Programm gerade steht, was seit dem Betreten "
+    "des\n"
+    "# Raums gespielt wurde, den Spielstand und das Bild. Im Spielstand stehen auch die Verzeichnisse, in denen "
+    "die\n"
     "# Geschichte auf diesem Rechner liegt; sonst nichts von diesem Rechner und nichts über seinen Besitzer.\n"
     "# Nachspielen: zentrox-probe --dir GESCHICHTE --as-recorded DATEI\n"
     "#\n";
@@ -49,8 +51,7 @@ Text baseName(TextView path) {
 // The topmost window that is no box.
 Window* windowOf(const Queue& queue) {
     const auto& all = queue.windows();
-    const auto found =
-        std::find_if(all.rbegin(), all.rend(), [](Window* one) { return one->name() != "MsgBox"; });
+    const auto found = std::find_if(all.rbegin(), all.rend(), [](Window* one) { return one->name() != "MsgBox"; });
     return found == all.rend() ? nullptr : *found;
 }
 
@@ -133,8 +134,7 @@ void Report::write() {
         replaceFile(file, call_ + head() + walk_.text() + tail());
         comforts_.notice(Text("Problembericht geschrieben:\n") + fromUtf8(file.string()));
     } catch (const std::system_error& failure) {
-        comforts_.notice(Text("Der Bericht kann nicht geschrieben werden:\n") +
-                         fromUtf8(failure.code().message()));
+        comforts_.notice(Text("Der Bericht kann nicht geschrieben werden:\n") + fromUtf8(failure.code().message()));
     }
 }
 

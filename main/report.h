@@ -1,5 +1,5 @@
-// A report of a problem: one file, a walk that leads from the last room entered to the problem, with all else that helps
-// in its remarks. `zentrox-probe --as-recorded` replays it.
+// A report of a problem: one file, a walk that leads from the last room entered to the problem, with all else that
+// helps in its remarks. `zentrox-probe --as-recorded` replays it.
 #pragma once
 
 #include <filesystem>
@@ -13,8 +13,8 @@ namespace zentrox {
 
 class Report : public Beobachter {
 public:
-    // Reports go to `directory`; it need not be there. `call` is what `walkCall` gives for this play. Must outlive the play, whose keys, looks and hints
-    // it takes.
+    // Reports go to `directory`; it need not be there. `call` is what `walkCall` gives for this play. Must outlive
+    // the play, whose keys, looks and hints it takes.
     Report(Comforts& comforts, std::filesystem::path directory, const std::string& call);
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;

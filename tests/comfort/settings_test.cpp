@@ -4,6 +4,7 @@
 #include <set>
 
 #include "comfort/settings.h"
+#include "platform/machine/whole_file.h"
 
 namespace zentrox {
 namespace {
@@ -21,6 +22,19 @@ TEST(SettingsFile, EverySettingComesBack) {
     EXPECT_EQ(readSettings(writeSettings(chosen, "")), chosen);
     EXPECT_EQ(readSettings(writeSettings(Settings(), writeSettings(chosen, ""))), Settings());
     EXPECT_EQ(writeSettings(Settings(), ""), "") << "nothing chosen, nothing written";
+}
+
+TEST(SettingsPage, TellsOfEachSettingAndItsValues) {
+    const std::string page = readFile(COMFORTS_PAGE).value_or("");
+    for (const SettingsRow& row : settingsRows()) {
+        const auto at = page.find("`" + std::string(row.key) + "`");
+        ASSERT_NE(at, std::string::npos) << row.key;
+        const std::string line = page.substr(at, page.find('\n', at) - at);
+        const std::string shownOn = row.shown ? "| " + toUtf8(row.page) + " |" : "";
+        EXPECT_NE(page.find(shownOn), std::string::npos) << row.key;
+        for (const Choice& choice : row.choices)
+            EXPECT_NE(line.find("`" + std::string(choice.word) + "`"), std::string::npos) << row.key;
+    }
 }
 
 TEST(SettingsFile, LinesOfOthersStayWhereTheyAre) {

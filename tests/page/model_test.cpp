@@ -1,3 +1,4 @@
+#include "platform/values/base64.h"
 #include "tests/page/page_support.h"
 #include "tools/page/map.h"
 #include "tools/page/pictures.h"
