@@ -50,12 +50,18 @@ int distance(Point a, Point b) {
 
 Areas::Areas(Workbench& bench) : bench_(bench), z_(bench.comforts().zustand()) {
     ComfortKeys& keys = bench.comforts().keys();
-    keys.add({.code = key::f5, .control = true, .label = "Strg+F5", .does = "Flächen zeigen"_t, .down = [this] {
-                  showOrHide();
-              }});
-    keys.add({.code = key::f6, .control = true, .label = "Strg+F6", .does = "Flächen zeichnen"_t, .down = [this] {
-                  beginOrEnd();
-              }});
+    keys.add({.code = key::f5,
+              .control = true,
+              .label = "Strg+F5",
+              .does = "Flächen zeigen"_t,
+              .group = Werkbank,
+              .down = [this] { showOrHide(); }});
+    keys.add({.code = key::f6,
+              .control = true,
+              .label = "Strg+F6",
+              .does = "Flächen zeichnen"_t,
+              .group = Werkbank,
+              .down = [this] { beginOrEnd(); }});
     bench.comforts().addLook([this](const Input& input) { return look(input); });
     bench.comforts().addOverlay([this](Bitmap& picture, const Rect& base) { draw(picture, base); });
 }
@@ -192,7 +198,7 @@ void Areas::draw(Bitmap& picture, const Rect& base) const {
     for (int i = 0; i < count; ++i) drawName(picture, at, i);
     if (!drawing_) return;
     drawShape(picture, at);
-    if (bench_.findings().empty()) drawHelp(picture, {at, roomSize});
+    if (!bench_.faulty()) drawHelp(picture, {at, roomSize});
 }
 
 // Only the cells in which it takes the click are filled; the others, which lie below another object, are outlined.

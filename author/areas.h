@@ -14,9 +14,13 @@ public:
     Areas(const Areas&) = delete;
     Areas& operator=(const Areas&) = delete;
 
-private:
+    bool shown() const { return shown_; }
     void showOrHide();
+    // A hand that draws; where no room is on top there is nothing to draw on.
+    bool drawing() const { return drawing_; }
     void beginOrEnd();
+
+private:
     bool look(const Input& input);
     bool key(const Input& input);
     void press(const Input& input, Point at);

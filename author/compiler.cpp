@@ -21,11 +21,23 @@ fs::path whole(const fs::path& path) {
     return fs::absolute(path, error).lexically_normal();
 }
 
-std::vector<std::string> linesIn(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) lines.push_back(line);
-    return lines;
+Compiler::Result failed(const std::string& why) {
+    return {false, {{.message = why, .inFull = why}}, {}};
+}
+
+std::vector<Compiler::Finding> listed(const story::Story& story, const story::Findings& findings) {
+    std::vector<Compiler::Finding> list;
+    std::istringstream lines(story::asLines(story, findings));
+    std::string line;
+    for (const story::Finding& one : findings.all()) {
+        std::getline(lines, line);
+        list.push_back({.file = whole(story.files[static_cast<std::size_t>(one.place.file)]),
+                        .line = one.place.line,
+                        .isError = one.severity == story::Severity::error,
+                        .message = one.message,
+                        .inFull = line});
+    }
+    return list;
 }
 
 }  // namespace
@@ -40,17 +52,17 @@ Compiler::Result Compiler::compile() {
         note(story);
         story::checkForBuild(story, findings);
         findings.settle(story);
-        if (findings.hasErrors()) return {linesIn(story::asLines(story, findings)), {}};
-        Result result;
-        result.changed = story::writeStory(story, data_);
+        if (findings.hasErrors()) return {false, listed(story, findings), {}};
+        Result result{true, listed(story, findings), story::writeStory(story, data_)};
         story_ = std::move(story);
+        scripts_ = story::scriptsOf(story_);
         return result;
     } catch (const story::WrongCall& call) {
-        return {{call.why}, {}};
+        return failed(call.why);
     } catch (const fs::filesystem_error& error) {
-        return {{error.path1().string() + ": " + story::inGerman(error.code())}, {}};
+        return failed(error.path1().string() + ": " + story::inGerman(error.code()));
     } catch (const std::exception& error) {
-        return {{error.what()}, {}};
+        return failed(error.what());
     }
 }
 
@@ -69,6 +81,11 @@ fs::path Compiler::fileOf(const story::Place& place) const {
 
 bool Compiler::isSource(const fs::path& file) const {
     return files_.contains(file) || lower(file.extension().native()) == ".story";
+}
+
+std::string shortly(const Compiler::Finding& finding) {
+    if (finding.file.empty()) return finding.message;
+    return finding.file.filename().string() + ":" + std::to_string(finding.line) + ": " + finding.message;
 }
 
 fs::path dataOf(const fs::path& sources) {

@@ -30,15 +30,22 @@ std::size_t Trace::Beginnt(const Skript& script, TextView room, int object) {
     const auto& objects = z_.AktuellerRaum.Objekte;
     if (object >= 0 && static_cast<std::size_t>(object) < objects.size())
         run.name += ", " + objects[static_cast<std::size_t>(object)].Name;
-    findPlaces(run, room);
+    findPlaces(run, room, object);
     runs_.push_back(std::move(run));
     return runs_.size() - 1;
 }
 
 // By what it holds: the game copies scripts before it runs them, and an item's comes from a file of its own.
-void Trace::findPlaces(Run& run, TextView room) const {
-    for (const story::ScriptView& view : story::scriptsOf(compiler_.story())) {
-        const bool here = view.room == nullptr || equalIgnoringCase(view.room->file, room);
+// Objects may have the same script, so it counts which one it is.
+void Trace::findPlaces(Run& run, TextView room, int object) const {
+    using Role = story::ScriptView::Role;
+    int action = -1;  // the object whose action the view is
+    for (const story::ScriptView& view : compiler_.scripts()) {
+        if (view.role == Role::start) action = -1;
+        if (view.role == Role::action && view.which == 0) ++action;
+        const bool ofObject = view.role == Role::action;
+        const bool here = view.room == nullptr || (equalIgnoringCase(view.room->file, room) &&
+                                                   (!ofObject || object < 0 || action == object));
         const bool same = std::equal(run.commands.begin(), run.commands.end(), view.script.Befehl.begin(),
                                      view.script.Befehl.begin() + std::max(view.script.Letzter + 1, 0)) &&
                           run.arguments == view.script.Argument;
@@ -59,6 +66,7 @@ void Trace::Anweisung(std::size_t number, std::int32_t index) {
     if (at < run.arguments.size() && !run.arguments[at].empty()) entry.text += " " + onOneLine(run.arguments[at]);
     entries_.push_back(std::move(entry));
     if (entries_.size() > kept) entries_.pop_front();
+    ++count_;
     if (onCommand) onCommand();
 }
 

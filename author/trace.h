@@ -21,6 +21,8 @@ public:
     };
     // The oldest first.
     const std::deque<Entry>& entries() const { return entries_; }
+    // Of all commands that have run.
+    int count() const { return count_; }
     // The innermost script that runs, "Hof.lsd, Gully, Links"; empty if none does.
     Text running() const { return runs_.empty() ? Text() : runs_.back().name; }
     // Called before each command, when it is in the trace already. It may wait.
@@ -39,12 +41,13 @@ private:
         std::vector<Text> arguments;
         std::vector<Entry> places;  // of each command, without its text
     };
-    void findPlaces(Run& run, TextView room) const;
+    void findPlaces(Run& run, TextView room, int object) const;
 
     const Compiler& compiler_;
     const Zustand& z_;
     std::vector<Run> runs_;
     std::deque<Entry> entries_;
+    int count_ = 0;
 };
 
 }  // namespace zentrox::author

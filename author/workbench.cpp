@@ -22,7 +22,7 @@ namespace {
 // Between two looks at the disk. What has changed counts when nothing more came between two of them, since editors
 // write in several steps.
 constexpr Milliseconds lookEvery = 40;
-constexpr std::size_t mostFindings = 8;
+constexpr std::size_t mostErrors = 3;
 constexpr int margin = 6;  // pixels
 constexpr Colour paper{40, 0, 0};
 constexpr Colour ink{255, 220, 120};
@@ -63,6 +63,9 @@ Workbench::Workbench(Comforts& comforts, Compiler& compiler, WalkWriter* record)
       record_(record),
       timer_(comforts.platform().queue, lookEvery, true, [this] { look(); }) {
     comforts_.observers().Dazu(*this);
+    // An author is away in an editor most of the time, and looks at what comes of it.
+    comforts_.whenChanged([this](const Settings&) { comforts_.machine().setPausesAway(false); });
+    comforts_.machine().setPausesAway(false);
     comforts_.addOverlay([this](Bitmap& picture, const Rect& base) { draw(picture, base); });
     compile();
     const Files& files = comforts_.platform().files;
@@ -106,15 +109,14 @@ bool Workbench::compile() {
     Compiler::Result result = compiler_.compile();
     const auto end = std::chrono::steady_clock::now();
     watchSources();
-    const bool worked = result.findings.empty();
     findings_ = std::move(result.findings);
-    for (const std::string& line : findings_) std::cerr << line << '\n';
+    ++news_;
+    for (const Compiler::Finding& finding : findings_) std::cerr << finding.inFull << '\n';
     const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(end - begin).count();
-    if (worked) {
-        const Text told = Text("Übersetzt in "_t) + std::to_string(took) + " ms";
-        comforts_.notice(told);
-        std::cerr << toUtf8(told) << std::endl;
-    }
+    const Text told =
+        result.worked ? Text("Übersetzt in "_t) + std::to_string(took) + " ms" : Text();  // errors stand there
+    comforts_.notice(told);
+    if (result.worked) std::cerr << toUtf8(told) << std::endl;
     const Text room = comforts_.zustand().RaumDatei;
     return std::any_of(result.changed.begin(), result.changed.end(), [&](const fs::path& file) {
         return equalIgnoringCase(fromUtf8(file.filename().string()), room);
@@ -151,18 +153,29 @@ void Workbench::enter(const Text& room) {
         } catch (const Ausweglos&) {
             throw;
         } catch (const DataError& error) {
-            findings_ = {toUtf8(error.message())};
+            const std::string why = toUtf8(error.message());
+            findings_ = {{.message = why, .inFull = why}};
+            ++news_;
             comforts_.refresh();
         }
     }};
 }
 
+bool Workbench::faulty() const {
+    return std::any_of(findings_.begin(), findings_.end(), [](const auto& one) { return one.isError; });
+}
+
 void Workbench::draw(Bitmap& picture, const Rect& base) const {
-    if (findings_.empty()) return;
+    if (!faulty()) return;
     const Font& font = comforts_.platform().fonts.get({.points = 9});
     std::vector<Text> rows;
-    for (std::size_t i = 0; i < std::min(findings_.size(), mostFindings); ++i)
-        for (Text& row : wrapped(fromUtf8(findings_[i]), base.w - 2 * margin, font)) rows.push_back(std::move(row));
+    std::size_t errors = 0;
+    for (const Compiler::Finding& finding : findings_) {
+        if (!finding.isError || ++errors > mostErrors) continue;
+        for (Text& row : wrapped(fromUtf8(shortly(finding)), base.w - 2 * margin, font))
+            rows.push_back(std::move(row));
+    }
+    if (errors > mostErrors) rows.push_back("und " + std::to_string(errors - mostErrors) + " weitere");
     const int height = static_cast<int>(rows.size()) * font.lineHeight() + 2 * margin;
     picture.fill({base.x, base.y, base.w, height}, paper);
     Point at = base.at() + Point{margin, margin};

@@ -11,6 +11,9 @@
 
 namespace zentrox::author {
 
+// Under which the keys of an author stand on the page of all keys.
+constexpr TextView Werkbank = "Werkbank";
+
 class Workbench : public Beobachter {
 public:
     // All must outlive it; `record` may be null. Compiles for the first time.
@@ -21,8 +24,11 @@ public:
 
     // Gives up what runs and enters a room, by the name of its file. Does not return where there is a room window.
     void enter(const Text& room);
-    // What is wrong with the sources as they are now, line by line; it stands over the picture.
-    const std::vector<std::string>& findings() const { return findings_; }
+    // What is wrong with the sources as they are now. Errors stand over the picture.
+    const std::vector<Compiler::Finding>& findings() const { return findings_; }
+    bool faulty() const;
+    // Is another number after each compilation.
+    int news() const { return news_; }
     Raumfenster* room() const { return room_; }
     const Compiler& compiler() const { return compiler_; }
     Comforts& comforts() { return comforts_; }
@@ -51,7 +57,8 @@ private:
     Watch watch_;
     std::set<std::filesystem::path> watched_;
     std::set<std::filesystem::path> changed_;  // while more may come
-    std::vector<std::string> findings_;
+    std::vector<Compiler::Finding> findings_;
+    int news_ = 0;
     Timer timer_;
 };
 

@@ -49,7 +49,7 @@ void Keepsakes::addKeys() {
                           .available = inRoom});
     comforts_.keys().add({.code = key::f9,
                           .label = "F9",
-                          .does = "den letzten schnell gespeicherten Stand laden",
+                          .does = "schnell Gespeichertes laden",
                           .down = [this] { comforts_.keys().during([this] { quickLoad(); }); },
                           .available = inRoom});
 }

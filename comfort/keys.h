@@ -13,8 +13,9 @@ namespace zentrox {
 struct ComfortKey {
     int code = 0;  // virtual
     bool control = false;
-    TextView label;  // what stands on the key, for the player
-    TextView does;   // for the player
+    TextView label;    // what stands on the key, for the player
+    TextView does;     // for the player
+    TextView group{};  // the title that it stands under there; empty: among those that work everywhere
     std::function<void()> down;
     std::function<void()> up{};            // if it shall be known when the key is let go
     bool nests = false;                    // it works while another one of these keys has opened a window, too

@@ -40,7 +40,14 @@ constexpr std::array gameLines{
 std::vector<KeyLine> allLines(const ComfortKeys& keys) {
     std::vector<KeyLine> lines(gameLines.begin(), gameLines.end());
     for (const ComfortKey& key : keys.all())
-        if (!key.does.empty()) lines.push_back({key.label, key.does});
+        if (!key.does.empty() && key.group.empty()) lines.push_back({key.label, key.does});
+    TextView group;
+    for (const ComfortKey& key : keys.all()) {
+        if (key.group.empty()) continue;
+        if (key.group != group) lines.push_back({"", key.group});
+        group = key.group;
+        lines.push_back({key.label, key.does});
+    }
     return lines;
 }
 

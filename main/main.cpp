@@ -52,7 +52,13 @@ struct AuthorsPlace {
         : compiler(*options.author, options.directory),
           workbench(comforts, compiler, record),
           areas(workbench),
-          panel(workbench, desktop) {}
+          panel(workbench, areas, desktop, options.panel) {
+        // Back in the menu, which is another process, the panel stands where it stood.
+        panel.onShown = [&desktop, next = options](bool stands) mutable {
+            next.panel = stands;
+            desktop.setRestartCommand(restartCommand(programFile(), next));
+        };
+    }
     author::Compiler compiler;
     author::Workbench workbench;
     author::Areas areas;
@@ -69,11 +75,14 @@ public:
         if (!options.recordGoesOn) file_.line(walkCall(options.commandLine, options.beginning));
         writer_.watch(&comforts.platform(), &comforts.zustand());
         if (options.recordGoesOn) writer_.goesOn();
+        comforts.observers().Dazu(writer_);
+    }
+    // To be called behind all who keep inputs from the game: those are not a part of the play.
+    void seesInputs(Comforts& comforts) {
         comforts.addLook([this](const Input& input) {
             writer_.sees(input);
             return false;
         });
-        comforts.observers().Dazu(writer_);
     }
 
 private:
@@ -129,6 +138,7 @@ int play(const Options& options, const StoryPlace& place) {
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
     Keepsakes keepsakes(comforts);
     const Talk talk(comforts, keepsakes.history());
+    if (record) record->seesInputs(comforts);
     Extras extras{.observer = &comforts.observers(), .saves = &keepsakes.saves(), .aroundGame = games.wrapper()};
     if (options.goesOn && keepsakes.canContinue()) {
         keepsakes.continueWhenOpened();

@@ -68,6 +68,7 @@ Call readOptions(int count, const char* const* words, const fs::path& programDir
         ->type_name("STORY")
         ->take_last()
         ->check(story);
+    app.add_flag("--panel", options.panel, "With --author: opens the workbench's window at once");
     app.add_option("--record", record, "Writes down what is played as a walk, for zentrox-probe")
         ->type_name("FILE")
         ->take_last();
@@ -118,6 +119,7 @@ std::vector<std::string> restartCommand(const fs::path& program, const Options& 
     if (options.noSound) command.emplace_back("--no-sound");
     if (options.portable) command.emplace_back("--portable");
     if (options.author) command.insert(command.end(), {"--author", options.author->string()});
+    if (options.panel) command.emplace_back("--panel");
     if (options.record) command.insert(command.end(), {"--record", options.record->string(), "--record-on"});
     return command;
 }

@@ -20,6 +20,7 @@ struct Options {
     Beginning beginning;                          // beside the room
     std::optional<std::filesystem::path> record;  // where the play is written down as a walk; absolute
     std::optional<std::filesystem::path> author;  // the sources of the story; absolute
+    bool panel = false;                           // an author's, stands from the beginning
     bool recordGoesOn = false;                    // behind what the record holds
     bool noSound = false;                         // the machine's sound is left alone
     bool goesOn = false;                          // with the play that was saved by itself last, if there is one

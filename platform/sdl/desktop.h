@@ -16,6 +16,8 @@ public:
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
+    // Another command that starts this program anew.
+    void setRestartCommand(std::vector<std::string> command) { restartCommand_ = std::move(command); }
     // What the player has chosen of the picture; may be set before the first window opens.
     bool fullScreen() const { return screen_.fullScreen(); }
     void setFullScreen(bool on);

@@ -10,33 +10,65 @@ namespace {
 
 constexpr int gap = 8;  // between the two windows
 
-// Right of the game where there is room for it, else where the window manager likes.
+struct Borders {
+    int top = 0;
+    int left = 0;
+    int bottom = 0;
+    int right = 0;
+};
+
+// What the window manager puts round a window; nothing where it does not tell.
+Borders bordersOf(SDL_Window* window) {
+    Borders borders;
+    SDL_GetWindowBordersSize(window, &borders.top, &borders.left, &borders.bottom, &borders.right);
+    return borders;
+}
+
+// Right of the game where there is room for it, else where the window manager likes. A window manager takes the
+// place of a new window for that of its border.
 SDL_Point placeFor(SDL_Window* game, Size size) {
-    SDL_Point at{SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED};
+    const SDL_Point anywhere{SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED};
     SDL_Rect desktop{};
-    if (game == nullptr || SDL_GetDisplayUsableBounds(SDL_GetWindowDisplayIndex(game), &desktop) != 0) return at;
+    if (game == nullptr || SDL_GetDisplayUsableBounds(SDL_GetWindowDisplayIndex(game), &desktop) != 0)
+        return anywhere;
     int x = 0;
     int y = 0;
     int width = 0;
     SDL_GetWindowPosition(game, &x, &y);
     SDL_GetWindowSize(game, &width, nullptr);
+    const Borders borders = bordersOf(game);
+    const int own = borders.left + size.w + borders.right;
+    const int both = borders.left + width + borders.right + gap + own;
+    if (both > desktop.w) return anywhere;
     // The game makes room, if that is all that is needed.
-    const int both = width + gap + size.w;
-    if (x + both > desktop.x + desktop.w && both <= desktop.w) {
-        x = desktop.x + desktop.w - both;
+    const int right = desktop.x + desktop.w;
+    if (x - borders.left + both > right) {
+        x = right - both + borders.left;
         SDL_SetWindowPosition(game, x, y);
     }
-    at.x = std::min(x + width + gap, desktop.x + desktop.w - size.w);
-    at.y = std::max(desktop.y, std::min(y, desktop.y + desktop.h - size.h));
-    return at;
+    const int height = borders.top + size.h + borders.bottom;
+    const int lowest = desktop.y + desktop.h - height;
+    return {x + width + borders.right + gap, std::max(desktop.y, std::min(y - borders.top, lowest))};
+}
+
+// Whether a key types into a list; the others are the game's, wherever they are pressed.
+bool types(const SDL_Keysym& key) {
+    constexpr SDL_Keycode firstWithoutCharacter = 0x7F;
+    if ((key.mod & (KMOD_CTRL | KMOD_ALT | KMOD_GUI)) != 0) return false;
+    return key.sym == SDLK_BACKSPACE || key.sym == SDLK_ESCAPE ||
+           (key.sym >= SDLK_SPACE && key.sym < firstWithoutCharacter) ||
+           (key.sym > firstWithoutCharacter && key.sym < SDLK_SCANCODE_MASK);
 }
 
 }  // namespace
 
+int displays() {
+    return SDL_GetNumVideoDisplays();
+}
+
 SideWindow::SideWindow(Desktop& desktop, const std::string& title, Size size) : desktop_(desktop) {
     const SDL_Point at = placeFor(desktop.window(), size);
-    native_.reset(SDL_CreateWindow(title.c_str(), at.x, at.y, size.w, size.h,
-                                   SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+    native_.reset(SDL_CreateWindow(title.c_str(), at.x, at.y, size.w, size.h, SDL_WINDOW_RESIZABLE));
     if (!native_) return;
     SDL_SetWindowMinimumSize(native_.get(), size.w / 2, size.h / 2);
     desktop_.onForeign([this](const SDL_Event& event) { return take(event); });
@@ -64,11 +96,20 @@ void SideWindow::show(const Bitmap& picture) {
     SDL_UpdateWindowSurface(native_.get());
 }
 
-// Keys are the game's, wherever they are pressed.
 bool SideWindow::take(const SDL_Event& event) {
     const Uint32 own = SDL_GetWindowID(native_.get());
     switch (event.type) {
-        case SDL_WINDOWEVENT: return event.window.windowID == own && takeWindow(event.window);
+        case SDL_WINDOWEVENT:
+            if (event.window.windowID != own) goWithGame(event.window);
+            return event.window.windowID == own && takeWindow(event.window);
+        case SDL_KEYDOWN:
+        case SDL_KEYUP:
+            if (event.key.windowID != own || !typing || !types(event.key.keysym)) return false;
+            return takeKey(event.key);
+        case SDL_TEXTINPUT:
+            if (event.text.windowID != own || !typing) return false;
+            if (onType) onType(event.text.text);
+            return true;
         case SDL_MOUSEMOTION: return event.motion.windowID == own;
         case SDL_MOUSEBUTTONUP: return event.button.windowID == own;
         case SDL_MOUSEBUTTONDOWN:
@@ -84,6 +125,19 @@ bool SideWindow::take(const SDL_Event& event) {
         }
         default: return false;
     }
+}
+
+bool SideWindow::takeKey(const SDL_KeyboardEvent& event) {
+    const SDL_Keycode sym = event.keysym.sym;
+    if (event.type == SDL_KEYDOWN && onErase && (sym == SDLK_BACKSPACE || sym == SDLK_ESCAPE))
+        onErase(sym == SDLK_ESCAPE);
+    return true;
+}
+
+// The clock of the game stands still while it is minimised, and so would all that is here.
+void SideWindow::goWithGame(const SDL_WindowEvent& event) {
+    if (event.event == SDL_WINDOWEVENT_MINIMIZED) SDL_HideWindow(native_.get());
+    if (event.event == SDL_WINDOWEVENT_RESTORED) SDL_ShowWindow(native_.get());
 }
 
 bool SideWindow::takeWindow(const SDL_WindowEvent& event) {
