@@ -168,6 +168,7 @@ void Areas::finish(const std::string& shape) {
 // What is saved comes back as any change of a source does.
 bool Areas::write(const std::string& shape, bool further) {
     const Compiler& compiler = bench_.compiler();
+    if (bench_.faulty()) return false;  // lines are no longer where they were
     for (const story::StoryRoom& room : compiler.story().rooms) {
         if (!equalIgnoringCase(room.file, z_.RaumDatei)) continue;
         const auto index = static_cast<std::size_t>(chosen_);

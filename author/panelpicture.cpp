@@ -43,9 +43,8 @@ int Panel::header(int y) {
     sheet_.text({margin, y + 4}, counter - 2 * margin, room, ink::accent, true);
     for (const story::StoryRoom& one : bench_.compiler().story().rooms) {
         if (!equalIgnoringCase(one.file, z_.RaumDatei)) continue;
-        sheet_.clickable({margin, y, counter - 2 * margin, sheet_.lineHeight()}, [this, place = one.head] {
-            openEditor(bench_.compiler().fileOf(place), place.line);
-        });
+        sheet_.clickable({margin, y, counter - 2 * margin, sheet_.lineHeight()},
+                         [this, place = one.head] { openEditor(bench_.compiler().fileOf(place), place.line); });
     }
     return y + sheet_.buttonHeight() + gap;
 }
@@ -76,8 +75,7 @@ int Panel::script(int y) {
 }
 
 int Panel::buttons(int y) {
-    const int x =
-        sheet_.button({margin, y}, held_ ? "Schritt (F4)" : "Halten (F4)", stepping_, [this] { step(); });
+    const int x = sheet_.button({margin, y}, held_ ? "Schritt (F4)" : "Halten (F4)", stepping_, [this] { step(); });
     if (stepping_) sheet_.button({x, y}, "Weiter", false, [this] { goOn(); });
     const Text show("Flächen"_t);
     const Text draw = "Zeichnen";

@@ -69,13 +69,15 @@ Workbench::Workbench(Comforts& comforts, Compiler& compiler, WalkWriter* record)
     comforts_.addOverlay([this](Bitmap& picture, const Rect& base) { draw(picture, base); });
     compile();
     const Files& files = comforts_.platform().files;
-    for (const Datenverzeichnis& directory : Datenverzeichnisse)
-        if (const fs::path path = files.systemPath(directory.name); watch_.add(path)) watched_.insert(path);
+    for (const Datenverzeichnis& directory : Datenverzeichnisse) watch(files.systemPath(directory.name));
 }
 
 void Workbench::watchSources() {
-    for (const fs::path& directory : compiler_.directories())
-        if (!watched_.contains(directory) && watch_.add(directory)) watched_.insert(directory);
+    for (const fs::path& directory : compiler_.directories()) watch(directory);
+}
+
+void Workbench::watch(const fs::path& directory) {
+    if (watched_.insert(directory).second) watch_.add(directory);
 }
 
 void Workbench::look() {
@@ -88,8 +90,8 @@ void Workbench::look() {
 Workbench::Changes Workbench::sorted(const std::set<fs::path>& files) const {
     Changes changes;
     for (const fs::path& file : files) {
-        const bool ofSources = compiler_.directories().contains(file.parent_path()) || watched_.contains(file);
-        if (ofSources && (compiler_.isSource(file) || watched_.contains(file)))
+        const bool ofSources = compiler_.directories().contains(file.parent_path());
+        if (watched_.contains(file) || (ofSources && compiler_.isSource(file)))
             changes.sources = true;
         else if (!isCompiled(file))
             changes.media.insert(upper(fromUtf8(file.filename().string())));
@@ -100,6 +102,7 @@ Workbench::Changes Workbench::sorted(const std::set<fs::path>& files) const {
 void Workbench::take(const Changes& changes) {
     const bool otherRoom = changes.sources && compile();
     playSongAnew(changes.media);
+    showBagAnew(changes.media);
     comforts_.refresh();
     if (otherRoom || roomNames(changes.media)) enter(comforts_.zustand().RaumDatei);
 }
@@ -141,6 +144,13 @@ void Workbench::playSongAnew(const std::set<Text>& media) {
     SoundDevice& sound = comforts_.platform().sound;
     sound.stopSong();
     if (comforts_.platform().files.exists(song)) sound.playSong(song);
+}
+
+void Workbench::showBagAnew(const std::set<Text>& media) {
+    const auto& bag = comforts_.zustand().Inventar;
+    const bool shown = std::any_of(bag.begin(), bag.end(),
+                                   [&](const Text& picture) { return media.contains(upper(Dateiname(picture))); });
+    if (shown && room_ != nullptr) room_->GegenständeLaden();
 }
 
 // A room that can't be read leaves the author where they are.

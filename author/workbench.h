@@ -47,7 +47,9 @@ private:
     bool compile();
     bool roomNames(const std::set<Text>& media) const;
     void playSongAnew(const std::set<Text>& media);
+    void showBagAnew(const std::set<Text>& media);
     void watchSources();
+    void watch(const std::filesystem::path& directory);
     void draw(Bitmap& picture, const Rect& base) const;
 
     Comforts& comforts_;

@@ -1,4 +1,5 @@
-// The real program under a display of its own: how soon its first room stands, what it takes while it stands idle.
+// The real program under a display of its own: how soon its first room stands, what it takes while it stands idle,
+// how soon an author sees what was saved.
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <benchmark/benchmark.h>
@@ -6,10 +7,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -62,13 +65,14 @@ public:
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
 
-    // The root window is black where no picture stands.
-    bool shown() const {
+    unsigned long colour() const {
         XImage* const image = XGetImage(display_, DefaultRootWindow(display_), 120, 100, 1, 1, AllPlanes, ZPixmap);
-        const bool lit = (XGetPixel(image, 0, 0) & 0xFFFFFFU) != 0;
+        const unsigned long pixel = XGetPixel(image, 0, 0) & 0xFFFFFFU;
         XDestroyImage(image);
-        return lit;
+        return pixel;
     }
+    // The root window is black where no picture stands.
+    bool shown() const { return colour() != 0; }
 
 private:
     Process server_;
@@ -115,6 +119,57 @@ void firstRoom(benchmark::State& state) {
     for (auto _ : state) state.SetIterationTime(untilShown(game()));
 }
 BENCHMARK(firstRoom)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+
+// The demo's sources and data, to be changed.
+const fs::path& demo() {
+    static const fs::path directory = [] {
+        fs::path made = fs::temp_directory_path() / ("zentrox-bench-demo-" + std::to_string(getpid()));
+        fs::copy(DEMO_DATA, made, fs::copy_options::recursive);
+        fs::copy(DEMO_STORY, made / "story", fs::copy_options::recursive);
+        return made;
+    }();
+    return directory;
+}
+
+void write(const fs::path& file, const std::string& text) {
+    const fs::path beside = file.string() + "~";
+    std::ofstream(beside, std::ios::binary) << text;
+    fs::rename(beside, file);
+}
+
+// From the write of a source, as an editor does it, to the other picture on the screen.
+void savedSource(benchmark::State& state) {
+    const fs::path file = demo() / "story" / "hof.story";
+    std::ostringstream read;
+    read << std::ifstream(file, std::ios::binary).rdbuf();
+    const std::string before = read.str();
+    std::string after = before;
+    const std::size_t at = after.find("\"hof.jpg\"");
+    if (at == std::string::npos) throw std::runtime_error("the yard has another picture");
+    after.replace(at, 9, "\"keller.jpg\"");
+    while (screen().shown()) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    const Process process({ZENTROX_PROGRAM, "--author", file.parent_path().string(), "--dir", demo().string(),
+                           "--flags", "HOF_GESEHEN", "Hof.lsd"});
+    std::this_thread::sleep_for(std::chrono::seconds(5));
+    bool other = false;
+    double longest = 0;
+    for (auto _ : state) {
+        const unsigned long shown = screen().colour();
+        const auto begin = Clock::now();
+        write(file, (other = !other) ? after : before);
+        while (screen().colour() == shown) {
+            if (Clock::now() - begin > std::chrono::seconds(20)) throw std::runtime_error("nothing new is shown");
+            std::this_thread::sleep_for(std::chrono::microseconds(500));
+        }
+        const double took = std::chrono::duration<double>(Clock::now() - begin).count();
+        state.SetIterationTime(took);
+        longest = std::max(longest, took);
+        std::this_thread::sleep_for(std::chrono::milliseconds(700));
+    }
+    state.counters["longest_ms"] = 1000 * longest;
+    fs::remove_all(demo());
+}
+BENCHMARK(savedSource)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(20);
 
 double fieldOf(pid_t id, const char* name) {
     std::ifstream status("/proc/" + std::to_string(id) + "/status");

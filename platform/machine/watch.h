@@ -16,10 +16,10 @@ public:
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 
-    // The files that lie directly in it, now or later. False if it can't be watched; twice is as good as once.
-    bool add(const std::filesystem::path& directory);
-    // The files that have been written, renamed, made or deleted, each in the directory as it was added. Where too
-    // much has happened to be told of, the directories themselves.
+    // The files that lie directly in it, now or later; it need not be there yet. Twice is as good as once.
+    void add(const std::filesystem::path& directory);
+    // The files that have been written, renamed, made or deleted, each in the directory as it was added. Where a
+    // directory has gone or come, or too much has happened to be told of, the directories themselves.
     std::set<std::filesystem::path> take();
 
 private:

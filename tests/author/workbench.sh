@@ -56,10 +56,39 @@ eventually looks_like "$other" || fail "a faulty file changes the room"
 import -window "$window" faulty.png
 sed -i '$d' "$source"
 
+# Lines may be elsewhere now: what is drawn is put on the clipboard, and the source is left alone.
+eval "$(xdotool getwindowgeometry --shell "$window")"
+at() { xdotool mousemove --window "$window" "$1" "$(($2 + 1))"; sleep 0.1; }
+drag() {
+    at "$1" "$2"
+    xdotool mousedown 1
+    at "$3" "$4"
+    xdotool mouseup 1
+}
+before=$(cksum <"$source")
+echo 'Quatsch' >>"$source"
+sleep 0.5
+at 150 200
+key ctrl+F6
+sleep 0.2
+drag 30 40 91 82
+sleep 0.3
+copied() { [ "$(xclip -selection clipboard -o 2>/dev/null)" = "Rechteck 30 40 91 82" ]; }
+eventually copied || fail "nothing on the clipboard"
+key Escape
+sed -i '$d' "$source"
+[ "$(cksum <"$source")" = "$before" ] || fail "a faulty source was written to"
+sleep 0.3
+
+# Sources that are put away, and others in their place.
 mv s/story weg
 told 'gibt es nicht'
 must_live "sources that are gone"
-mv weg s/story
+cp -a weg s/story
+rm -r weg
+sleep 0.3
+shows "a source where another directory was" by_truncation
+shows "and again" by_rename
 mv "$source" start.weg
 sleep 0.3
 must_live "a source that is gone"
@@ -78,15 +107,10 @@ by_truncation
 eventually looks_like "$room" || fail "the room does not come back"
 
 # An area is drawn for the object under the pointer, the door.
-eval "$(xdotool getwindowgeometry --shell "$window")"
-at() { xdotool mousemove --window "$window" "$1" "$(($2 + 1))"; sleep 0.1; }
 at 150 200
 key ctrl+F6
 sleep 0.2
-at 50 60
-xdotool mousedown 1
-at 151 262
-xdotool mouseup 1
+drag 50 60 151 262
 written() { grep -q "Rechteck 50 60 151 262" "$source"; }
 eventually written || { cat "$source" >&2; fail "no line in the source"; }
 grep -q "Rechteck 100 120 220 400" "$source" && fail "the old area is still there"
