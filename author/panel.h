@@ -60,7 +60,7 @@ private:
     int evilCounter(int y);
     int script(int y);
     int buttons(int y);
-    int findings(int y);
+    int findings();
     int tabs(int y);
     Text label(Page page) const;
     std::vector<Sheet::Row> traceRows();

@@ -31,8 +31,8 @@ int Panel::width() const {
 
 void Panel::paint() {
     sheet_.begin(window_->size());
-    const int y = tabs(findings(buttons(script(header(margin)))));
-    const Rect frame{margin, y, width(), sheet_.size().h - y - margin};
+    const int y = tabs(buttons(script(header(margin))));
+    const Rect frame{margin, y, width(), findings() - y};
     sheet_.list(frame, page_ == Page::trace ? traceRows() : nameRows(), scroll_, page_ == Page::trace);
 }
 
@@ -52,7 +52,7 @@ int Panel::header(int y) {
 // Gives the x of its left edge.
 int Panel::evilCounter(int y) {
     const Text label = Text("Böse: "_t) + std::to_string(z_.BösePunkte);
-    constexpr int labelWidth = 70;
+    const int labelWidth = sheet_.width(label) + gap;
     const int left = margin + width() - sheet_.buttonWidth("-") - 4 - sheet_.buttonWidth("+") - labelWidth;
     sheet_.text({left, y + 4}, labelWidth, label, z_.BösePunkte > 0 ? ink::warm : ink::plain);
     const int x = sheet_.button({left + labelWidth, y}, "-", false, [this] { changeEvil(-1); });
@@ -85,18 +85,22 @@ int Panel::buttons(int y) {
     return y + sheet_.buttonHeight() + gap;
 }
 
-int Panel::findings(int y) {
-    int rows = 0;
+// Below the list, so that nothing moves below the pointer when they come; gives the y above them.
+int Panel::findings() {
+    const int bottom = sheet_.size().h - margin;
+    const int rows = std::min(mostFindings, static_cast<int>(bench_.findings().size()));
+    if (rows == 0) return bottom;
+    const int top = bottom - rows * sheet_.lineHeight();
+    int y = top;
     for (const bool errors : {true, false})
         for (const Compiler::Finding& finding : bench_.findings()) {
-            if (finding.isError != errors || rows == mostFindings) continue;
+            if (finding.isError != errors || y + sheet_.lineHeight() > bottom) continue;
             sheet_.text({margin, y}, width(), fromUtf8(shortly(finding)), errors ? ink::warm : ink::faint);
             sheet_.clickable({margin, y, width(), sheet_.lineHeight()},
                              [this, finding] { openEditor(finding.file, finding.line); });
             y += sheet_.lineHeight();
-            ++rows;
         }
-    return rows > 0 ? y + gap : y;
+    return top - gap;
 }
 
 Text Panel::label(Page page) const {

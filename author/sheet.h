@@ -42,6 +42,7 @@ public:
     // Cut off with dots where it is wider than `width`; gives the x behind it.
     int text(Point at, int width, const Text& text, Colour colour, bool bold = false);
     int button(Point at, const Text& label, bool down, Action click);
+    int width(const Text& text) const { return font().width(text); }
     int buttonWidth(const Text& label) const;
     // Over what is drawn there.
     void clickable(const Rect& area, Action click);

@@ -70,7 +70,7 @@ SideWindow::SideWindow(Desktop& desktop, const std::string& title, Size size) : 
     const SDL_Point at = placeFor(desktop.window(), size);
     native_.reset(SDL_CreateWindow(title.c_str(), at.x, at.y, size.w, size.h, SDL_WINDOW_RESIZABLE));
     if (!native_) return;
-    SDL_SetWindowMinimumSize(native_.get(), size.w / 2, size.h / 2);
+    SDL_SetWindowMinimumSize(native_.get(), size.w * 4 / 5, size.h / 2);
     desktop_.onForeign([this](const SDL_Event& event) { return take(event); });
 }
 
