@@ -54,6 +54,7 @@ Comforts::~Comforts() {
 void Comforts::apply() {
     machine_.setFullScreen(settings_.fullScreen);
     machine_.setEnlarging(static_cast<Enlarging>(settings_.enlarging));
+    applyLetters();
     machine_.usePad(settings_.pad);
     machine_.useTouch(settings_.touch);
     machine_.setPausesAway(settings_.pauseAway);
@@ -61,6 +62,15 @@ void Comforts::apply() {
     const int speech = volume(settings_.speech);
     platform_.sound.setVolumes({speech, volume(settings_.effects), volume(settings_.music), speech});
     for (const auto& told : told_) told(settings_);
+}
+
+// What stands in the windows is drawn anew, so that it is noted.
+void Comforts::applyLetters() {
+    if (settings_.fineLetters == fineLetters_) return;
+    fineLetters_ = settings_.fineLetters;
+    platform_.fonts.setNotes(fineLetters_);
+    machine_.setFineLetters(fineLetters_);
+    for (Window* const window : platform_.queue.windows()) window->root().changed();
 }
 
 void Comforts::change(const Settings& settings) {

@@ -61,6 +61,7 @@ public:
 private:
     bool firstLook(const Input& input);
     void apply();
+    void applyLetters();
     void takeFromMachine();
     void pauseSound(bool on);
     Text noticeNow() const;
@@ -71,6 +72,7 @@ private:
     ComfortMachine& machine_;
     std::filesystem::path file_;
     Settings settings_;
+    bool fineLetters_ = false;  // in force
     ComfortKeys keys_;
     Verteiler observers_;
     std::vector<std::function<void(const Settings&)>> told_;

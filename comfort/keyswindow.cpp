@@ -19,7 +19,7 @@ constexpr int extraRow = 3;  // pixels between two lines
 // What the game itself and its machine understand.
 constexpr std::array gameLines{
     KeyLine{"", "Im Raum"_t},
-    KeyLine{"linke Taste", "benutzen, nehmen, ansprechen, hingehen"_t},
+    KeyLine{"linke Taste", "benutzen, nehmen, reden, hingehen"_t},
     KeyLine{"rechte Taste", "ansehen"_t},
     KeyLine{"Ziehen", "einen Gegenstand auf etwas anwenden"_t},
     KeyLine{"Leertaste", "Tasche auf und zu"_t},

@@ -16,6 +16,8 @@ public:
     virtual void setFullScreen(bool on) = 0;
     virtual Enlarging enlarging() = 0;
     virtual void setEnlarging(Enlarging how) = 0;
+    // Letters are drawn in the screen's pixels and not enlarged, where fonts note them.
+    virtual void setFineLetters(bool on) = 0;
     // While another program has the keyboard, the game stands still.
     virtual void setPausesAway(bool on) = 0;
     // Game pads are keyboards; a long tap of a finger is a click of the right button.

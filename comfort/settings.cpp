@@ -81,6 +81,7 @@ constexpr std::array rows{
                 .page = picture,
                 .title = "Vergrößern"_t,
                 .choices = enlargingWays},
+    yesOrNo("feine-buchstaben", &Settings::fineLetters, picture, "Buchstaben so fein wie der Bildschirm"_t),
     yesOrNo("pause-abseits", &Settings::pauseAway, picture, "Pause, solange ein anderes Programm vorn ist"_t),
     yesOrNo("mit-tasten", &Settings::keyboardPlay, hands, "Alles mit der Tastatur spielen"_t),
     yesOrNo("gamepad", &Settings::pad, hands, "Gamepad als Tastatur (dazu die Zeile darüber)"_t),

@@ -22,7 +22,8 @@ struct Settings {
     // --- picture; away means that another program has the keyboard
     bool pauseAway = false;
     bool fullScreen = false;
-    int enlarging = 0;  // as `Enlarging` counts
+    int enlarging = 0;         // as `Enlarging` counts
+    bool fineLetters = false;  // in the screen's pixels
 
     // --- hands
     bool keyboardPlay = false;

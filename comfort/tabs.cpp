@@ -21,11 +21,19 @@ Text Tabs::shownText() const {
     return all;
 }
 
+// The room that the names leave is shared by all.
 Rect Tabs::tab(std::size_t index) const {
+    const Font& font = look::fontFor(*this);
     const auto count = static_cast<int>(names_.size());
-    const auto i = static_cast<int>(index);
-    const int left = width() * i / count;
-    return {left, raise, width() * (i + 1) / count - left, height() - raise};
+    int all = 0;
+    int before = 0;
+    for (std::size_t i = 0; i < names_.size(); ++i) {
+        all += font.width(names_[i]);
+        if (i < index) before += font.width(names_[i]);
+    }
+    const auto share = [&](std::size_t tabs) { return (width() - all) * static_cast<int>(tabs) / count; };
+    const int left = before + share(index);
+    return {left, raise, before + font.width(names_[index]) + share(index + 1) - left, height() - raise};
 }
 
 void Tabs::open(std::size_t page) {

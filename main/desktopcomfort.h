@@ -37,6 +37,7 @@ public:
     void setFullScreen(bool on) override { desktop_.setFullScreen(on); }
     Enlarging enlarging() override { return desktop_.enlarging(); }
     void setEnlarging(Enlarging how) override { desktop_.setEnlarging(how); }
+    void setFineLetters(bool on) override { desktop_.setFineLetters(on); }
     void setPausesAway(bool on) override { desktop_.setPausesAway(on); }
     void usePad(bool on) override { desktop_.usePad(on); }
     void useTouch(bool on) override { desktop_.useTouch(on); }

@@ -21,6 +21,10 @@ namespace {
 // again and again, as scores are, keeps its shape. The big texts above it are printed once and look better smooth.
 constexpr int crispUpTo = 40;
 
+// Letters above this are large enough as they are.
+constexpr int notedUpTo = 100;
+constexpr int inkMargin = 1;  // pixels by which a letter at another size may lean out of its own ones
+
 constexpr int leastPixels = 1;
 constexpr int mostPixels = 400;
 
@@ -120,9 +124,11 @@ std::uint32_t blended(std::uint32_t under, std::uint32_t over, std::uint32_t cov
     return out;
 }
 
-void drawGlyph(Bitmap& target, const Glyph& glyph, Point pen, Colour colour) {
+// `Target` has rows of pixels.
+template <class Target>
+void drawGlyph(Target& target, const Rect& clip, const Glyph& glyph, Point pen, Colour colour) {
     const Point at = pen + glyph.offset;
-    const Rect part = intersection({at, glyph.size}, target.clip());
+    const Rect part = intersection({at, glyph.size}, clip);
     if (part.empty()) return;
     for (int y = part.y; y < part.bottom(); ++y) {
         const std::uint8_t* const coverage =
@@ -166,12 +172,16 @@ private:
 
 class SizedFont : public Font {
 public:
-    SizedFont(Face& face, int pixels, std::optional<Size> fixedCell)
+    // `notes` says whether letters are noted, and outlives it.
+    SizedFont(Face& face, int pixels, bool crisp, std::optional<Size> fixedCell, const bool& notes)
         : face_(face),
           pixels_(pixels),
-          crisp_(pixels <= crispUpTo),
-          cell_(fixedCell) {
-        lineHeight_ = cell_ ? cell_->h : TTF_FontHeight(face_.at(pixels_, crisp_));
+          crisp_(crisp),
+          cell_(fixedCell),
+          notes_(notes) {
+        TTF_Font* const font = face_.at(pixels_, crisp_);
+        lineHeight_ = cell_ ? cell_->h : TTF_FontHeight(font);
+        ascent_ = TTF_FontAscent(font);
     }
 
     int lineHeight() const override { return lineHeight_; }
@@ -183,14 +193,53 @@ public:
     }
 
     void draw(Bitmap& target, Point at, TextView line, Colour colour) const override {
+        if (notes_ && pixels_ <= notedUpTo && face_.scalable()) note(target, at, line, colour);
+        ink(target, at, line, colour);
+    }
+
+    void ink(Bitmap& target, Point at, TextView line, Colour colour) const override {
         for (const char c : line) {
             const Glyph& next = glyph(c);
-            drawGlyph(target, next, at, colour);
+            drawGlyph(target, target.clip(), next, at, colour);
             at.x = held(std::int64_t{at.x} + next.advance);
         }
     }
 
+    void inkLarge(const Pixels& target, const Rect& clip, Point corner, double scale,
+                  const Letter& letter) const override {
+        const SizedFont& font = larger(scale);
+        const Glyph& glyph = font.glyph(letter.character);
+        // On the same base line, and in the middle of the place that its own size takes.
+        const double x = letter.at.x * scale + (this->glyph(letter.character).advance * scale - glyph.advance) / 2;
+        const double y = (letter.at.y + ascent_) * scale - font.ascent_;
+        drawGlyph(target, clip, glyph,
+                  corner + Point{static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y))},
+                  letter.colour);
+    }
+
 private:
+    void note(Bitmap& target, Point at, TextView line, Colour colour) const {
+        std::vector<Letter> letters;
+        for (const char c : line) {
+            const Glyph& next = glyph(c);
+            const Rect ink = intersection({at + next.offset, next.size}, target.clip());
+            const Rect leans{ink.at() - Point{inkMargin, inkMargin},
+                             {ink.w + 2 * inkMargin, ink.h + 2 * inkMargin}};
+            if (!ink.empty() && c != ' ')
+                letters.push_back({this, c, at, colour, ink, intersection(leans, target.clip())});
+            at.x = held(std::int64_t{at.x} + next.advance);
+        }
+        if (!letters.empty()) target.note(letters);
+    }
+
+    // With soft edges: at that size they look better.
+    const SizedFont& larger(double scale) const {
+        const int pixels = std::max(leastPixels, static_cast<int>(std::lround(pixels_ * scale)));
+        auto& font = larger_[pixels];
+        if (!font) font = std::make_unique<SizedFont>(face_, pixels, false, std::nullopt, notes_);
+        return *font;
+    }
+
     const Glyph& glyph(char c) const {
         auto& kept = glyphs_[static_cast<unsigned char>(c)];
         if (!kept) {
@@ -205,7 +254,10 @@ private:
     int pixels_;
     bool crisp_;
     std::optional<Size> cell_;
+    const bool& notes_;
     int lineHeight_ = 0;
+    int ascent_ = 0;
+    mutable std::map<int, std::unique_ptr<SizedFont>> larger_;
     mutable std::array<std::optional<Glyph>, 256> glyphs_;
 };
 
@@ -235,11 +287,14 @@ public:
                           fixed ? cellOutlinePixels : pixelsOf(wanted.points)};
         auto& font = fonts_[key];
         if (!font)
-            font = std::make_unique<SizedFont>(face(key), key.pixels, fixed ? std::optional(cell) : std::nullopt);
+            font = std::make_unique<SizedFont>(face(key), key.pixels, key.pixels <= crispUpTo,
+                                               fixed ? std::optional(cell) : std::nullopt, notes_);
         lastSpec_ = wanted;
         lastFont_ = font.get();
         return *font;
     }
+
+    void setNotes(bool on) override { notes_ = on; }
 
 private:
     Face& face(const FontKey& key) {
@@ -264,6 +319,7 @@ private:
     std::unique_ptr<FontFiles> files_;
     std::map<std::pair<std::string, int>, std::unique_ptr<Face>> faces_;
     std::map<FontKey, std::unique_ptr<SizedFont>> fonts_;
+    bool notes_ = false;
     FontSpec lastSpec_;
     const Font* lastFont_ = nullptr;
 };

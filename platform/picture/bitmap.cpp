@@ -43,8 +43,13 @@ std::int32_t Bitmap::pixel(Point p) const {
     return bounds().contains(p) ? static_cast<std::int32_t>(row(p.y)[p.x]) : -1;
 }
 
-void Bitmap::setPixel(Point p, Colour colour) {
+void Bitmap::put(Point p, Colour colour) {
     if (clip_.contains(p)) row(p.y)[p.x] = colour.rgb;
+}
+
+void Bitmap::setPixel(Point p, Colour colour) {
+    put(p, colour);
+    if (Bitmap* const ground = groundUnder()) ground->put(p, colour);
 }
 
 void Bitmap::fill(Colour colour) {
@@ -55,6 +60,7 @@ void Bitmap::fill(const Rect& area, Colour colour) {
     const Rect part = intersection(area, clip_);
     if (part.empty()) return;
     for (int y = part.y; y < part.bottom(); ++y) std::fill_n(row(y) + part.x, part.w, colour.rgb);
+    if (Bitmap* const ground = groundUnder(part)) ground->fill(part, colour);
 }
 
 void Bitmap::invert(const Rect& area) {
@@ -64,6 +70,7 @@ void Bitmap::invert(const Rect& area) {
         std::uint32_t* const pixels = row(y) + part.x;
         for (int x = 0; x < part.w; ++x) pixels[x] ^= allBits;
     }
+    if (Bitmap* const ground = groundUnder()) ground->invert(area);
 }
 
 void Bitmap::outline(const Rect& area, Colour colour) {
@@ -77,6 +84,7 @@ void Bitmap::outline(const Rect& area, Colour colour) {
 // Each pixel along the long axis takes the nearest one across it; only the part within the clip is walked.
 void Bitmap::line(Point from, Point to, Colour colour) {
     if (clip_.empty()) return;
+    if (Bitmap* const ground = groundUnder()) ground->line(from, to, colour);
     const Point a{along(-farAway, farAway, from.x), along(-farAway, farAway, from.y)};
     const Point b{along(-farAway, farAway, to.x), along(-farAway, farAway, to.y)};
     const bool flat = std::abs(b.x - a.x) >= std::abs(b.y - a.y);
@@ -94,7 +102,7 @@ void Bitmap::line(Point from, Point to, Colour colour) {
     for (std::int64_t i = run.first; i <= run.last; ++i) {
         const std::int64_t dx = flat ? i : across;
         const std::int64_t dy = flat ? across : i;
-        setPixel({held(a.x + stepX * dx), held(a.y + stepY * dy)}, colour);
+        put({held(a.x + stepX * dx), held(a.y + stepY * dy)}, colour);
         rest += 2 * rise;
         if (rest >= whole) {
             rest -= whole;
@@ -107,6 +115,7 @@ void Bitmap::line(Point from, Point to, Colour colour) {
 // small.
 void Bitmap::circle(Point centre, int radius, Colour colour) {
     if (radius < 0) return;
+    if (Bitmap* const ground = groundUnder()) ground->circle(centre, radius, colour);
     // The distance of the edge from the centre at `offset` from it; nothing where the other axis is nearer to it.
     const auto edge = [r = static_cast<double>(radius)](std::int64_t offset) {
         const double d = std::abs(static_cast<double>(offset));
@@ -117,14 +126,14 @@ void Bitmap::circle(Point centre, int radius, Colour colour) {
     for (int x = clip_.x; x < clip_.right(); ++x) {
         const std::int64_t dy = edge(std::int64_t{x} - centre.x);
         if (dy < 0) continue;
-        setPixel({x, held(centre.y - dy)}, colour);
-        setPixel({x, held(centre.y + dy)}, colour);
+        put({x, held(centre.y - dy)}, colour);
+        put({x, held(centre.y + dy)}, colour);
     }
     for (int y = clip_.y; y < clip_.bottom(); ++y) {
         const std::int64_t dx = edge(std::int64_t{y} - centre.y);
         if (dx < 0) continue;
-        setPixel({held(centre.x - dx), y}, colour);
-        setPixel({held(centre.x + dx), y}, colour);
+        put({held(centre.x - dx), y}, colour);
+        put({held(centre.x + dx), y}, colour);
     }
 }
 

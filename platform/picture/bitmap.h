@@ -2,11 +2,15 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "platform/values/geometry.h"
 
 namespace zentrox {
+
+struct Letter;
+struct Letters;
 
 // What a copy does with the pixels of source and target.
 enum class Op { plain, bitAnd, bitOr };
@@ -57,14 +61,27 @@ public:
     // was before.
     void stretch(const Bitmap& source, const Rect& from, const Rect& to, Op op = Op::plain);
 
+    // The letters that were noted of it and not drawn over since, null without any. They are no part of its value.
+    const Letters* letters() const { return letters_.get(); }
+    // To be told before these letters are drawn into it.
+    void note(const std::vector<Letter>& letters);
+
     friend bool operator==(const Bitmap& a, const Bitmap& b) {
         return a.size_ == b.size_ && a.pixels_ == b.pixels_;
     }
 
 private:
+    void put(Point p, Colour colour);
+    Letters& ownLetters();
+    // What a change has to be drawn on, too: the ground of the letters, null without any; `drawnOver` hides them.
+    Bitmap* groundUnder(const Rect& drawnOver);
+    Bitmap* groundUnder();
+    void copyLetters(const Bitmap& source, const Rect& from, Point to, Op op);
+
     Size size_;
     Rect clip_;
     std::vector<std::uint32_t> pixels_;
+    std::shared_ptr<Letters> letters_;  // shared by copies until one of them changes
 };
 
 }  // namespace zentrox

@@ -170,6 +170,7 @@ void Bitmap::copy(const Bitmap& source, const Rect& from, Point to, Op op) {
     const std::int64_t right = std::min<std::int64_t>(part.right() + dx, clip_.right());
     const std::int64_t bottom = std::min<std::int64_t>(part.bottom() + dy, clip_.bottom());
     if (left >= right || top >= bottom) return;
+    if (letters_ || source.letters_) copyLetters(source, from, to, op);
 
     Block block{source.row(static_cast<int>(top - dy)) + (left - dx),
                 source.width(),
@@ -195,6 +196,10 @@ void Bitmap::stretch(const Bitmap& source, const Rect& from, const Rect& to, Op 
     const Axis rows =
         axisOf(stretchOf(from.y, from.h), stretchOf(to.y, to.h), source.height(), clip_.y, clip_.bottom());
     if (columns.empty() || rows.empty()) return;
+    // Letters that are stretched are none: they stay in the picture.
+    const Rect covered{columns.begin, rows.begin, columns.length(), rows.length()};
+    if (Bitmap* const ground = op == Op::plain ? groundUnder(covered) : groundUnder())
+        ground->stretch(source, from, to, op);
     const int width = columns.length();
     std::vector<Pixel> gathered(op == Op::plain ? 0 : static_cast<std::size_t>(width));
     for (int i = 0; i < rows.length();) {

@@ -3,7 +3,8 @@
 
 #include <memory>
 
-#include "platform/picture/bitmap.h"
+#include "platform/picture/enlarge.h"
+#include "platform/picture/letters.h"
 #include "platform/values/text.h"
 
 namespace zentrox {
@@ -27,6 +28,15 @@ public:
     // out of their cell by less than a line's height.
     virtual void draw(Bitmap& target, Point at, TextView line, Colour colour) const = 0;
 
+    // For letters that are noted, see `Letters`. The same as `draw`, unnoted.
+    virtual void ink(Bitmap& target, Point at, TextView line, Colour colour) const {
+        draw(target, at, line, colour);
+    }
+    // One of them as it looks `scale` times as large, on the enlarged pixels of a picture whose corner stands at
+    // `corner`; `at` is meant in the picture's pixels. Drawing is held to `clip`.
+    virtual void inkLarge(const Pixels& /*target*/, const Rect& /*clip*/, Point /*corner*/, double /*scale*/,
+                          const Letter& /*letter*/) const {}
+
     // The widest line, and the height of all lines as `linesOf` parts them.
     Size measure(TextView text) const;
 };
@@ -37,6 +47,8 @@ public:
     virtual ~Fonts() = default;
     // Points are rounded to whole pixels, at least 1 and at most 400.
     virtual const Font& get(const FontSpec& wanted) = 0;
+    // Whether letters are noted where they are drawn. Not so at first.
+    virtual void setNotes(bool /*on*/) {}
 };
 
 std::unique_ptr<Fonts> makeFonts();

@@ -29,6 +29,8 @@ public:
         refreshOverlay();
     }
     void refreshOverlay() { screen_.expose(); }
+    // See `Scene`.
+    void setFineLetters(bool on) { screen_.setFineLetters(on); }
     // See `Events`.
     void usePad(bool on) { events_.usePad(on); }
     void useTouch(bool on) { events_.useTouch(on); }

@@ -3,9 +3,16 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/picture/font.h"
 #include "platform/sdl/frame.h"
 
 namespace zentrox::sdl {
+
+namespace {
+
+constexpr int leaning = 2;  // pixels of the game by which letters of the screen's size may lean out of theirs
+
+}  // namespace
 
 void Scene::opened(Window& window) {
     shown_.push_back({&window, {}});
@@ -107,7 +114,34 @@ Rect Scene::paint(const Pixels& screen) {
     if (part.empty()) return {};
     compose(part);
     exposed_ = false;
+    if (fineLetters_ && layout_.scale > 1) return paintFine(part, screen);
     return enlarger_.paint(canvas_, part, screen, layout_.corner);
+}
+
+void Scene::setFineLetters(bool on) {
+    fineLetters_ = on;
+    exposed_ = true;
+}
+
+// What lies within an area of the picture, in the screen's pixels; areas beside each other stay so.
+Rect Scene::enlarged(const Rect& area) const {
+    const auto at = [this](int v, int corner) {
+        return corner + static_cast<int>(std::floor(v * layout_.scale + 1e-6));
+    };
+    const Point from{at(area.x, layout_.corner.x), at(area.y, layout_.corner.y)};
+    return {from.x, from.y, at(area.right(), layout_.corner.x) - from.x,
+            at(area.bottom(), layout_.corner.y) - from.y};
+}
+
+Rect Scene::paintFine(Rect part, const Pixels& screen) {
+    part = intersection({part.at() - Point{leaning, leaning}, {part.w + 2 * leaning, part.h + 2 * leaning}},
+                        canvas_.bounds());
+    const std::vector<Letter> letters = lift_.lift(canvas_, part);
+    const Rect painted = enlarger_.paint(lift_.base(), part, screen, layout_.corner);
+    for (const Letter& letter : letters)
+        letter.font->inkLarge(screen, intersection(enlarged(letter.seen), painted), layout_.corner, layout_.scale,
+                              letter);
+    return painted;
 }
 
 }  // namespace zentrox::sdl

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/picture/letters.h"
 #include "platform/sdl/layout.h"
 
 namespace zentrox::sdl {
@@ -35,6 +36,9 @@ public:
     // where the bottommost window's client area stands, `top` the topmost one's. The game knows nothing of it.
     std::function<void(Bitmap& picture, const Rect& base, const Rect& top)> overlay;
 
+    // Whether letters that were noted are drawn in the screen's pixels and not enlarged.
+    void setFineLetters(bool on);
+
     // True if something would look different after `paint`.
     bool stale() const;
     void expose() { exposed_ = true; }
@@ -53,12 +57,16 @@ private:
     bool hiddenByOthers(std::size_t index, const Rect& part) const;
     Rect collectNews();
     void compose(const Rect& part);
+    Rect enlarged(const Rect& area) const;
+    Rect paintFine(Rect part, const Pixels& screen);
 
     std::vector<Shown> shown_;  // the topmost one is the last
     Ground ground_;
     Layout layout_;
     Bitmap canvas_;  // pixels of the game
     Enlarger enlarger_;
+    LetterLift lift_;
+    bool fineLetters_ = false;
     bool exposed_ = true;  // all of it has to be shown
     bool closeDown_ = false;
 };

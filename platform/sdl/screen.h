@@ -32,6 +32,7 @@ public:
     void show();
     // All of it has to be shown again.
     void expose() { scene_.expose(); }
+    void setFineLetters(bool on) { scene_.setFineLetters(on); }
     // See `Scene::overlay`.
     void setOverlay(std::function<void(Bitmap&, const Rect&, const Rect&)> overlay) {
         scene_.overlay = std::move(overlay);

@@ -16,6 +16,7 @@ public:
     void setFullScreen(bool on) override { full = on; }
     Enlarging enlarging() override { return Enlarging::whole; }
     void setEnlarging(Enlarging /*how*/) override {}
+    void setFineLetters(bool /*on*/) override {}
     void setPausesAway(bool /*on*/) override {}
     void usePad(bool /*on*/) override {}
     void useTouch(bool /*on*/) override {}

@@ -15,6 +15,7 @@ public:
     void setFullScreen(bool on) override { fullScreen_ = on; }
     Enlarging enlarging() override { return enlarging_; }
     void setEnlarging(Enlarging how) override { enlarging_ = how; }
+    void setFineLetters(bool /*on*/) override {}
     void setPausesAway(bool /*on*/) override {}
     void usePad(bool /*on*/) override {}
     void useTouch(bool /*on*/) override {}
