@@ -6,10 +6,10 @@ import os from "node:os";
 import path from "node:path";
 import { execFileSync } from "node:child_process";
 import { serve } from "../../scripts/serve.mjs";
-import { Browser, chromium, wait } from "./driver.mjs";
+import { Browser, chromium } from "./driver.mjs";
 import { gamesRound } from "./games.mjs";
 import { filmRound, lossRound, networkRound } from "./media.mjs";
-import { check, colours, failures, fromStartToMenu, keepPictures, load, middleOf, save, shot, state, toIdle, toMenu, toRoom, toStart } from "./steps.mjs";
+import { check, colours, eventually, failures, fromStartToMenu, keepPictures, load, middleOf, save, shot, state, toIdle, toMenu, toRoom, toStart } from "./steps.mjs";
 
 const [directory, pictures, games, walks] = process.argv.slice(2);
 const found = chromium();
@@ -45,24 +45,23 @@ async function desktopRound(browser, url, asked, downloads, transferred) {
     await page.evaluate(`document.getElementById("toolSaves").click()`);
     await page.send("Browser.setDownloadBehavior", { behavior: "allow", downloadPath: downloads }).catch(() => {});
     await page.evaluate(`document.querySelector("#savesList a").click()`);
-    await wait(1500);
-    await shot(page, "saves");
     const file = path.join(downloads, "probe.xtc");
-    check("a saved game comes out as a file", existsSync(file));
+    check("a saved game comes out as a file", await eventually(() => existsSync(file)));
+    await shot(page, "saves");
     if (existsSync(file)) {
         const { root } = await page.send("DOM.getDocument");
         const { nodeId } = await page.send("DOM.querySelector", { nodeId: root.nodeId, selector: "#savesFile" });
         const copy = path.join(downloads, "zurueck.xtc");
         execFileSync("cp", [file, copy]);
         await page.send("DOM.setFileInputFiles", { files: [copy], nodeId });
-        await page.until(`[...document.querySelectorAll("#savesList span")].some((s) => s.textContent === "zurueck.xtc")`, "the file in the list", 5000)
+        await page.until(`[...document.querySelectorAll("#savesList span")].some((s) => s.textContent === "zurueck.xtc")`, "the file in the list")
             .then(() => check("and goes in again", true), () => check("and goes in again", false));
     }
     await page.evaluate(`document.getElementById("savesDone").click()`);
     await page.open(url);
-    await wait(500);
-    check("leaving the game asks first", page.dialogs.includes("beforeunload"), page.dialogs);
-    await toMenu(page, url);
+    check("leaving the game asks first", await eventually(() => page.dialogs.includes("beforeunload")), page.dialogs);
+    await page.until(state("ready"), "the page anew", 60000);
+    await fromStartToMenu(page);
     await toRoom(page);
     await toIdle(page);
     await load(page, "probe");
@@ -109,9 +108,9 @@ async function phoneRound(browser, url) {
     await toMenu(page, url);
     await shot(page, "phone-menu");
     await toRoom(page);
-    await wait(1500);
+    await page.until(`!document.getElementById("bag").hidden`, "the bag");
     await shot(page, "phone-room");
-    check("the bag is on the screen", await page.evaluate(`!document.getElementById("bag").hidden`));
+    check("the bag is on the screen", true);
     check("no complaint on the phone", page.complaints.length === 0, page.complaints);
     await page.close();
 }
@@ -123,7 +122,7 @@ async function offlineRound(browser, url, server) {
     await page.until(`navigator.serviceWorker.controller !== null`, "the worker", 30000);
     await toMenu(page, url);
     await toRoom(page);
-    await wait(3000);
+    await page.until(`document.documentElement.dataset.offline === "ready"`, "all of the story to be kept", 240000);
     server.close();
     server.closeAllConnections();
     await toMenu(page, url);

@@ -37,7 +37,11 @@ class Connection {
     send(method, params = {}, sessionId = undefined) {
         const id = ++this.last;
         this.child.stdio[3].write(JSON.stringify({ id, method, params, sessionId }) + "\0");
-        return new Promise((resolve, reject) => this.asked.set(id, { resolve, reject }));
+        return new Promise((resolve, reject) => {
+            const patience = setTimeout(() => reject(new Error("no answer to " + method)), 120000);
+            patience.unref();
+            this.asked.set(id, { resolve, reject });
+        });
     }
 }
 
@@ -52,8 +56,6 @@ export class Browser {
         browser.child = child;
         browser.connection = new Connection(child);
         browser.pages = [];
-        const { targetInfos } = await browser.connection.send("Target.getTargets");
-        browser.first = targetInfos.find((target) => target.type === "page").targetId;
         return browser;
     }
     // A page of its own; with `phone` a small touch screen.

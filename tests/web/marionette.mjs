@@ -58,7 +58,7 @@ export class Firefox {
         browser.child = spawn(program, ["--headless", "--no-remote", "--marionette", "--remote-allow-system-access", "--profile", browser.profile],
             { stdio: "ignore", env: { ...process.env, HOME: browser.profile } });
         const told = path.join(browser.profile, "MarionetteActivePort");
-        for (let tries = 0; !existsSync(told); ++tries) {
+        for (let tries = 0; !existsSync(told) || !readFileSync(told, "utf8"); ++tries) {
             if (tries > 600) throw new Error("Firefox does not begin");
             await wait(100);
         }

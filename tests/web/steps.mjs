@@ -9,6 +9,23 @@ export function check(name, good, seen = "") {
 
 let pictures = null;  // what stands before their names
 export function keepPictures(before) { pictures = before; }
+// Waits until a condition outside of the page holds; false if it never does.
+export async function eventually(condition, patience = 30000) {
+    for (const end = Date.now() + patience; Date.now() < end; await wait(50)) if (await condition()) return true;
+    return false;
+}
+// Does something again where it went for nothing, as a key or a click does while the game is busy.
+export async function doUntil(act, page, condition, what, patience = 4000) {
+    for (let tries = 1; ; ++tries) {
+        await act();
+        try {
+            return await page.until(condition, what, patience);
+        } catch (failure) {
+            if (tries === 8) throw failure;
+        }
+    }
+}
+
 export const shot = (page, name) => (pictures ? page.shot(pictures + name + ".png") : null);
 
 export const state = (name) => `document.documentElement.dataset.state === "${name}"`;
@@ -57,13 +74,18 @@ export async function toRoom(page) {
     await page.until(topWindow("Form1"), "the room");
     await page.until(colours + " > 200", "a picture of the room");
 }
-// Through the texts of the opening; afterwards the same key opens and closes the bag, which does no harm.
+// Through the texts of the opening: only a free hand opens the dialog for saving. The key that reads on opens and closes
+// the bag afterwards, which does no harm.
 export async function toIdle(page) {
-    for (let i = 0; i < 50; ++i) {
+    const opens = () => page.until(topWindow("Dialog"), "", 400).then(() => true, () => false);
+    const free = await eventually(async () => {
         await page.key(32, " ", { text: " " });
-        await wait(300);
-    }
-    await wait(2000);
+        await page.key(113, "F2");
+        return opens();
+    }, 150000);
+    if (!free) throw new Error("waited in vain for a free hand");
+    await page.key(27, "Escape");
+    await page.until(topWindow("Form1"), "the room behind the dialog");
 }
 // A room of a page of test data, by its name behind the address.
 export async function toTestRoom(page, server, room) {
@@ -76,10 +98,8 @@ export async function typeIn(page, word) {
 
 // Saves under a name, by the keys that a player would press.
 export async function save(page, name) {
-    await page.key(113, "F2");
-    await page.until(topWindow("Dialog"), "the dialog");
+    await doUntil(() => page.key(113, "F2"), page, topWindow("Dialog"), "the dialog");
     await typeIn(page, name);
-    await wait(200);
     await shot(page, "dialog");
     await page.key(13, "Enter", { text: "\r" });
     await page.until(topWindow("MsgBox"), "the answer to saving");
@@ -89,11 +109,11 @@ export async function save(page, name) {
     await page.until(`document.documentElement.dataset.kept !== undefined`, "the saved game to be kept");
 }
 export async function load(page, name) {
-    await page.key(112, "F1");
-    await page.until(topWindow("Dialog"), "the dialog for loading");
+    await doUntil(() => page.key(112, "F1"), page, topWindow("Dialog"), "the dialog for loading");
     await shot(page, "load");
     await typeIn(page, name);
     await page.key(13, "Enter", { text: "\r" });
     await page.until(topWindow("Form1"), "the loaded room");
-    check("a saved game outlasts the page and is loaded", (await page.evaluate(colours)) > 200);
+    await page.until(colours + " > 200", "a picture of the loaded room");
+    check("a saved game outlasts the page and is loaded", true);
 }

@@ -38,7 +38,8 @@ self.addEventListener("activate", (event) => {
     })());
 });
 
-async function answer(request) {
+async function answer(event) {
+    const { request } = event;
     const url = new URL(request.url);
     const known = await caches.match(request, { ignoreVary: true });
     const fixed = isData(url.pathname) || url.pathname.includes("/app/");
@@ -46,8 +47,9 @@ async function answer(request) {
     try {
         const response = await fetch(request);
         if (response.ok && response.status === 200) {
-            if (isData(url.pathname)) (await caches.open(dataCache)).put(request, response.clone());
-            else if (!url.pathname.includes("/cd")) (await caches.open(shellCache)).put(request, response.clone());
+            const store = isData(url.pathname) ? dataCache : url.pathname.includes("/cd") ? null : shellCache;
+            const copy = response.clone();
+            if (store) event.waitUntil(caches.open(store).then((cache) => cache.put(request, copy)));
         }
         return response;
     } catch (failure) {
@@ -59,5 +61,5 @@ async function answer(request) {
 self.addEventListener("fetch", (event) => {
     const url = new URL(event.request.url);
     if (event.request.method !== "GET" || url.origin !== location.origin || event.request.headers.has("range")) return;
-    event.respondWith(answer(event.request));
+    event.respondWith(answer(event));
 });
