@@ -89,13 +89,13 @@ bool SpokenList::keyDown(int code, bool /*shift*/, bool /*control*/) {
 }
 
 void SpokenList::paint(Bitmap& onto, Point at) {
-    const Rect whole{at, area().size()};
-    onto.fill(whole, black);
-    const look::Clip clip(onto, look::shrunk(whole, look::edge));
+    const Rect ground{at, area().size()};
+    onto.fill(ground, black);
+    const look::Clip clip(onto, look::shrunk(ground, look::edge));
     const int height = font().lineHeight();
     int y = at.y + look::edge;
     const auto first = static_cast<std::size_t>(bar_.position());
-    for (std::size_t i = first; i < rows_.size() && y < whole.bottom(); ++i, y += height) {
+    for (std::size_t i = first; i < rows_.size() && y < ground.bottom(); ++i, y += height) {
         const Row& row = rows_[i];
         if (row.spoken == nullptr) continue;
         if (row.spoken == pointed_) onto.fill({at.x, y, area().w, height}, pointedGround);
