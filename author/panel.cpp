@@ -21,6 +21,12 @@ constexpr Size firstSize{400, 500};
 constexpr Milliseconds lookEvery = 50;
 constexpr int wheelRows = 3;
 
+bool isRoom(TextView file) {
+    constexpr TextView extension = ".lsd";
+    return file.size() > extension.size() &&
+           equalIgnoringCase(file.substr(file.size() - extension.size()), extension);
+}
+
 }  // namespace
 
 Panel::Panel(Workbench& bench, Areas& areas, sdl::Desktop& desktop, bool open)
@@ -152,7 +158,6 @@ void Panel::jumpTo(const Text& room) {
     if (!comforts_.platform().files.exists(z_.PfadRooms + room))
         return comforts_.notice(room + Text(" gibt es nicht mehr."));
     if (bench_.room() == nullptr) return comforts_.notice("Erst muss ein Spiel beginnen.");
-    if (bench_.record() != nullptr) bench_.record()->enters(room);
     bench_.enter(room);
 }
 
@@ -201,9 +206,16 @@ void Panel::openEditor(const std::filesystem::path& file, int line) {
 
 // --- what is known
 
+// Those of the sources, and those of which there is only the data.
 std::vector<Text> Panel::roomFiles() const {
     std::vector<Text> files;
     for (const story::StoryRoom& room : bench_.compiler().story().rooms) files.push_back(room.file);
+    const auto known = [&](const Text& file) {
+        return std::any_of(files.begin(), files.end(),
+                           [&](const Text& one) { return equalIgnoringCase(one, file); });
+    };
+    for (Text& file : comforts_.platform().files.list(z_.PfadRooms))
+        if (isRoom(file) && !known(file)) files.push_back(std::move(file));
     std::sort(files.begin(), files.end());
     return files;
 }

@@ -94,6 +94,28 @@ void WalkWriter::Schließt() {
     games_ = 0;
 }
 
+// --- saving and loading by a key
+
+// In the middle of a script as well.
+void WalkWriter::putAnywhere(const std::string& line) {
+    if (depth_ == 0) until("idle");
+    leaves();
+    inWindow("Form1");
+    put(line);
+}
+
+void WalkWriter::savesByKey() {
+    putAnywhere("key f5");
+    remarks("played with --settings");
+}
+
+void WalkWriter::loadsByKey() {
+    putAnywhere("key f9");
+    remarks("played with --settings");
+    depth_ = 0;
+    tick_.reset();
+}
+
 // --- what an author does
 
 void WalkWriter::doesByHand(const std::string& line) {

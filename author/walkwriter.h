@@ -26,6 +26,10 @@ public:
     // know of it.
     void sees(const Input& input);
 
+    // The keys that save and load at once, which are a player's comforts: who plays the walk needs them, too.
+    void savesByKey();
+    void loadsByKey();
+
     // What an author does, that no player can.
     void setsFlag(TextView name) { doesByHand("set " + word(name)); }
     void clearsFlag(TextView name) { doesByHand("clear " + word(name)); }
@@ -62,6 +66,7 @@ private:
     };
 
     void put(const std::string& line);
+    void putAnywhere(const std::string& line);
     void doesByHand(const std::string& line);
     void until(const std::string& condition);
     void tail(const std::string& condition);

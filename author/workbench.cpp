@@ -156,6 +156,7 @@ void Workbench::showBagAnew(const std::set<Text>& media) {
 // A room that can't be read leaves the author where they are.
 void Workbench::enter(const Text& room) {
     if (room_ == nullptr || room.empty()) return;
+    if (record_ != nullptr) record_->enters(room);
     throw Sprung{[this, room] {
         try {
             room_->GegenständeLaden();

@@ -62,6 +62,7 @@ void Keepsakes::quickSave() {
     } catch (const std::system_error& error) {
         return comforts_.notice(Text("Speichern geht nicht: "_t) + SchreibfehlerText(error.code().value()));
     }
+    if (onQuickSave) onQuickSave();
     const bool earlier = comforts_.zustand().SkriptLäuft;
     comforts_.notice("Gespeichert als " + nameOf(path) +
                      (earlier ? Text(", wie es vor diesem Auftritt war."_t) : Text(".")));
@@ -71,6 +72,7 @@ void Keepsakes::quickLoad() {
     const std::vector<Text> there = quick_.newestFirst();
     if (there.empty()) return comforts_.notice("Noch ist nichts mit F5 gespeichert.");
     autosave_.write();
+    if (onQuickLoad) onQuickLoad();
     jumpInto(platform_, comforts_.zustand(), moment_, there.front());
 }
 

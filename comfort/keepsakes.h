@@ -1,6 +1,8 @@
 // Never lose play: saving by itself and by one key, a look at saved games, and going on where the last play ended.
 #pragma once
 
+#include <functional>
+
 #include "comfort/autosave.h"
 #include "comfort/comforts.h"
 #include "saves/saves.h"
@@ -22,6 +24,10 @@ public:
     void continueWhenOpened() { continues_ = true; }
     // The same now, out of whatever the room window is in.
     void continueNow();
+
+    // Called when a key has saved, and before one leaves for what it has saved.
+    std::function<void()> onQuickSave;
+    std::function<void()> onQuickLoad;
 
 private:
     Text Fragen(Platform& platform, Zustand& zustand, TextView title) override;

@@ -78,7 +78,9 @@ public:
         comforts.observers().Dazu(writer_);
     }
     // To be called behind all who keep inputs from the game: those are not a part of the play.
-    void seesInputs(Comforts& comforts) {
+    void sees(Comforts& comforts, Keepsakes& keepsakes) {
+        keepsakes.onQuickSave = [this] { writer_.savesByKey(); };
+        keepsakes.onQuickLoad = [this] { writer_.loadsByKey(); };
         comforts.addLook([this](const Input& input) {
             writer_.sees(input);
             return false;
@@ -138,7 +140,7 @@ int play(const Options& options, const StoryPlace& place) {
     desktop.onPause = [&comforts](bool paused) { comforts.machineStands(paused); };
     Keepsakes keepsakes(comforts);
     const Talk talk(comforts, keepsakes.history());
-    if (record) record->seesInputs(comforts);
+    if (record) record->sees(comforts, keepsakes);
     Extras extras{.observer = &comforts.observers(), .saves = &keepsakes.saves(), .aroundGame = games.wrapper()};
     if (options.goesOn && keepsakes.canContinue()) {
         keepsakes.continueWhenOpened();
