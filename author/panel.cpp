@@ -151,7 +151,9 @@ void Panel::goOn() {
 }
 
 bool Panel::heldInput(const Input& input) {
-    return held_ && input.kind != Input::Kind::close && input.kind != Input::Kind::resize;
+    const Window* const top = comforts_.platform().queue.active();
+    const bool inRoom = top != nullptr && top->name() == "Form1";  // settings and the like may stand over it
+    return held_ && inRoom && input.kind != Input::Kind::close && input.kind != Input::Kind::resize;
 }
 
 void Panel::jumpTo(const Text& room) {

@@ -21,7 +21,7 @@ namespace {
 
 // Between two looks at the disk. What has changed counts when nothing more came between two of them, since editors
 // write in several steps.
-constexpr Milliseconds lookEvery = 40;
+constexpr Milliseconds lookEvery = 25;
 constexpr std::size_t mostErrors = 3;
 constexpr int margin = 6;  // pixels
 constexpr Colour paper{40, 0, 0};

@@ -101,12 +101,10 @@ void Bitmap::copyLetters(const Bitmap& source, const Rect& from, Point to, Op op
     if (!letters_ && (!source.letters_ || op != Op::plain)) return;
     const std::shared_ptr<const Letters> theirs = source.letters_;  // as they are now, also if they are our own
     const Point by = to - from.at();
-    const Rect target = intersection({intersection(from, source.bounds()).at() + by,
-                                      intersection(from, source.bounds()).size()},
-                                     clip_);
+    const Rect target = intersection(
+        {intersection(from, source.bounds()).at() + by, intersection(from, source.bounds()).size()}, clip_);
     std::vector<Letter> coming;
-    if (theirs && op == Op::plain)
-        coming = Letters::within(theirs->all, {target.at() - by, target.size()}, by);
+    if (theirs && op == Op::plain) coming = Letters::within(theirs->all, {target.at() - by, target.size()}, by);
     if (!letters_ && coming.empty()) return;
     Letters& own = ownLetters();
     // What is mixed with others is no letter any more.
@@ -142,7 +140,8 @@ std::vector<Letter> LetterLift::lift(const Bitmap& picture, Rect& part) {
     return standing;
 }
 
-// A letter stands if each pixel that it covers is what drawing it makes of the ground, or lies under another letter.
+// A letter stands if each pixel that it covers is what drawing it makes of the ground, or lies under another
+// letter.
 bool LetterLift::liftOne(const Bitmap& picture, const Letter& letter) {
     const Bitmap& ground = picture.letters()->ground;
     const Rect box = intersection(intersection(letter.ink, letter.seen), picture.bounds());

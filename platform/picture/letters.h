@@ -1,5 +1,5 @@
-// The letters that were drawn into a bitmap, remembered beside it with what lies under them, so that they can be drawn
-// again at the size at which it is shown. Fonts note them, bitmaps carry them along.
+// The letters that were drawn into a bitmap, remembered beside it with what lies under them, so that they can be
+// drawn again at the size at which it is shown. Fonts note them, bitmaps carry them along.
 #pragma once
 
 #include <vector>
@@ -32,9 +32,10 @@ struct Letters {
 // Parts a picture into its letters and what is under them.
 class LetterLift {
 public:
-    // Brings `base` up to date within a part of a picture that has letters, or none any more: there it is the picture
-    // without the letters that are given, in the order of their drawing. They are those that stand just as they were
-    // drawn; what something has been drawn across stays in the picture. `part` grows by letters that lean out of it.
+    // Brings `base` up to date within a part of a picture that has letters, or none any more: there it is the
+    // picture without the letters that are given, in the order of their drawing. They are those that stand just as
+    // they were drawn; what something has been drawn across stays in the picture. `part` grows by letters that lean
+    // out of it.
     std::vector<Letter> lift(const Bitmap& picture, Rect& part);
     const Bitmap& base() const { return base_; }
 

@@ -1,5 +1,5 @@
-// Letters that are noted: whatever is drawn, the picture is what it is without notes, and what is lifted off it makes
-// it whole again.
+// Letters that are noted: whatever is drawn, the picture is what it is without notes, and what is lifted off it
+// makes it whole again.
 #include <gtest/gtest.h>
 
 #include "platform/picture/font.h"
