@@ -28,7 +28,7 @@ std::string onOneLine(TextView text) {
 }
 
 void ProbeBackend::trace(Milliseconds at, const std::string& line) {
-    if (trace_ != nullptr) *trace_ << at << ' ' << line << '\n';
+    if (trace_ != nullptr) *trace_ << at - begin_ << ' ' << line << '\n';
 }
 
 void ProbeBackend::beginAnew() {

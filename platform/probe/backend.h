@@ -26,8 +26,12 @@ public:
 
 class ProbeBackend : public Backend {
 public:
-    // Trace lines go to `trace`, null for none.
-    ProbeBackend(std::uint64_t seed, std::ostream* trace) : seed_(seed), trace_(trace) {}
+    // Trace lines go to `trace`, null for none. The clock stands at `begin` first; the trace counts from there.
+    ProbeBackend(std::uint64_t seed, std::ostream* trace, Milliseconds begin = 0)
+        : seed_(seed),
+          trace_(trace),
+          begin_(begin),
+          now_(begin) {}
 
     void setPerson(Person* person) { person_ = person; }
     // Called whenever the clock has moved, before anything else happens.
@@ -69,7 +73,8 @@ private:
     std::ostream* trace_;
     Person* person_ = nullptr;
     std::function<void()> clockMoved_;
-    Milliseconds now_ = 0;
+    Milliseconds begin_;
+    Milliseconds now_;
     bool handedOver_ = false;  // one input a turn
     int asked_ = 0;            // so often without a wait whether to close
     bool restartWanted_ = false;

@@ -50,6 +50,7 @@ struct Options {
     std::string ran;
     std::string settings;
     bool goesOn = false;
+    Milliseconds clock = 0;
     unsigned timeout = 600;
     bool quiet = false;
     std::string walk = "-";
@@ -198,7 +199,8 @@ int play(const Options& options) {
     fs::create_directories(options.pictures);
     // The game's paths are relative to the program's directory; the walk's pictures are not.
     const fs::path pictures = fs::absolute(options.pictures);
-    probe::ProbeBackend backend(options.beginning.seed.value_or(1), options.quiet ? nullptr : &std::cout);
+    probe::ProbeBackend backend(options.beginning.seed.value_or(1), options.quiet ? nullptr : &std::cout,
+                                options.clock);
     probe::Player player(std::move(walk), backend, pictures, std::cout, std::chrono::seconds(options.timeout));
     backend.setPerson(&player);
     const Scratch scratch;
@@ -248,6 +250,8 @@ int readOptions(CLI::App& app, Options& options, int argc, char** argv) {
     app.add_option("--out", options.pictures, "Where shot writes");
     app.add_option("--ran", options.ran, "Writes which instructions have run, for zentrox-story coverage");
     app.add_option("--settings", options.settings, "Plays with the player's comforts, by this file of settings")
+        ->group("");
+    app.add_option("--clock", options.clock, "What the machine's clock shows at the beginning, in milliseconds")
         ->group("");
     app.add_flag("--continue", options.goesOn, "With these, goes on where the last play ended")->group("");
     app.add_option("--timeout", options.timeout, "Seconds of real time after which the walk fails")
