@@ -6,6 +6,7 @@
 #include "comfort/soundlength.h"
 #include "engine/state/felder.h"
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -16,7 +17,7 @@ constexpr int fromTop = 10;  // pixels
 
 std::map<Text, Text> tableIn(const Files& files, const Text& path) {
     try {
-        return files.exists(path) ? readTable(files.read(path)) : std::map<Text, Text>();
+        return files.exists(path) ? readTable(files.read(path, limits::tableBytes)) : std::map<Text, Text>();
     } catch (const DataError&) {
         return {};
     }
@@ -40,7 +41,7 @@ std::map<Text, Text> readTable(std::string_view utf8) {
         if (tab == TextView::npos) continue;
         const Text name = lower(Getrimmt(line.substr(0, tab)));
         const Text words = Feld(line.substr(tab + 1), "\t", 1);
-        if (!name.empty() && !Getrimmt(words).empty()) table[name] = Trim(words);
+        if (!name.empty() && !Getrimmt(words).empty()) table[name] = Trim(words).substr(0, limits::captionLetters);
     }
     return table;
 }

@@ -10,7 +10,8 @@
 
 namespace zentrox {
 
-// The first two fields of each line that has two; the first ones in lower case.
+// The first two fields of each line that has two; the first ones in lower case, the second ones cut where
+// they are too long for a picture.
 std::map<Text, Text> readTable(std::string_view utf8);
 
 class Captions : public Beobachter {

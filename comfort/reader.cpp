@@ -9,6 +9,7 @@
 #include "platform/machine/replace_file.h"
 #include "platform/machine/whole_file.h"
 #include "platform/values/keys.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -17,7 +18,6 @@ namespace {
 constexpr Milliseconds tickTime = 50;
 constexpr Milliseconds timeForAnyText = 1200;
 constexpr Milliseconds behindVoice = 500;
-constexpr std::uint64_t mostBytes = 4'000'000;
 
 std::uint64_t markOf(TextView text) {
     std::uint64_t mark = 0xCBF29CE484222325U;
@@ -161,7 +161,7 @@ std::filesystem::path Reader::heardFile() const {
 
 void Reader::readHeard() {
     if (!comforts_.settings().rememberHeard) return;
-    const std::string bytes = readFile(heardFile(), mostBytes).value_or("");
+    const std::string bytes = readFile(heardFile(), limits::tableBytes).value_or("");
     for (const TextView line : linesOf(bytes)) {
         std::uint64_t mark = 0;
         const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), mark, 16);

@@ -5,9 +5,11 @@
 #include <system_error>
 
 #include "engine/state/felder.h"
+#include "engine/state/zustand.h"
 #include "platform/codec/pictures.h"
 #include "platform/machine/replace_file.h"
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -15,7 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t mostBytes = 64 * 1024;
+constexpr std::size_t mostLines = 4;
+constexpr std::size_t mostItems = InventarPlätze;
 constexpr TextView wordFor = "zu";
 constexpr TextView wordWhen = "wann";
 constexpr TextView wordItem = "dabei";
@@ -68,10 +71,10 @@ void readLines(Sidecar& sidecar, const std::string& utf8) {
         const auto colon = line.find(": ");
         if (colon == TextView::npos) continue;
         const TextView word = line.substr(0, colon);
-        const Text value(line.substr(colon + 2));
+        const Text value(line.substr(colon + 2, limits::captionLetters));
         if (word == wordWhen) sidecar.when = value;
-        if (word == wordItem) sidecar.items.push_back(value);
-        if (word == wordLine) sidecar.lines.push_back(value);
+        if (word == wordItem && sidecar.items.size() < mostItems) sidecar.items.push_back(value);
+        if (word == wordLine && sidecar.lines.size() < mostLines) sidecar.lines.push_back(value);
     }
 }
 
@@ -112,9 +115,7 @@ void writeSidecar(const Files& files, TextView save, TextView bytes, const Sidec
     put(wordWhen, sidecar.when);
     for (const Text& item : sidecar.items) put(wordItem, item);
     for (const Text& line : sidecar.lines) put(wordLine, line);
-    const fs::path picture = files.systemPath(beside(save, ".png"));
-    const fs::path draft = picture.string() + ".neu";
-    if (!sidecar.picture.empty() && savePng(sidecar.picture, draft.string())) placeFile(draft, picture);
+    if (!sidecar.picture.empty()) savePng(sidecar.picture, files.systemPath(beside(save, ".png")).string());
     replaceFile(files.systemPath(beside(save, ".was")), out);
 }
 
@@ -122,17 +123,15 @@ std::optional<Sidecar> readSidecar(const Files& files, TextView save) {
     if (!files.exists(save)) return std::nullopt;
     Sidecar sidecar;
     try {
-        const Text bytes = files.read(save);
+        const Text bytes = files.read(save, limits::savedGameBytes);
         sidecar.when = timeOf(files.systemPath(save));
         sidecar.room = roomOf(bytes);
         const Text notes = beside(save, ".was");
-        std::error_code error;
-        if (!files.exists(notes) || fs::file_size(files.systemPath(notes), error) > mostBytes) return sidecar;
-        const std::string utf8 = files.read(notes);
+        if (!files.exists(notes)) return sidecar;
+        const std::string utf8 = files.read(notes, limits::besideSaveBytes);
         if (!utf8.starts_with(std::string(wordFor) + ": " + markOf(bytes) + "\n")) return sidecar;
         readLines(sidecar, utf8);
-        sidecar.picture = loadPicture(files, beside(save, ".png"));
-        if (sidecar.picture.size() != thumbnailSize) sidecar.picture = {};
+        sidecar.picture = loadPicture(files, beside(save, ".png"), thumbnailSize);
     } catch (const DataError&) {
         // What can't be read is left out.
     }

@@ -1,8 +1,10 @@
 // A file of settings from anywhere: what is believed of it lies in its bounds, and comes back from the file that is
-// written over it.
+// written over it. The same bytes as a table of captions.
 #include <cstdlib>
 
+#include "comfort/captions.h"
 #include "comfort/settings.h"
+#include "platform/values/limits.h"
 
 namespace {
 
@@ -26,5 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string written = zentrox::writeSettings(settings, bytes);
     if (zentrox::readSettings(written) != settings) std::abort();
     if (zentrox::writeSettings(settings, written) != written) std::abort();
+    for (const auto& [name, words] : zentrox::readTable(bytes))
+        if (name.empty() || words.empty() || words.size() > zentrox::limits::captionLetters) std::abort();
     return 0;
 }

@@ -35,7 +35,7 @@ std::vector<Text> FehlendeGegenstände(const Files& files, const Zustand& z) {
 }
 
 Ladung SpielstandPrüfen(const Files& files, const Zustand& z, TextView pfad) {
-    Ladung ladung{files.read(pfad), {}, {}};
+    Ladung ladung{files.read(pfad, limits::savedGameBytes), {}, {}};
     const auto stand = std::make_unique<Zustand>();
     if (!SpielstandLesen(ladung.Bytes, *stand))
         throw DataError(Dateiname(pfad) + Text(" ist kein Spielstand oder beschädigt."_t));

@@ -41,7 +41,7 @@ void melden(Platform& platform, const Text& text, MessageBox::Icon icon) {
 
 bool lesen(const Files& files, const Text& pfad, Zustand& z) {
     try {
-        return SpielstandLesen(files.read(pfad), z);
+        return SpielstandLesen(files.read(pfad, limits::savedGameBytes), z);
     } catch (const DataError&) {
         return false;
     }

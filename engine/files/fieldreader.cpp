@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "platform/values/error.h"
+#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -78,6 +79,7 @@ Text FieldReader::readText() {
     if (emptyAtEnd()) return {};
     begin(aText);
     Text text = *at_ == '"' ? quoted() : bare();
+    if (text.size() > limits::fieldBytes) fail("der Text ist zu lang"_t);
     finish();
     return text;
 }
@@ -104,9 +106,12 @@ std::int32_t FieldReader::readLast(std::size_t fieldsEach) {
     const std::int32_t last = std::max(number(aNumber), -1);
     const auto count = static_cast<std::size_t>(static_cast<std::int64_t>(last) + 1);
     // Each field takes at least the byte of its separator, but for an empty text at the very end.
-    if (count <= (left() + 1) / fieldsEach) return last;
+    const bool there = count <= (left() + 1) / fieldsEach;
+    entries_ += count;
+    if (there && entries_ <= limits::fileEntries) return last;
     --finished_;  // what is wrong is the field just read
     const Text index = "der letzte Index " + std::to_string(last);
+    if (there) fail(index + Text(" ist zu groß"_t));
     fail(index + Text(" passt nicht in die Datei, so viel steht nicht mehr darin"_t));
 }
 

@@ -42,7 +42,7 @@ public:
     // Behind a comma at the end of the file stands one more text, the empty one.
     Text readText();
     // The last index of a list whose entries have at least `fieldsEach` fields: no more than what is left of the
-    // file could hold. -1 for every one below 0: the list is empty.
+    // file could hold, nor than any file needs in all its lists. -1 for every one below 0: the list is empty.
     std::int32_t readLast(std::size_t fieldsEach);
     // 3072 numbers, column by column; 255 sets a cell. `mask` must be clear.
     void readMask(Maske& mask);
@@ -70,6 +70,7 @@ private:
     const char* at_;
     const char* field_;         // where the present field begins
     std::size_t finished_ = 0;  // so many fields have been read
+    std::size_t entries_ = 0;   // of all lists
     bool ended_ = false;        // the empty text at the end has been read
 };
 

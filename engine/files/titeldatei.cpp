@@ -160,7 +160,7 @@ Titel TitelLesen(std::string_view utf8, std::vector<Titelmangel>* mängel) {
 Titel TitelLesen(const Files& files) {
     try {
         const Text pfad = files.programDirectory() + Text(Titeldatei);
-        return files.exists(pfad) ? TitelLesen(files.read(pfad)) : Titel();
+        return files.exists(pfad) ? TitelLesen(files.read(pfad, limits::tableBytes)) : Titel();
     } catch (const DataError&) {
         return {};
     }

@@ -51,7 +51,7 @@ bool tippbar(char c) {
 }  // namespace
 
 Text PiLesen(const Files& files, TextView pfad) {
-    Text zeichen = files.read(pfad);
+    Text zeichen = files.read(pfad, limits::tableBytes);
     std::erase_if(zeichen, [](char c) { return !tippbar(c); });
     if (zeichen.size() > piZeichen) zeichen.resize(piZeichen);
     if (zeichen.empty()) throw DataError("Die Datei \"" + files.display(pfad) + "\" ist leer.");

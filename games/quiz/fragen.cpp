@@ -54,7 +54,7 @@ std::vector<Frage> FragenLesen(std::string_view bytes) {
 }
 
 std::vector<Frage> FragenLaden(const Files& files, TextView pfad) {
-    auto fragen = FragenLesen(files.read(pfad));
+    auto fragen = FragenLesen(files.read(pfad, limits::tableBytes));
     if (fragen.empty())
         throw DataError(files.display(pfad) +
                         Text(": keine Zeile hat die Form \"Land#Hauptstadt,falsch,falsch,falsch\""_t));

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/values/limits.h"
+
 namespace zentrox {
 
 namespace {
@@ -23,21 +25,23 @@ bool writeAll(int file, std::string_view bytes) {
 
 class MemoryFiles::File {
 public:
-    explicit File(std::string_view bytes) : file_(memfd_create("zentrox", MFD_CLOEXEC)) {
-        whole_ = file_ >= 0 && writeAll(file_, bytes);
-    }
+    File() : file_(memfd_create("zentrox", MFD_CLOEXEC)) {}
     ~File() {
         if (file_ >= 0) close(file_);
     }
     File(const File&) = delete;
     File& operator=(const File&) = delete;
 
-    bool whole() const { return whole_; }
+    bool append(std::string_view piece) {
+        size_ += piece.size();
+        return file_ >= 0 && writeAll(file_, piece);
+    }
+    std::uint64_t size() const { return size_; }
     std::filesystem::path path() const { return "/proc/self/fd/" + std::to_string(file_); }
 
 private:
     int file_;
-    bool whole_ = false;
+    std::uint64_t size_ = 0;
 };
 
 std::filesystem::path MemoryFiles::find(std::size_t number) {
@@ -48,12 +52,18 @@ std::filesystem::path MemoryFiles::find(std::size_t number) {
     return files_.front().second->path();
 }
 
-std::filesystem::path MemoryFiles::add(std::size_t number, std::string_view bytes) {
-    auto file = std::make_shared<File>(bytes);
-    if (!file->whole()) return {};
+std::filesystem::path MemoryFiles::add(std::size_t number, const std::function<bool(const Append&)>& fill) {
+    auto file = std::make_shared<File>();
+    if (!fill([&](std::string_view piece) { return file->append(piece); })) return {};
     files_.emplace_front(number, std::move(file));
-    if (files_.size() > kept) files_.pop_back();
+    while (files_.size() > 1 && (files_.size() > kept || size() > limits::unpackedBytes)) files_.pop_back();
     return files_.front().second->path();
+}
+
+std::uint64_t MemoryFiles::size() const {
+    std::uint64_t sum = 0;
+    for (const auto& [number, file] : files_) sum += file->size();
+    return sum;
 }
 
 }  // namespace zentrox

@@ -160,8 +160,9 @@ void failDamaged(const Files& files, TextView path) {
     throw DataError("Das Bild \"" + files.display(path) + Text("\" ist beschädigt."_t));
 }
 
-Bitmap loadPicture(const Files& files, TextView path) {
-    const std::string bytes = files.read(path);
+namespace {
+
+Bitmap decoded(const Files& files, TextView path, const std::string& bytes) {
     const SurfaceHandle picture = decodePicture(bytes);
     if (!picture) failDamaged(files, path);
     Bitmap bitmap({picture->w, picture->h});
@@ -173,6 +174,22 @@ Bitmap loadPicture(const Files& files, TextView path) {
     std::uint32_t* const pixels = bitmap.row(0);
     for (std::size_t i = 0; i < count; ++i) pixels[i] &= white.rgb;
     return bitmap;
+}
+
+}  // namespace
+
+Bitmap loadPicture(const Files& files, TextView path) {
+    return decoded(files, path, files.read(path));
+}
+
+Bitmap loadPicture(const Files& files, TextView path, Size size) {
+    const std::string bytes = files.read(path, limits::smallPictureBytes);
+    const FileBytes file(bytes);
+    const bool right = file.startsWith(pngMagic) && file.has(16, 8) &&
+                       file.bigU32(16) == static_cast<std::uint32_t>(size.w) &&
+                       file.bigU32(20) == static_cast<std::uint32_t>(size.h);
+    if (!right) failDamaged(files, path);
+    return decoded(files, path, bytes);
 }
 
 std::string pngFile(const Bitmap& bitmap) {

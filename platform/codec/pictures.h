@@ -19,6 +19,9 @@ struct Icon {
 // Reads a JPEG, bitmap or PNG file, told by its content. Throws `DataError` where it is missing, cut or damaged, or
 // claims to be larger than its bytes can be.
 Bitmap loadPicture(const Files& files, TextView path);
+// The same for a small PNG of which the size is known; throws as well where it has another one, before it is
+// decoded.
+Bitmap loadPicture(const Files& files, TextView path, Size size);
 
 // Reads an icon file (1, 4, 8, 24 or 32 bits a pixel, or PNG) and takes the picture in it whose width is nearest to
 // `side` pixels, the one of more colours where two are. Throws `DataError` where it is missing or damaged.

@@ -4,6 +4,7 @@
 #include <zip.h>
 
 #include <algorithm>
+#include <array>
 #include <set>
 
 #include "platform/codec/memoryfiles.h"
@@ -89,21 +90,18 @@ public:
 
     const std::vector<std::string>& names() const override { return names_; }
 
+    std::uint64_t size(std::size_t entry) const override { return entries_[entry].size; }
+
     std::optional<std::string> read(std::size_t entry) override {
-        const Owned<zip_file_t> file(zip_fopen_index(archive_.get(), entries_[entry].index, 0));
-        if (!file) return std::nullopt;
-        std::string bytes(entries_[entry].size, '\0');
-        const auto got = zip_fread(file.get(), bytes.data(), bytes.size());
-        // The sum of the bytes is checked where the end is read.
-        char beyond = 0;
-        const bool whole = got == static_cast<zip_int64_t>(bytes.size()) && zip_fread(file.get(), &beyond, 1) == 0;
-        return whole ? std::optional(std::move(bytes)) : std::nullopt;
+        std::string bytes;
+        bytes.reserve(entries_[entry].size);
+        const auto append = [&](std::string_view piece) { return bytes.append(piece), true; };
+        return unpack(entry, append) ? std::optional(std::move(bytes)) : std::nullopt;
     }
 
     fs::path open(std::size_t entry) override {
         if (fs::path kept = memory_.find(entry); !kept.empty()) return kept;
-        const auto bytes = read(entry);
-        return bytes ? memory_.add(entry, *bytes) : fs::path();
+        return memory_.add(entry, [&](const MemoryFiles::Append& append) { return unpack(entry, append); });
     }
 
 private:
@@ -130,6 +128,22 @@ private:
         total_ += about.size;
         names_.push_back(name);
         entries_.push_back({index, about.size});
+    }
+
+    // False if the entry is damaged, or as soon as `append` says so. The sum of the bytes is checked where the end
+    // is read.
+    bool unpack(std::size_t entry, const MemoryFiles::Append& append) {
+        const Owned<zip_file_t> file(zip_fopen_index(archive_.get(), entries_[entry].index, 0));
+        if (!file) return false;
+        std::uint64_t left = entries_[entry].size;
+        std::array<char, 65'536> piece{};
+        for (;;) {
+            const zip_int64_t got = zip_fread(file.get(), piece.data(), piece.size());
+            if (got <= 0) return got == 0 && left == 0;
+            if (static_cast<std::uint64_t>(got) > left) return false;
+            left -= static_cast<std::uint64_t>(got);
+            if (!append({piece.data(), static_cast<std::size_t>(got)})) return false;
+        }
     }
 
     static bool growsPlausibly(const zip_stat_t& about) {

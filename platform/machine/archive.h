@@ -19,6 +19,8 @@ public:
     virtual ~Archive() = default;
     // Of all plain files, UTF-8 with slashes; no name leaves the archive, and none is there twice in whatever case.
     virtual const std::vector<std::string>& names() const = 0;
+    // Bytes of an entry, unpacked.
+    virtual std::uint64_t size(std::size_t entry) const = 0;
     // Nothing if the entry is damaged.
     virtual std::optional<std::string> read(std::size_t entry) = 0;
     // A path of the system under which this process can open the entry's bytes. They lie in memory that goes when
@@ -36,6 +38,7 @@ public:
     const Text& spelled(std::size_t entry) const { return spelled_[entry]; }
     // The names of the files directly in a directory.
     std::vector<Text> list(TextView directory) const;
+    std::uint64_t size(std::size_t entry) const { return archive_->size(entry); }
     std::optional<std::string> read(std::size_t entry) { return archive_->read(entry); }
     std::filesystem::path open(std::size_t entry) { return archive_->open(entry); }
 

@@ -5,7 +5,6 @@
 #include "platform/machine/near.h"
 #include "platform/machine/whole_file.h"
 #include "platform/values/error.h"
-#include "platform/values/limits.h"
 
 namespace zentrox {
 
@@ -205,8 +204,12 @@ void Files::failUnreadable(TextView path) const {
     throw DataError("Die Datei \"" + display(path) + "\" kann nicht gelesen werden.");
 }
 
-std::string Files::read(TextView path) const {
+std::string Files::read(TextView path, std::uint64_t most) const {
+    const auto needSize = [&](std::uint64_t size) {
+        if (size > most) throw DataError("Die Datei \"" + display(path) + Text("\" ist zu groß."_t));
+    };
     if (const auto entry = packedFile(path)) {
+        needSize(packed_->size(*entry));
         auto bytes = packed_->read(*entry);
         if (!bytes) failUnreadable(path);
         return *std::move(bytes);
@@ -216,9 +219,8 @@ std::string Files::read(TextView path) const {
     std::error_code error;
     bringNear(file);
     if (!fs::exists(file, error)) throw DataError("Die Datei \"" + display(path) + "\" fehlt.");
-    if (const auto size = fs::file_size(file, error); !error && size > limits::fileBytes)
-        throw DataError("Die Datei \"" + display(path) + Text("\" ist zu groß."_t));
-    auto bytes = readFile(file, limits::fileBytes);
+    if (const auto size = fs::file_size(file, error); !error) needSize(size);
+    auto bytes = readFile(file, most);
     if (!bytes) failUnreadable(path);
     return std::move(*bytes);
 }

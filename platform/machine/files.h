@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/machine/archive.h"
+#include "platform/values/limits.h"
 #include "platform/values/text.h"
 
 namespace zentrox {
@@ -47,8 +48,8 @@ public:
     bool holdsFile(TextView directory) const;
     // The names of the plain files in a directory, in order without regard to case; empty if it can't be read.
     std::vector<Text> list(TextView directory) const;
-    // Throws `DataError` that names the file if it can't be read.
-    std::string read(TextView path) const;
+    // Throws `DataError` that names the file if it can't be read or has more than `most` bytes.
+    std::string read(TextView path, std::uint64_t most = limits::fileBytes) const;
     // Makes a directory, that of the saved games with all above it; nothing happens if it is there or can't be
     // made.
     void makeDirectory(TextView path) const;

@@ -8,11 +8,19 @@
 
 namespace zentrox::limits {
 
-constexpr std::uint64_t fileBytes =
-    128'000'000;  // of what is read as a whole: rooms, scripts, saved games, pictures
+constexpr std::uint64_t fileBytes = 128'000'000;  // of what is read as a whole: rooms, scripts, pictures
 constexpr std::uint64_t midiBytes = 16'000'000;
+constexpr std::uint64_t savedGameBytes = 16'000'000;
+constexpr std::uint64_t tableBytes =
+    4'000'000;  // of questions, digits, captions, names of speakers, what was heard
+constexpr std::uint64_t settingsBytes = 1'000'000;
+constexpr std::uint64_t besideSaveBytes = 65'536;       // of the notes beside a saved game
+constexpr std::uint64_t smallPictureBytes = 1'000'000;  // of the picture beside it
+constexpr std::size_t captionLetters = 200;             // of a caption, and of what is said beside a saved game
 
-constexpr std::uint64_t fetchedGameBytes = 64U << 20U;  // of a saved game that is fetched from elsewhere
+// --- rooms and scripts
+constexpr std::size_t fieldBytes = 100'000;     // of one text
+constexpr std::size_t fileEntries = 1'000'000;  // objects and commands of one file
 
 // --- pictures
 constexpr std::uint32_t pictureSide = 16'384;  // pixels
@@ -41,12 +49,15 @@ constexpr std::int64_t countedBytes = 512LL << 20U;
 constexpr std::int64_t filmPixels = 4096LL * 2304;
 constexpr double filmPicture =
     60'000;  // milliseconds; a picture that is said to be seen for longer is wrongly dated
+constexpr std::int64_t filmGap = 64'000'000;  // bytes that are read without a picture or sound among them
+constexpr std::int64_t filmSearch = 250;      // milliseconds of the processor's time for the next piece of a file
 constexpr std::uint64_t filmPiece = 128'000'000;  // bytes that a decoder may ask for at once
 
 // --- packed stories
 constexpr std::uint64_t packedFiles = 20'000;
 constexpr std::uint64_t packedFileBytes = 512U << 20U;  // unpacked
 constexpr std::uint64_t packedStoryBytes = 4096ULL << 20U;
+constexpr std::uint64_t unpackedBytes = 128U << 20U;  // of files that are kept in memory for those who play them
 constexpr std::uint64_t packedGrowth = 200;  // of all files together: bytes unpacked for one of the archive
 constexpr std::uint64_t packedGrowthFrom = 64U << 20U;  // bytes that may be unpacked whatever the archive's size
 constexpr std::uint64_t packedByteGrowth = 1032;        // no byte that is deflated stands for more

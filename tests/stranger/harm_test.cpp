@@ -1,8 +1,11 @@
 // Stories made to hang the program or to fill the machine: it says what it refuses, and can be left at once.
 #include <fstream>
+#include <random>
 
+#include "platform/machine/whole_file.h"
 #include "platform/values/limits.h"
 #include "stranger.h"
+#include "tests/media/make_media.h"
 
 namespace zentrox::test {
 namespace {
@@ -14,6 +17,9 @@ constexpr std::int32_t text = 2;
 constexpr std::int32_t setFlag = 3;
 constexpr std::int32_t changeRoom = 4;
 constexpr std::int32_t showPicture = 5;
+constexpr std::int32_t choice = 24;
+constexpr std::int32_t choiceEnds = 26;
+constexpr std::int32_t film = 11;
 
 std::string number(std::uint32_t value, int bytes = 4) {
     std::string out;
@@ -62,6 +68,49 @@ TEST_F(Harm, MoreObjectsThanAFileMayHold) {
     EXPECT_NE(played.said.find("box "), std::string::npos);
 }
 
+TEST_F(Harm, MoreCommandsThanAnyScriptHas) {
+    std::string bytes = "\"a.bmp\"\r\n29999999\r\n";
+    for (int i = 0; i < 30'000'000; ++i) bytes += "3,,";
+    directory.write("fremde/geschichte/rooms/Start.lsd", bytes);
+    const Played played = play("until window MsgBox\nexpect text \"ist zu groß\"\nkey enter\nwait 100\n");
+    bounded(played, 3);
+}
+
+TEST_F(Harm, ATextOfAHundredMegabytes) {
+    write("Start.lsd", room({{"T", {{changeRoom, "Lang.lsd"}}}}));
+    directory.write("fremde/geschichte/rooms/Lang.lsd",
+                    "\"a.bmp\"\r\n0\r\n2,\"" + std::string(100'000'000, '#') + "\"\r\n-1\r\n-1\r\n");
+    bounded(
+        play("until idle\nuse T\nuntil window MsgBox\nexpect text \"zu lang\"\nkey enter\nuntil idle\nclose\n"));
+}
+
+// As long as a text may be, in each place where texts are shown or asked for.
+TEST_F(Harm, TextsOfAHundredThousandLetters) {
+    std::string lines;
+    while (lines.size() < 99'000) lines += "x#$Ax# # #";
+    const std::string letters(99'000, 'W');
+    write("Start.lsd", room({{"Z", {{text, lines}, {setFlag, "Z"}}},
+                             {"W", {{text, letters}, {setFlag, "W"}}},
+                             {"A",
+                              {{choice, "2|" + letters.substr(0, 49'000) + "|" + lines.substr(0, 49'000) + "|Ja"},
+                               {choiceEnds, ""},
+                               {setFlag, "A"}}},
+                             {"F", {{setFlag, letters}, {showPicture, letters}}}}));
+    bounded(play("until idle\nuse Z\nwait 2000\nkey a\nuntil flag Z\nuntil idle\nuse W\nwait 2000\nkey a\n"
+                 "until flag W\nuntil idle\nuse A\nwait 2000\nchoose 1\nuntil flag A\nuntil idle\n"
+                 "use F\nuntil window MsgBox\nkey enter\nuntil idle\nclose\n"),
+            10);
+}
+
+// Two of them, as the next room is read while the last one is there.
+TEST_F(Harm, RoomsFullOfLongTexts) {
+    std::string countDown = "1199\r\n";
+    for (int i = 0; i < 1'200; ++i) countDown += "2,\"" + std::string(99'000, 'W') + "\"\r\n";
+    directory.write("fremde/geschichte/rooms/Start.lsd", "\"a.bmp\"\r\n0\r\n4,\"Zwei.lsd\"\r\n-1\r\n" + countDown);
+    directory.write("fremde/geschichte/rooms/Zwei.lsd", "\"a.bmp\"\r\n-1\r\n-1\r\n" + countDown);
+    bounded(play("until idle\nexpect room Zwei.lsd\nclose\n"));
+}
+
 TEST_F(Harm, AThousandRoomsInsideEachOther) {
     for (int i = 0; i < 1000; ++i)
         write(i == 0 ? "Start.lsd" : "R" + std::to_string(i) + ".lsd",
@@ -104,6 +153,67 @@ TEST_F(Harm, AWavOfTwoGigabytes) {
         play("until idle\nuse W\nuntil text \"Hört\"\nwait 5000\nkey a\nuntil flag WEITER\nclose\n");
     bounded(played);
     EXPECT_NE(played.said.find("voice"), std::string::npos) << "it is heard";
+}
+
+// A second of pictures, and then nothing for as long as the disk is said to be.
+TEST_F(Harm, AFilmThatNeverEnds) {
+    const fs::path file = story / "movies/ewig.mpg";
+    encodeClip(file, {.width = 160, .height = 120, .seconds = 1, .hertz = 0});
+    fs::resize_file(file, 50'000'000'000);
+    write("Start.lsd", room({{"F", {{film, "ewig.mpg"}, {setFlag, "WEITER"}}}}));
+    bounded(play("until idle\nuse F\nuntil flag WEITER 5000\nclose\n"), 8);
+}
+
+// Beside the saved games and the sounds lies what no player and no author has written.
+TEST_F(Harm, NotesCaptionsSettingsAndATitleOfHundredMegabytes) {
+    write("Start.lsd", room({{"W", {{voice, "a.wav"}, {text, "Hört ihr?"}}}}));
+    directory.write("fremde/geschichte/sounds/a.wav", wavFile({.seconds = 0.2}));
+    directory.write("einstellungen.txt",
+                    "untertitel = ja\nnamen = ja\ngehoertes-merken = ja\nautomatisch-speichern = ja\n"
+                    "bilder-der-spielstaende = ja\n");
+    const std::string bytes(99'000'000, '\n');
+    for (const char* name : {"titel.txt", "sounds/untertitel.tsv", "sounds/sprecher.tsv", "saves/gehoert.txt"})
+        directory.write(std::string("fremde/geschichte/") + name, bytes);
+    const std::string walk =
+        "until idle\nuse W\nuntil text \"Hört\"\nkey a\nuntil idle\nkey f5\nkey f2\nwait 200\nclick 20 10\n";
+    const std::vector<std::string> comforts{"--settings", (directory.path() / "einstellungen.txt").string()};
+    bounded(play(walk, comforts));
+    ASSERT_TRUE(fs::exists(story / "saves/schnell-1.was"));
+    // The notes are for the very game, and far too many; the picture is not as small as it should be.
+    std::string notes = readFile(story / "saves/schnell-1.was").value_or("");
+    notes.resize(notes.find('\n') + 1);
+    for (int i = 0; i < 5'000; ++i) notes += "dabei: seil\ngesagt: " + std::string(5'000, 'x') + "\n";
+    for (const std::size_t length : {std::size_t{60'000}, notes.size()}) {
+        directory.write("fremde/geschichte/saves/schnell-1.was", notes.substr(0, length));
+        directory.write("fremde/geschichte/saves/schnell-1.png", "\x89PNG\r\n\x1A\n" + bigNumber(13) + "IHDR" +
+                                                                     bigNumber(16'000) + bigNumber(1'500) +
+                                                                     std::string("\x01\0\0\0\0", 5) + bigNumber(0));
+        bounded(play(walk, comforts));
+    }
+    directory.write("einstellungen.txt", "untertitel = ja\n" + bytes);
+    bounded(play(walk, comforts));
+    directory.write("fremde/geschichte/sounds/untertitel.tsv", "a.wav\t" + std::string(3'000'000, 'W') + "\n");
+    directory.write("fremde/geschichte/sounds/sprecher.tsv", "a.wav\t" + std::string(3'000'000, 'W') + "\n");
+    directory.write("einstellungen.txt", "untertitel = ja\nnamen = ja\n");
+    bounded(play(walk, comforts));
+}
+
+TEST_F(Harm, APackedStoryThatGrows) {
+    write("Start.lsd", room({{"B", {{showPicture, "gross.bmp"}}}, {"W", {{voice, "gross.wav"}, {setFlag, "W"}}}}));
+    directory.write("fremde/geschichte/titel.txt", "Titel: Fremd\nKennung: fremd\n");
+    std::string filled(2'000'000, '\0');
+    std::mt19937 random(1);
+    for (char& c : filled) c = static_cast<char>(random());
+    directory.write("fremde/geschichte/graphics/voll.dat", filled);  // so that the archive may hold much
+    sparse("graphics/gross.bmp", whitePixel(), 129'000'000);
+    sparse("sounds/gross.wav", wavFile({.seconds = 0.2}), 60'000'000);
+    const fs::path packed = directory.path() / "fremd.zentrox";
+    const Played packing = run({STORY, "pack", story.string(), "--into", packed.string()});
+    ASSERT_TRUE(fs::exists(packed)) << packing.said;
+    const fs::path walk = directory.write("walk",
+                                          "until idle\nuse B\nuntil window MsgBox\nexpect text \"zu groß\"\nkey "
+                                          "enter\nuntil idle\nuse W\nuntil flag W\n");
+    bounded(run({PROBE, "--dir", packed.string(), "--args", "Start.lsd", walk.string()}), 10);
 }
 
 TEST_F(Harm, ASavedGameOfAHundredMegabytes) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ctime>
 
 #include "platform/values/limits.h"
 
@@ -18,26 +19,53 @@ double plausible(double lasts) {
     return lasts > 0 && lasts <= limits::filmPicture ? lasts : usualPicture;
 }
 
-Owned<AVFormatContext> openFile(const std::filesystem::path& file) {
-    AVDictionary* options = nullptr;
-    av_dict_set(&options, "format_whitelist", formats, 0);
-    av_dict_set(&options, "protocol_whitelist", "file", 0);
-    AVFormatContext* format = nullptr;
-    // The prefix keeps a colon in the name from being taken for a protocol.
-    const int failed = avformat_open_input(&format, ("file:" + file.string()).c_str(), nullptr, &options);
-    av_dict_free(&options);
-    if (failed != 0) return nullptr;
-    Owned<AVFormatContext> opened(format);
-    if (avformat_find_stream_info(format, nullptr) < 0) return nullptr;
-    return opened;
+// Its own time, as a disc may have to get up speed.
+std::int64_t timeOfThread() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1'000'000;
 }
 
 }  // namespace
 
+bool Input::impatient() const {
+    const AVIOContext* const file = reading_ == nullptr ? nullptr : reading_->pb;
+    if (file == nullptr) return false;
+    return file->bytes_read - foundAt_ > limits::filmGap || timeOfThread() - searchesSince_ > limits::filmSearch;
+}
+
+bool Input::readPiece() {
+    searchesSince_ = timeOfThread();
+    return av_read_frame(format_.get(), packet_.get()) >= 0;
+}
+
+void Input::found() {
+    foundAt_ = reading_->pb->bytes_read;
+}
+
+bool Input::openFile(const std::filesystem::path& file) {
+    AVFormatContext* format = avformat_alloc_context();
+    if (format == nullptr) return false;
+    reading_ = format;
+    searchesSince_ = timeOfThread();
+    format->interrupt_callback = {[](void* input) { return static_cast<Input*>(input)->impatient() ? 1 : 0; },
+                                  this};
+    AVDictionary* options = nullptr;
+    av_dict_set(&options, "format_whitelist", formats, 0);
+    av_dict_set(&options, "protocol_whitelist", "file", 0);
+    // The prefix keeps a colon in the name from being taken for a protocol.
+    const int failed = avformat_open_input(&format, ("file:" + file.string()).c_str(), nullptr, &options);
+    av_dict_free(&options);
+    if (failed != 0) return false;
+    format_.reset(format);
+    if (avformat_find_stream_info(format, nullptr) < 0) return false;
+    found();
+    return true;
+}
+
 std::unique_ptr<Input> Input::open(const std::filesystem::path& file, AVMediaType type) {
     std::unique_ptr<Input> input(new Input);
-    input->format_ = openFile(file);
-    if (!input->format_) return nullptr;
+    if (!input->openFile(file)) return nullptr;
     const AVCodec* codec = nullptr;
     input->stream_ = av_find_best_stream(input->format_.get(), type, -1, -1, &codec, 0);
     if (input->stream_ < 0 || codec == nullptr || !input->openCodec(*codec)) return nullptr;
@@ -59,18 +87,19 @@ bool Input::openCodec(const AVCodec& codec) {
 bool Input::next(AVFrame& frame) {
     for (;;) {
         const int result = avcodec_receive_frame(codec_.get(), &frame);
-        if (result == 0) return true;
+        if (result == 0) return found(), true;
         if (result == AVERROR_EOF || !feed()) return false;
     }
 }
 
 // Hands a packet to the decoder, and at the end of the file the wish for all that it has held back.
 bool Input::feed() {
-    while (av_read_frame(format_.get(), packet_.get()) >= 0) {
+    while (readPiece()) {
         const bool ours = packet_->stream_index == stream_;
         const bool taken = ours && avcodec_send_packet(codec_.get(), packet_.get()) >= 0;
         av_packet_unref(packet_.get());
         if (taken) return true;
+        if (impatient()) break;
     }
     if (drained_) return false;
     drained_ = true;
@@ -101,8 +130,9 @@ std::int64_t Input::headerLength() const {
 std::int64_t Input::countedLength() {
     double end = 0;
     const bool sound = stream().codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
-    while (av_read_frame(format_.get(), packet_.get()) >= 0) {
+    while (readPiece()) {
         if (packet_->stream_index == stream_) {
+            found();
             const double ticks = static_cast<double>(packet_->duration) * av_q2d(stream().time_base) * 1000;
             const double lasts = sound ? ticks : plausible(ticks);
             // Sound has no gaps, and its stamps may be guesses. Not every picture has a stamp.
@@ -112,6 +142,7 @@ std::int64_t Input::countedLength() {
             end = std::max(end, begins + lasts);
         }
         av_packet_unref(packet_.get());
+        if (impatient()) break;
         if (avio_tell(format_->pb) > limits::countedBytes)
             return std::max<std::int64_t>(std::llround(end), headerLength());
     }

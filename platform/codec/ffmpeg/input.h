@@ -43,9 +43,18 @@ public:
 
 private:
     Input() = default;
+    bool openFile(const std::filesystem::path& file);
     bool openCodec(const AVCodec& codec);
     bool feed();
+    // The next piece of the file, of whatever stream.
+    bool readPiece();
+    // A file can hold nothing for gigabytes, or claim to.
+    bool impatient() const;
+    void found();
 
+    AVFormatContext* reading_ = nullptr;  // also while it is being opened
+    std::int64_t foundAt_ = 0;            // bytes
+    std::int64_t searchesSince_ = 0;      // milliseconds of this thread
     Owned<AVFormatContext> format_;
     Owned<AVCodecContext> codec_;
     Owned<AVPacket> packet_;
