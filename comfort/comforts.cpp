@@ -3,18 +3,20 @@
 #include <algorithm>
 #include <iostream>
 #include <system_error>
+#include <utility>
 
 #include "platform/machine/replace_file.h"
 #include "platform/machine/sound.h"
 #include "platform/machine/whole_file.h"
 #include "platform/picture/font.h"
+#include "platform/values/limits.h"
 #include "platform/window/controls/look.h"
+#include "saves/saves.h"
 
 namespace zentrox {
 
 namespace {
 
-constexpr std::uint64_t mostBytes = 1'000'000;
 constexpr Milliseconds noticeLasts = 3000;
 const Text pausedNotice = "Pause";
 constexpr int noticeMargin = 6;  // pixels
@@ -26,7 +28,7 @@ std::filesystem::path settingsFile(const std::filesystem::path& directory) {
 }
 
 Settings storedSettings(const std::filesystem::path& file) {
-    return readSettings(readFile(file, mostBytes).value_or(""));
+    return readSettings(readFile(file, limits::settingsBytes).value_or(""));
 }
 
 Comforts::Comforts(Platform& platform, Zustand& zustand, ComfortMachine& machine, std::filesystem::path file)
@@ -77,13 +79,22 @@ void Comforts::change(const Settings& settings) {
     if (settings == settings_) return;
     settings_ = settings;
     apply();
+    store();
+}
+
+void Comforts::store() {
     try {
-        const std::string before = readFile(file_, mostBytes).value_or("");
+        const std::string before = readFile(file_, limits::settingsBytes).value_or("");
         std::error_code error;
         std::filesystem::create_directories(file_.parent_path(), error);
         if (const std::string bytes = writeSettings(settings_, before); bytes != before) replaceFile(file_, bytes);
+        complaint_.clear();
     } catch (const std::system_error& error) {
-        std::cerr << "zentrox: " << file_.string() << ": " << error.code().message() << '\n';
+        const Text why = SchreibfehlerText(error.code().value());
+        if (std::exchange(complaint_, why) == why) return;
+        const Text text = Text("Die Einstellungen können nicht gespeichert werden: "_t) + why;
+        std::cerr << "zentrox: " << file_.string() << ": " << toUtf8(text) << '\n';
+        notice(text);
     }
 }
 

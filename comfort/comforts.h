@@ -62,6 +62,7 @@ private:
     bool firstLook(const Input& input);
     void apply();
     void applyLetters();
+    void store();
     void takeFromMachine();
     void pauseSound(bool on);
     Text noticeNow() const;
@@ -83,6 +84,7 @@ private:
     bool standsAway_ = false;
     int soundPauses_ = 0;  // so many want it to stand still
     Text notice_;
+    Text complaint_;  // why the settings could not be stored, told already
     std::optional<Timer> noticeEnd_;
 };
 

@@ -101,7 +101,11 @@ void writeZip(const std::filesystem::path& target, const std::vector<PackedFile>
     if (!closed) zip_discard(archive);
     const std::string bytes = closed ? bytesOf(whole.get()) : "";
     if (bytes.empty()) fail(target, std::errc::io_error);
-    replaceFile(target, bytes);
+    try {
+        replaceFile(target, bytes);
+    } catch (const std::system_error& error) {
+        throw std::filesystem::filesystem_error("replace", target, error.code());
+    }
 }
 
 }  // namespace zentrox

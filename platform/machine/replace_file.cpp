@@ -130,6 +130,7 @@ void replacePlain(const fs::path& target, std::string_view bytes, const struct s
 }  // namespace
 
 void replaceFile(const fs::path& target, std::string_view bytes) {
+    if (target.empty()) throw std::system_error(ENOENT, std::generic_category());
     struct stat old {};
     const bool there = stat(target.c_str(), &old) == 0;
     if (there && !S_ISREG(old.st_mode) && !S_ISDIR(old.st_mode)) return writeInto(target, bytes);

@@ -133,16 +133,32 @@ private:
     std::set<Text> names_;
 };
 
-// Writes the archive and opens it as the game does, so that nobody gets one that it refuses.
-void writePacked(const fs::path& target, const Found& found) {
-    writeZip(target, found.files, dateOfFiles());
+void placed(const fs::path& draft, const fs::path& target) {
     try {
-        openZip(target);
+        placeFile(draft, target);
+    } catch (const std::system_error& error) {
+        throw fs::filesystem_error("place", target, error.code());
+    }
+}
+
+// Writes the archive and opens it as the game does, so that nobody gets one that it refuses; until then the one of
+// before stays.
+void writePacked(const fs::path& target, const Found& found) {
+    struct Draft {
+        const fs::path path;
+        ~Draft() {
+            std::error_code ignored;
+            fs::remove(path, ignored);
+        }
+    };
+    const Draft draft{target.string() + ".neu"};
+    writeZip(draft.path, found.files, dateOfFiles());
+    try {
+        openZip(draft.path);
     } catch (const DataError& error) {
-        std::error_code ignored;
-        fs::remove(target, ignored);
         throw WrongCall{toUtf8(error.message())};
     }
+    placed(draft.path, target);
 }
 
 fs::path playerFor(const PackWishes& wishes) {
@@ -168,7 +184,9 @@ int packWithProgram(const PackWishes& wishes, const Found& found, std::ostream& 
     std::vector<PackedFile> all;
     const auto copy = [&](const fs::path& from, const std::string& name) {
         fs::create_directories((folder / name).parent_path());
-        fs::copy_file(from, folder / name);
+        const fs::path beside = (folder / name).string() + ".neu";
+        fs::copy_file(from, beside);
+        placed(beside, folder / name);
         const bool runs = (fs::status(from).permissions() & fs::perms::owner_exec) != fs::perms::none;
         all.push_back({id + "/" + name, folder / name, {}, runs});
     };

@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "engine/files/titeldatei.h"
+#include "platform/machine/replace_file.h"
 #include "platform/values/text.h"
 #include "tools/story/build.h"
 #include "tools/web/gather.h"
@@ -119,7 +120,7 @@ private:
             fs::create_directories(target.parent_path());
             fs::path beside = target.parent_path() / ("neu-" + target.filename().string());
             convert(file.file, facts, musics(), beside);
-            fs::rename(beside, target);
+            placeFile(beside, target);
             say(file.path);
         }
         return {{"u", url}, {"n", bytes.size()}, {"k", fs::exists(target) ? fs::file_size(target) : 0}};
