@@ -68,6 +68,18 @@ fs::path ownSaves(const PlacesAsked& asked, const PlayersHome& home) {
     return home.data.empty() ? fs::path() : home.data / asked.name / savesName;
 }
 
+// Whether the settings can lie in that directory below `base`, with the same care.
+bool takesSettings(const fs::path& settings, const fs::path& base) {
+    std::error_code error;
+    const fs::path below = settings.lexically_relative(base);
+    if (fs::weakly_canonical(settings, error) != fs::weakly_canonical(base, error) / below) return false;
+    for (fs::directory_iterator entry(settings, error), end; !error && entry != end; entry.increment(error)) {
+        std::error_code unknown;
+        if (entry->is_symlink(unknown)) return false;
+    }
+    return true;
+}
+
 fs::path portablePlace(const fs::path& story, const std::string& name) {
     return isDirectory(story) ? story : story.parent_path() / portableName / name;
 }
@@ -102,7 +114,7 @@ std::vector<fs::path> plainFiles(const fs::path& directory) {
     for (fs::directory_iterator entry(directory, error), end; !error && entry != end; entry.increment(error)) {
         std::error_code unknown;
         const bool plain = entry->is_regular_file(unknown) && !entry->is_symlink(unknown);
-        if (plain && entry->file_size(unknown) <= limits::fetchedGameBytes) files.push_back(entry->path());
+        if (plain && entry->file_size(unknown) <= limits::savedGameBytes) files.push_back(entry->path());
     }
     std::sort(files.begin(), files.end());
     return files;
@@ -160,6 +172,8 @@ Places placesFor(const PlacesAsked& asked, const PlayersHome& home) {
     const fs::path portable = portablePlace(asked.story, asked.name);
     Places places;
     places.settings = asked.portable ? portable / settingsName : home.settings;
+    const fs::path base = folder ? asked.story : asked.story.parent_path();
+    if (asked.portable && !takesSettings(places.settings, base)) places.settings = home.settings;
     if (asked.saves) {
         places.saves = *asked.saves;
         return places;

@@ -90,6 +90,24 @@ TEST_F(StoryPlaces, ThePlayersWordAndPortableModeWin) {
         << "without any home";
 }
 
+TEST_F(StoryPlaces, LinksThatCameWithAPortableStoryAreNoPlaceForSettings) {
+    const fs::path story = temp.write("story/rooms/Start.lsd", "").parent_path().parent_path();
+    const PlacesAsked asked{story, "eine", {}, true};
+    EXPECT_EQ(placesFor(asked, home).settings, story / "settings");
+    const fs::path letter = temp.write("brief.txt", "ein Brief");
+    fs::create_directory(story / "settings");
+    fs::create_symlink(letter, story / "settings/einstellungen.txt");
+    EXPECT_EQ(placesFor(asked, home).settings, home.settings);
+    fs::remove_all(story / "settings");
+    fs::create_directory_symlink(temp.path(), story / "settings");
+    EXPECT_EQ(placesFor(asked, home).settings, home.settings);
+    // The whole story may lie behind a link.
+    fs::remove(story / "settings");
+    fs::create_directory_symlink(story, temp.path() / "hierher");
+    const PlacesAsked linked{temp.path() / "hierher", "eine", {}, true};
+    EXPECT_EQ(placesFor(linked, home).settings, temp.path() / "hierher/settings");
+}
+
 TEST_F(StoryPlaces, GamesOfTheSameStoryAreFoundWhereverItWasPlayed) {
     temp.write("story/rooms/Start.lsd", "");
     temp.write("story/saves/Anfang.xtc", "of the folder");
