@@ -1,5 +1,6 @@
 // Small stories whose answers are known.
 #include "tests/prove/prove_support.h"
+#include "tools/prove/games.h"
 
 namespace zentrox::prove::test {
 
@@ -41,6 +42,35 @@ TEST(Known, ACoinThatCanBeGivenAway) {
                   "use \"Münze\"\nuntil idle\ngive \"muenze\" \"Bettler\"\nread \"Danke.\"\n"),
               std::string::npos)
         << proof.report.dead.front().walk;
+}
+
+std::string gamesOf(const std::string& source) {
+    story::test::MemoryFiles files;
+    files.sources["probe.story"] = source;
+    const story::Story story = story::test::compiled(source, files);
+    return asText(story, gameNeeds(story, endingMarks(story, files), {}));
+}
+
+TEST(Games, AreNeededWhereEachWayToAnEndLeadsThroughTheirVictory) {
+    const std::string games = object("Pong", 0, "        Links\n            Spiel PONG, P\n") +
+                              object("Quiz", 100, "        Links\n            Spiel HDW, Q\n") +
+                              object("Jump", 200, "        Links\n            Spiel JUMP, J\n");
+    const std::string door = object("Tür", 300, R"(        Links
+            WennMerker P
+                WennMerker Q
+                    Raumwechsel "Ende.lsd"
+                EndeWenn
+                WennMerker J
+                    Raumwechsel "Ende.lsd"
+                EndeWenn
+            EndeWenn
+)");
+    EXPECT_EQ(gamesOf(startRoom(games + door)),
+              "probe.story:5: ohne einen Sieg in PONG ist kein Ende zu erreichen\n"
+              "Auch ohne Sieg kommt man zu einem Ende: HDW, JUMP.\n");
+    EXPECT_EQ(gamesOf(startRoom(games)), "Auch ohne Sieg kommt man zu einem Ende: HDW, JUMP, PONG.\n")
+        << "there is no end at all";
+    EXPECT_EQ(gamesOf(startRoom("")), "");
 }
 
 TEST(Known, AKeyBehindItsOwnDoor) {

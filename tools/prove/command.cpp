@@ -6,6 +6,7 @@
 #include <iomanip>
 #include <ostream>
 
+#include "tools/prove/games.h"
 #include "tools/prove/report.h"
 #include "tools/story/build.h"
 
@@ -19,6 +20,11 @@ constexpr int wrongCall = 2;
 constexpr int stopped = 3;
 
 constexpr double thousand = 1000;
+
+constexpr const char* withoutStart =
+    "zentrox-story: einen Raum Start.lsd gibt es hier nicht, und in ihm beginnt jedes Spiel\n";
+constexpr const char* tooLarge =
+    "zentrox-story: diese Geschichte hat mehr Räume, Merker und Gegenstände, als die Suche fasst\n";
 
 // Set by Ctrl+C: the search ends and tells what it has.
 std::atomic<bool> interrupted = false;
@@ -94,11 +100,27 @@ int run(const story::Story& story, const story::Findings& reading, const Call& c
         tell(story, report, call, out);
         return statusOf(report);
     } catch (const NoStart&) {
-        err << "zentrox-story: einen Raum Start.lsd gibt es hier nicht, und in ihm beginnt jedes Spiel\n";
+        err << withoutStart;
     } catch (const TooLarge&) {
-        err << "zentrox-story: diese Geschichte hat mehr Räume, Merker und Gegenstände, als die Suche fasst\n";
+        err << tooLarge;
     }
     return wrongCall;
+}
+
+void tellGames(const story::Story& story, std::ostream& out, std::ostream& err) {
+    interrupted = false;
+    const Interrupt onInterrupt;
+    const Options options = optionsOf({}, err);
+    try {
+        story::SourceFiles files;
+        const auto needs = gameNeeds(story, endingMarks(story, files), options);
+        if (options.progress) err << "\r\33[K" << std::flush;
+        out << asText(story, needs);
+    } catch (const NoStart&) {
+        err << withoutStart;
+    } catch (const TooLarge&) {
+        err << tooLarge;
+    }
 }
 
 }  // namespace zentrox::prove

@@ -25,4 +25,7 @@ struct Call {
 int run(const story::Story& story, const story::Findings& reading, const Call& call, std::ostream& out,
         std::ostream& err);
 
+// `zentrox-story check --games`: tells which mini-games the story can't be finished without.
+void tellGames(const story::Story& story, std::ostream& out, std::ostream& err);
+
 }  // namespace zentrox::prove

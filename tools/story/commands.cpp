@@ -46,6 +46,7 @@ struct Options {
     std::string player;
     page::Order page;
     bool onlyTell = false;
+    bool games = false;
 };
 
 struct Streams {
@@ -144,6 +145,7 @@ int check(const Options& options, const Streams& to) {
     check(checked.story, around, findings);
     findings.settle(checked.story);
     to.out << (options.json ? asJson(checked.story, findings) : asLines(checked.story, findings));
+    if (options.games && !options.json && !findings.hasErrors()) prove::tellGames(checked.story, to.out, to.err);
     return findings.empty() ? clean : hasFindings;
 }
 
@@ -390,6 +392,7 @@ void describe(CLI::App& app, Chosen& chosen) {
         ->required();
     sub->add_option("--data", options.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
     sub->add_flag("--json", options.json, "Befunde für Maschinen");
+    sub->add_flag("--games", options.games, "sagt auch, ohne welche Spiele die Geschichte nicht zu Ende geht");
 
     sub = add("source", "macht aus übersetzten Räumen und Skripten Quellen", source);
     sub->add_option("DIR-oder-DATEI", options.words, "Datenverzeichnisse, Räume, Skripte")->required();
