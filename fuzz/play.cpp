@@ -30,7 +30,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int steps = 80;                      // of a person, then the play is over
-constexpr Milliseconds longestPlay = 600'000;  // of virtual time
+constexpr Milliseconds longestPlay = 120'000;  // of virtual time
 
 bool isWritten(const std::string& file) {
     return file.ends_with(".lsd") || file.ends_with(".skp");
