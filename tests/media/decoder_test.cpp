@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <vector>
 
+#include "platform/machine/whole_file.h"
 #include "tests/media/make_media.h"
 #include "tests/support/temp_directory.h"
 
@@ -90,6 +92,31 @@ TEST_P(Videos, GoThroughTheirPicturesToTheEnd) {
     const auto late = mediaDecoder()->openVideo(file);
     EXPECT_TRUE(late->advance(1020, pixels.data())) << "a late look skips pictures";
     EXPECT_NEAR(greyAt(pixels, 320, 240), greyOf(25), 12);
+}
+
+// All of its two thousand pictures belong to the first moment.
+TEST(Video, WithAnyNumberOfPicturesForAMomentLetsGo) {
+    const TempDirectory directory;
+    const auto file = directory.path() / "schnell.avi";
+    encodeClip(file, {.codec = "mjpeg", .seconds = 80, .hertz = 0, .detailed = true});
+    std::string bytes = readFile(file).value_or("");
+    const std::size_t rate = bytes.find("strh") + 32;
+    ASSERT_LT(rate + 4, bytes.size());
+    bytes.replace(rate, 4, std::string("\0\xCA\x9A\x3B", 4));  // a thousand million pictures a second
+    const auto video = mediaDecoder()->openVideo(directory.write("schnell.avi", bytes));
+    ASSERT_NE(video, nullptr);
+    std::vector<std::uint32_t> pixels(videoWidth * videoHeight);
+    int calls = 0;
+    const std::clock_t all = std::clock();
+    for (; calls < 1000 && !video->ended(60'000); ++calls) {
+        const std::clock_t began = std::clock();
+        video->advance(60'000, pixels.data());
+        EXPECT_LT(static_cast<double>(std::clock() - began) / CLOCKS_PER_SEC, 0.7);
+    }
+    EXPECT_GT(calls, 1);
+    EXPECT_TRUE(video->ended(60'000));
+    RecordProperty("calls", calls);
+    RecordProperty("milliseconds", static_cast<int>((std::clock() - all) * 1000 / CLOCKS_PER_SEC));
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, Videos,

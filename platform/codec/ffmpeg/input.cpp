@@ -19,14 +19,13 @@ double plausible(double lasts) {
     return lasts > 0 && lasts <= limits::filmPicture ? lasts : usualPicture;
 }
 
-// Its own time, as a disc may have to get up speed.
+}  // namespace
+
 std::int64_t timeOfThread() {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1'000'000;
 }
-
-}  // namespace
 
 bool Input::impatient() const {
     const AVIOContext* const file = reading_ == nullptr ? nullptr : reading_->pb;

@@ -22,6 +22,9 @@ struct Closer {
 template <class T>
 using Owned = std::unique_ptr<T, Closer>;
 
+// Milliseconds that this thread has had of the processor; a disc that has to get up speed does not count.
+std::int64_t timeOfThread();
+
 class Input {
 public:
     // Null if the file has no such stream or nothing that decodes it is there.

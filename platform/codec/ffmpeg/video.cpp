@@ -39,7 +39,9 @@ public:
 
     bool advance(std::int64_t position, std::uint32_t* pixels) override {
         bool another = false;
-        while (more_ && begins_ <= static_cast<double>(position)) {
+        const std::int64_t began = timeOfThread();
+        // A film can have any number of pictures for one moment; what is left is for the next call.
+        while (more_ && timeOfThread() - began < limits::filmSearch && begins_ <= static_cast<double>(position)) {
             std::swap(shown_, ahead_);
             another = true;
             fetch();
