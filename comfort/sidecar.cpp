@@ -67,7 +67,8 @@ Text onOneLine(Text text) {
 }
 
 void readLines(Sidecar& sidecar, const std::string& utf8) {
-    for (const TextView line : linesOf(fromUtf8(utf8))) {
+    const Text text = fromUtf8(utf8);
+    for (const TextView line : linesOf(text)) {
         const auto colon = line.find(": ");
         if (colon == TextView::npos) continue;
         const TextView word = line.substr(0, colon);

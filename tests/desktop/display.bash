@@ -19,6 +19,9 @@ display() {
     export DISPLAY=:$number ZENTROX_SOUND=none XDG_CONFIG_HOME=$PWD/config
     rm -rf "$XDG_CONFIG_HOME"  # out of the box
     screen_width=${1%x*} screen_height=${1#*x}
+    # What the window system's own libraries keep to the end is not ours.
+    echo 'leak:libdbus' >suppressions
+    export LSAN_OPTIONS=suppressions=$PWD/suppressions:print_suppressions=0
     [ -n "${2:-}" ] || return 0
     $2 >/dev/null 2>&1 &
     eventually managed || fail "$2 does not start"
