@@ -14,6 +14,13 @@
 
 namespace zentrox {
 
+// A button on the first page of the settings, which closes them.
+struct SettingsAction {
+    TextView title;
+    std::function<bool()> available;
+    std::function<void()> does;
+};
+
 class Comforts {
 public:
     // All must outlive it. `file` holds the settings; it need not be there, and is left alone where it can't be
@@ -32,6 +39,9 @@ public:
     void change(const Settings& settings);
     // Called after each change.
     void whenChanged(std::function<void(const Settings&)> told) { told_.push_back(std::move(told)); }
+
+    void addAction(SettingsAction action) { actions_.push_back(std::move(action)); }
+    const std::vector<SettingsAction>& actions() const { return actions_; }
 
     ComfortKeys& keys() { return keys_; }
     // Asked, behind the keys, for each input; true if the game shall not know of it. It may open windows and wait.
@@ -74,6 +84,7 @@ private:
     std::filesystem::path file_;
     Settings settings_;
     bool fineLetters_ = false;  // in force
+    std::vector<SettingsAction> actions_;
     ComfortKeys keys_;
     Verteiler observers_;
     std::vector<std::function<void(const Settings&)>> told_;

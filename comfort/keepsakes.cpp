@@ -30,7 +30,8 @@ Keepsakes::Keepsakes(Comforts& comforts)
       platform_(comforts.platform()),
       moment_(platform_, comforts.zustand(), history_),
       autosave_(platform_.files, moment_, [this](Text why) { comforts_.notice(std::move(why)); }),
-      quick_(platform_.files, "schnell-") {
+      quick_(platform_.files, "schnell-"),
+      goOn_(platform_.queue, 1, false, [this] { goOnFromMenu(); }) {
     for (Beobachter* const one : {static_cast<Beobachter*>(&history_), static_cast<Beobachter*>(&moment_),
                                   static_cast<Beobachter*>(&autosave_), static_cast<Beobachter*>(this)})
         comforts.observers().Dazu(*one);
@@ -38,6 +39,20 @@ Keepsakes::Keepsakes(Comforts& comforts)
     comforts.whenChanged([this](const Settings& settings) { autosave_.setOn(settings.autosave); });
     comforts.addLook([this](const Input& input) { return staysHere(input); });
     addKeys();
+    addAction();
+}
+
+void Keepsakes::addAction() {
+    comforts_.addAction({"Weiterspielen, wo es aufhörte"_t,
+                         [this] { return begin_ && moment_.room() == nullptr && canContinue(); },
+                         [this] { goOn_.setEnabled(true); }});
+}
+
+// The whole game runs inside this call.
+void Keepsakes::goOnFromMenu() {
+    goOn_.setEnabled(false);
+    continueWhenOpened();
+    begin_();
 }
 
 void Keepsakes::addKeys() {

@@ -22,8 +22,9 @@ public:
     bool canContinue() const { return !autosave_.slots().newestFirst().empty(); }
     // The room window goes on there when it opens, instead of in the first room.
     void continueWhenOpened() { continues_ = true; }
-    // The same now, out of whatever the room window is in.
-    void continueNow();
+    // The same out of the menu, by a line of the settings, as long as it stands: `begin` begins the game, and is
+    // null where there is no menu.
+    void menuStands(std::function<void()> begin) { begin_ = std::move(begin); }
 
     // Called when a key has saved, and before one leaves for what it has saved.
     std::function<void()> onQuickSave;
@@ -36,6 +37,9 @@ private:
     void Öffnet(Raumfenster& room) override;
 
     void addKeys();
+    void addAction();
+    void goOnFromMenu();
+    void continueNow();
     void quickSave();
     void quickLoad();
     bool staysHere(const Input& input);
@@ -47,6 +51,8 @@ private:
     Autosave autosave_;
     Slots quick_;
     bool continues_ = false;
+    std::function<void()> begin_;
+    Timer goOn_;  // the settings have to be closed first
 };
 
 }  // namespace zentrox

@@ -16,6 +16,8 @@ constexpr int rowPitch = 26;
 constexpr Point firstRow{10, 12};
 constexpr Size button{118, 25};
 constexpr int buttonTop = 282;
+constexpr int actionWidth = 230;
+constexpr int actionGap = 10;  // pixels below the settings
 
 std::vector<Text> pagesOf(std::span<const SettingsRow> rows) {
     std::vector<Text> pages;
@@ -54,8 +56,23 @@ void SettingsWindow::showPage(std::size_t page) {
                                                          [this] { comforts_.change(settings_); }));
         at.y += rowPitch;
     }
+    if (page == 0) addActions(at);
     if (focus() == nullptr) setFocus(rows_.front().get());
     page_.changed();
+}
+
+void SettingsWindow::addActions(Point at) {
+    for (const SettingsAction& action : comforts_.actions()) {
+        if (!action.available()) continue;
+        auto one = std::make_unique<PushButton>(&page_, Rect{at + Point{0, actionGap}, {actionWidth, button.h}},
+                                                action.title);
+        one->onClick = [this, does = action.does] {
+            close();
+            does();
+        };
+        rows_.push_back(std::move(one));
+        at.y += rowPitch;
+    }
 }
 
 void SettingsWindow::asShipped() {

@@ -21,6 +21,7 @@ public:
 private:
     void onKeyDown(int code) override;
     void showPage(std::size_t page);
+    void addActions(Point at);
     void moveFocus(int by);
     void asShipped();
 
@@ -29,7 +30,7 @@ private:
     std::vector<Text> pages_;
     Tabs tabs_;
     PageGround page_;
-    std::vector<std::unique_ptr<SettingControl>> rows_;
+    std::vector<std::unique_ptr<Control>> rows_;  // of the page that is open
     Label hint_;
     PushButton keys_;
     PushButton reset_;

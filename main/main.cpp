@@ -146,6 +146,7 @@ int play(const Options& options, const StoryPlace& place) {
         keepsakes.continueWhenOpened();
         extras.withoutMenu = true;
     }
+    extras.menuStands = [&keepsakes](auto begin) { keepsakes.menuStands(std::move(begin)); };
     const int status = Spielen(platform, *zustand, fromUtf8(options.commandLine), extras);
     if (status != 0 && sound->error() == SoundError::noDriver) offerSilence(comforts);
     return status;

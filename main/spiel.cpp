@@ -60,9 +60,12 @@ int windows(Platform& platform, Zustand& zustand, const Text& kommandozeile, con
         // A room named on the command line needs no menu.
         if (extras.withoutMenu || !kommandozeile.empty()) showRoom();
         Menu menu(platform, zustand, platform.roots, showRoom);
+        if (extras.menuStands) extras.menuStands([&menu] { menu.beginnen({}); });
         menu.showModal();
+        if (extras.menuStands) extras.menuStands(nullptr);
         return 0;
     } catch (const ProgramEnd& end) {
+        if (extras.menuStands) extras.menuStands(nullptr);
         return end.status;
     }
 }

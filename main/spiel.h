@@ -18,6 +18,8 @@ struct Extras {
     // What a player wants of a game, by its name, put around it.
     std::function<Spiel(const Text& name, Spiel game)> aroundGame{};
     bool withoutMenu = false;  // the data is looked for as ever, and the room window comes first
+    // Told how to begin the game from the menu while that stands, and nothing when it is over.
+    std::function<void(std::function<void()> begin)> menuStands{};
 };
 
 // Opens the first window and plays until the process ends; gives its exit status. Data that can't be used end it

@@ -166,7 +166,7 @@ void Menu::LabelAusfuehren(int Index) {
     }
 }
 
-// The whole game runs inside this call, and with it inside the loop that handed in the click.
+// This runs inside the loop that handed in the click.
 void Menu::beginnen(TextView raum) {
     z_.Übergabe = Text(raum);
     MenuSchluss = true;

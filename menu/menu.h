@@ -26,6 +26,9 @@ public:
     Menu(Platform& platform, Zustand& zustand, const std::vector<std::filesystem::path>& wurzeln,
          std::function<void()> form1Zeigen);
 
+    // Begins the game in this room, or in its first one; the whole of it runs inside this call.
+    void beginnen(TextView raum);
+
 private:
     static constexpr int Zeilen = 4;
 
@@ -43,7 +46,6 @@ private:
 
     Label& zeile(int Index) { return Label1[static_cast<std::size_t>(Index)]; }
     void markierungRücken(int richtung);
-    void beginnen(TextView raum);
     void öffnen(TextView was);
 
     Zustand& z_;

@@ -169,6 +169,28 @@ key escape
 until window Menu
 END
 
+# The same out of the menu, by the first page of the settings; it has no such line without a play to go on with.
+play <<'END'
+until window Menu
+key f10
+until window Einstellungen
+expect text "Weiterspielen"
+key down
+key down
+key down
+key down
+key down
+key enter
+until window WasWar
+key enter
+until idle
+expect item blue
+expect flag FERTIG
+key f10
+until window Einstellungen
+expect not text "Weiterspielen"
+END
+
 # The newest file is damaged: the one before it.
 newest=$(ls -t "$scratch"/saves/auto-*.xtc | head -1)
 head -c 300 "$newest" >"$scratch/half" && cp "$scratch/half" "$newest"

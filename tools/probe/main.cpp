@@ -142,6 +142,7 @@ int live(const Options& options, const Files& files, probe::ProbeBackend& backen
         keepsakes->continueWhenOpened();
         extras.withoutMenu = true;
     }
+    if (keepsakes) extras.menuStands = [&keepsakes](auto begin) { keepsakes->menuStands(std::move(begin)); };
     const int status = Spielen(platform, zustand, arguments, extras);
     listeners.watch(nullptr, nullptr);
     player.attach(nullptr, nullptr);

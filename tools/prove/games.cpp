@@ -58,11 +58,10 @@ private:
             const Script& script = program_.scripts[s];
             for (std::size_t i = 0; i + 1 < script.nodes.size(); ++i)
                 if (opensGame(script, i))
-                    byName.try_emplace(gameOf(script, i),
-                                       GameNeed{gameOf(script, i),
-                                                program_.placeOf(static_cast<std::int32_t>(s),
-                                                                 static_cast<std::int32_t>(i)),
-                                                {}});
+                    byName.try_emplace(gameOf(script, i), GameNeed{gameOf(script, i),
+                                                                   program_.placeOf(static_cast<std::int32_t>(s),
+                                                                                    static_cast<std::int32_t>(i)),
+                                                                   {}});
         }
         std::vector<GameNeed> all;
         for (auto& [name, need] : byName) all.push_back(std::move(need));
@@ -90,8 +89,7 @@ private:
         const Relevance relevance = Influence(program).of(asked);
         const Program reduced =
             options_.reduced
-                ? project(program, relevance,
-                          [&](std::int32_t flag) { return Influence(program, flag).of(asked); })
+                ? project(program, relevance, [&](std::int32_t flag) { return Influence(program, flag).of(asked); })
                 : program;
         const Search* running = nullptr;
         Plan plan;
@@ -135,8 +133,8 @@ std::string asText(const story::Story& story, const std::vector<GameNeed>& needs
             free += (free.empty() ? "" : ", ") + name;
         } else {
             const story::Place& place = *need.place;
-            text += story.files[static_cast<std::size_t>(place.file)] + ":" + std::to_string(place.line) + ": ohne einen Sieg in " + name +
-                    " ist kein Ende zu erreichen\n";
+            text += story.files[static_cast<std::size_t>(place.file)] + ":" + std::to_string(place.line) +
+                    ": ohne einen Sieg in " + name + " ist kein Ende zu erreichen\n";
         }
     }
     if (!free.empty()) text += "Auch ohne Sieg kommt man zu einem Ende: " + free + ".\n";

@@ -12,8 +12,8 @@ struct GameNeed {
     std::optional<bool> needed;
 };
 
-// Each game that the story opens, in the order of their names; `needed` of none is true where no play reaches an ending
-// anyway. Throws as `prove` does.
+// Each game that the story opens, in the order of their names; `needed` of none is true where no play reaches an
+// ending anyway. Throws as `prove` does.
 std::vector<GameNeed> gameNeeds(const story::Story& story, const Marks& marks, const Options& options);
 
 // German, UTF-8, one line each and one for the rest; empty for a story without games.
