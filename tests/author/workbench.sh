@@ -110,10 +110,19 @@ eventually looks_like "$room" || fail "the room does not come back"
 at 150 200
 key ctrl+F6
 sleep 0.2
+for corner in "30 40" "90 40" "90 120"; do
+    at $corner
+    xdotool click 1
+    sleep 0.1
+done
+key Return
+outlined() { grep -q "Vieleck 30 40, 90 40, 90 120" "$source"; }
+eventually outlined || { cat "$source" >&2; fail "no outline in the source"; }
+sleep 0.3
 drag 50 60 151 262
 written() { grep -q "Rechteck 50 60 151 262" "$source"; }
 eventually written || { cat "$source" >&2; fail "no line in the source"; }
-grep -q "Rechteck 100 120 220 400" "$source" && fail "the old area is still there"
+grep -q -e "Rechteck 100 120 220 400" -e Vieleck "$source" && fail "the old area is still there"
 sed -n '/Objekt "Tür"/,/Links/p' "$source" | grep -q "Rechteck 50 60" || fail "the line is at another object"
 key Escape
 sleep 0.5
