@@ -19,6 +19,7 @@
 #include "main/report.h"
 #include "main/spiel.h"
 #include "main/story.h"
+#include "platform/codec/fontfiles.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/roots.h"
 #include "platform/machine/system.h"
@@ -191,8 +192,13 @@ int main(int argc, char** argv) {
     if (!call.options) return call.status;
     try {
         return play(*call.options);
+    } catch (const NoFonts& error) {
+        std::cerr << "zentrox: " << error.what() << '\n';
+        sdl::showSystemBox(
+            "Auf diesem Rechner ist keine Schrift, in der die Geschichte erzählt werden könnte.\n\n"
+            "Die Pakete fonts-liberation und fonts-terminus-otb bringen die passenden mit.");
+        return 1;
     } catch (const std::exception& error) {
-        // No font at all, say: there is nothing then to show a message with.
         std::cerr << "zentrox: " << error.what() << '\n';
         return 1;
     }

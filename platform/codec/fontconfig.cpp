@@ -50,7 +50,7 @@ private:
     static FontFile fileOf(FcPattern* match) {
         FcChar8* path = nullptr;
         if (match == nullptr || FcPatternGetString(match, FC_FILE, 0, &path) != FcResultMatch)
-            throw std::runtime_error(
+            throw NoFonts(
                 "no font is installed; the packages fonts-liberation and fonts-terminus-otb have those of the "
                 "game");
         FontFile file{reinterpret_cast<const char*>(path)};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 namespace zentrox {
@@ -12,11 +13,15 @@ struct FontFile {
     bool scalable = true;
 };
 
+struct NoFonts : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
 class FontFiles {
 public:
     virtual ~FontFiles() = default;
     // The font nearest to a family, in UTF-8, upright; `generic` is what kind of font stands in for it: "serif",
-    // "sans-serif" or "monospace". Throws `std::runtime_error` if there is no font at all.
+    // "sans-serif" or "monospace". Throws `NoFonts` if there is no font at all.
     virtual FontFile find(const std::string& family, const char* generic, bool bold, bool scalable) = 0;
 };
 

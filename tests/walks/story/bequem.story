@@ -50,3 +50,8 @@ Raum "Hinten.lsd"
         Links
             SetzeMerker ZURÜCK
             Raumwechsel "Bequem.lsd"
+    Objekt "_Wand"
+        Fläche
+            Rechteck 20 0 30 20
+        Links
+            SetzeMerker WAND
