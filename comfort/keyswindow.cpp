@@ -70,7 +70,8 @@ void KeyPage::paint(Bitmap& onto, Point at) {
     look::sunken(onto, ground);
     const look::Clip clip(onto, look::shrunk(ground, look::edge));
     const Font& font = look::fontFor(*this);
-    const Font& bold = look::fontFor(*this, {.bold = true});
+    const FontSpec heavy{.bold = true};
+    const Font& bold = look::fontFor(*this, heavy);
     const int pitch = font.lineHeight() + extraRow;
     const auto titles = std::count_if(lines_.begin(), lines_.end(), [](auto& line) { return line.label.empty(); });
     const auto fit = static_cast<std::size_t>((height() - 2 * inset) / pitch);
