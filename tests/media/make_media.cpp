@@ -87,8 +87,26 @@ private:
     int logLevel_ = av_log_get_level();
 };
 
+// What a codec takes, with an end of its own; null for anything. Newer libraries are to be asked for it.
+#if LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(61, 13, 100)
+const void* listOf(const AVCodec& codec, AVCodecConfig what) {
+    const void* list = nullptr;
+    return avcodec_get_supported_config(nullptr, &codec, what, 0, &list, nullptr) < 0 ? nullptr : list;
+}
+const AVSampleFormat* sampleFormatsOf(const AVCodec& codec) {
+    return static_cast<const AVSampleFormat*>(listOf(codec, AV_CODEC_CONFIG_SAMPLE_FORMAT));
+}
+const AVPixelFormat* pixelFormatsOf(const AVCodec& codec) {
+    return static_cast<const AVPixelFormat*>(listOf(codec, AV_CODEC_CONFIG_PIX_FORMAT));
+}
+#else
+const AVSampleFormat* sampleFormatsOf(const AVCodec& codec) { return codec.sample_fmts; }
+const AVPixelFormat* pixelFormatsOf(const AVCodec& codec) { return codec.pix_fmts; }
+#endif
+
 AVSampleFormat usableFormat(const AVCodec& codec) {
-    for (const auto* format = codec.sample_fmts; *format != AV_SAMPLE_FMT_NONE; ++format) {
+    const AVSampleFormat* format = sampleFormatsOf(codec);
+    for (; format != nullptr && *format != AV_SAMPLE_FMT_NONE; ++format) {
         const auto packed = av_get_packed_sample_fmt(*format);
         if (packed == AV_SAMPLE_FMT_FLT || packed == AV_SAMPLE_FMT_S16) return *format;
     }
@@ -136,7 +154,8 @@ void openPictures(Writer& writer, Track& track, const Clip& clip) {
     writer.add(track, codec, {1, clip.rate});
     track.codec->width = clip.width;
     track.codec->height = clip.height;
-    track.codec->pix_fmt = codec->pix_fmts != nullptr ? codec->pix_fmts[0] : AV_PIX_FMT_YUV420P;
+    const AVPixelFormat* formats = pixelFormatsOf(*codec);
+    track.codec->pix_fmt = formats != nullptr ? *formats : AV_PIX_FMT_YUV420P;
     track.codec->framerate = {clip.rate, 1};
     track.stream->avg_frame_rate = track.codec->framerate;
     track.codec->gop_size = 12;
