@@ -111,7 +111,7 @@ private:
     // The font of the texts; the surface has it for the length of a scope.
     class Textschrift;
     FontSpec textschrift() const;
-    // A text with all its line ends: as it stands, or broken so that it fits in letters of another size.
+    // A text with all its line ends: as it stands, or broken so that it fits in the font that the surface has.
     Text gesetzt(TextView argument) const;
 
     // --- transitions

@@ -52,7 +52,7 @@ FontSpec Form1::textschrift() const {
 
 Text Form1::gesetzt(TextView argument) const {
     if (z_.Textart.wieImmer()) return mitZeilenenden(argument);
-    const Font& schrift = platform_.fonts.get(textschrift());
+    const Font& schrift = platform_.fonts.get(Picture1.font);
     Text alles;
     Text name = z_.Textart.Name;
     for (const Textzeile& zeile : TextzeilenVon(argument)) {

@@ -55,3 +55,8 @@ Raum "Hinten.lsd"
             Rechteck 20 0 30 20
         Links
             SetzeMerker WAND
+    Objekt "Lang"
+        Fläche
+            Rechteck 40 0 50 20
+        Links
+            Text "Ein Satz, der so noch in eine Zeile passt."
