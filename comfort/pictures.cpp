@@ -3,10 +3,13 @@
 #include <array>
 #include <ctime>
 #include <sstream>
+#include <system_error>
 
 #include "platform/codec/pictures.h"
+#include "platform/machine/replace_file.h"
 #include "platform/machine/whole_file.h"
 #include "platform/values/keys.h"
+#include "saves/saves.h"
 
 namespace zentrox {
 
@@ -91,10 +94,16 @@ Screenshots::Screenshots(Comforts& comforts, fs::path directory)
 void Screenshots::take() {
     std::error_code error;
     fs::create_directories(directory_, error);
-    const fs::path file = datedFile(directory_, "Zentrox", ".png");
-    const bool saved = !directory_.empty() && savePng(gamePicture(comforts_.platform().queue), file.string());
-    comforts_.notice(saved ? Text("Bild gespeichert:\n") + fromUtf8(file.string())
-                           : Text("Das Bild kann nicht gespeichert werden:\n") + fromUtf8(directory_.string()));
+    const std::string png = pngFile(gamePicture(comforts_.platform().queue));
+    if (png.empty()) return;
+    const fs::path file = directory_.empty() ? fs::path() : datedFile(directory_, "Zentrox", ".png");
+    try {
+        replaceFile(file, png);
+        comforts_.notice(Text("Bild gespeichert:\n") + fromUtf8(file.string()));
+    } catch (const std::system_error& failure) {
+        comforts_.notice(Text("Das Bild kann nicht gespeichert werden:\n") + fromUtf8(directory_.string()) + "\n" +
+                         SchreibfehlerText(failure.code().value()));
+    }
 }
 
 }  // namespace zentrox

@@ -9,6 +9,7 @@
 #include "platform/machine/replace_file.h"
 #include "platform/values/base64.h"
 #include "platform/window/messagebox.h"
+#include "saves/saves.h"
 #include "saves/spielstand.h"
 
 namespace zentrox {
@@ -134,7 +135,8 @@ void Report::write() {
         replaceFile(file, call_ + head() + walk_.text() + tail());
         comforts_.notice(Text("Problembericht geschrieben:\n") + fromUtf8(file.string()));
     } catch (const std::system_error& failure) {
-        comforts_.notice(Text("Der Bericht kann nicht geschrieben werden:\n") + fromUtf8(failure.code().message()));
+        comforts_.notice(Text("Der Bericht kann nicht geschrieben werden:\n") +
+                         SchreibfehlerText(failure.code().value()));
     }
 }
 

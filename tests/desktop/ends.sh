@@ -3,7 +3,7 @@
 # gone within a second (four are allowed here, for machines that have more to do; ENDS_WITHIN=1000 is the promise),
 # with the status that belongs to it, and the saved game is what it was, with nothing beside it.
 set -uo pipefail
-zentrox=$(realpath "$1") data=$2 out=$3
+zentrox=$(realpath "$1") data=$2 out=$3 second=$4
 . "$(dirname "$0")/display.bash"
 rm -rf "$out"
 mkdir -p "$out/saves"
@@ -14,6 +14,8 @@ room() { :; }
 game() { field 0 0; opened; }
 loop() { field 1 2; sleep 0.3; }
 box() { key F7; opened; }
+# A second of pictures, and then nothing for as long as the disk is said to be.
+film() { field 2 2; opened; sleep 1.5; }
 dialog() { key F2; opened; key e n d; }
 opened() { eventually looks_other "$room" || fail "$place does not open"; }
 
@@ -76,6 +78,9 @@ end_the_new_one() {
     for new in $(pgrep -f -- "--saves $out/saves"); do kill "$new"; done
 }
 
+cp "$second" "$data/movies/ewig.mpg"
+truncate -s 50G "$data/movies/ewig.mpg"
+trap 'rm -f "$data/movies/ewig.mpg"; tidy' EXIT
 save_once
 for where in room loop dialog; do
     ends $where 0 signal TERM
@@ -85,4 +90,6 @@ done
 ends game 0 signal TERM
 ends game 1 display_goes ""
 ends box 0 signal HUP
+ends film 0 signal TERM
+ends film 0 window_closes ""
 ends loop 0 window_closes ""

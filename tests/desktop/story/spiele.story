@@ -54,6 +54,11 @@ Raum "Spiele.lsd"
         Links
             Marke A
             Springe A
+    Objekt "Film"
+        Fläche
+            Rechteck 320 320 479 479
+        Links
+            Film ewig.mpg
     Objekt "Ende"
         Fläche
             Rechteck 480 320 639 479
