@@ -56,6 +56,7 @@ Comforts::~Comforts() {
 void Comforts::apply() {
     machine_.setFullScreen(settings_.fullScreen);
     machine_.setEnlarging(static_cast<Enlarging>(settings_.enlarging));
+    platform_.boxPercent = settings_.letters;
     applyLetters();
     machine_.usePad(settings_.pad);
     machine_.useTouch(settings_.touch);

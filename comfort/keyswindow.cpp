@@ -27,7 +27,7 @@ constexpr std::array gameLines{
     KeyLine{"Esc", "Film beenden"_t},
     KeyLine{"F1", "Spielstand laden"_t},
     KeyLine{"F2", "speichern"_t},
-    KeyLine{"F7", "worum es geht"_t},
+    KeyLine{"F7", "wie böse ich war, als Zahl"_t},
     KeyLine{"", "In den Spielen"_t},
     KeyLine{"Pfeile", "laufen, ducken, Schläger bewegen"_t},
     KeyLine{"Leertaste", "springen"_t},

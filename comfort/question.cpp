@@ -1,5 +1,7 @@
 #include "comfort/question.h"
 
+#include <algorithm>
+
 #include "platform/values/keys.h"
 #include "platform/window/controls/textlayout.h"
 
@@ -7,27 +9,52 @@ namespace zentrox {
 
 namespace {
 
-constexpr int width = 400;  // pixels
+constexpr int usualWidth = 400;  // pixels
+constexpr int mostWidth = 600;
 constexpr int margin = 14;
 constexpr int gap = 8;
-constexpr Size button{150, 25};
+constexpr Size usualButton{150, 25};
 
-int textHeight(Platform& platform, TextView text) {
-    const Font& font = platform.fonts.get({});
-    return static_cast<int>(wrapText(font, text, width - 2 * margin).size()) * font.lineHeight();
+FontSpec fontFor(const Platform& platform) {
+    FontSpec font;
+    font.points = font.points * static_cast<float>(platform.boxPercent) / 100;
+    return font;
 }
 
-Size sizeFor(Platform& platform, TextView text) {
-    return {width, textHeight(platform, text) + 3 * margin + button.h};
+// Where everything stands, in letters of the size that message boxes have.
+struct Layout {
+    Size client;
+    Rect text;
+    Size button;
+    Point yes;
+    Point no;
+};
+
+Layout layOut(Platform& platform, TextView text) {
+    const Font& font = platform.fonts.get(fontFor(platform));
+    Layout out;
+    const int width = std::min(usualWidth * platform.boxPercent / 100, mostWidth);
+    const int lines = static_cast<int>(wrapText(font, text, width - 2 * margin).size());
+    out.button = {std::min(usualButton.w * platform.boxPercent / 100, (width - 2 * margin - gap) / 2),
+                  usualButton.h * platform.boxPercent / 100};
+    out.text = {margin, margin, width - 2 * margin, lines * font.lineHeight()};
+    out.client = {width, out.text.h + 3 * margin + out.button.h};
+    const int top = out.client.h - margin - out.button.h;
+    out.no = {width - margin - out.button.w, top};
+    out.yes = {out.no.x - gap - out.button.w, top};
+    return out;
 }
 
 }  // namespace
 
 Question::Question(Platform& platform, TextView text, TextView yes, TextView no)
-    : Window(platform, "Frage", "Zentrox", sizeFor(platform, text), Frame::dialog),
-      text_(&root(), {margin, margin, width - 2 * margin, textHeight(platform, text)}, text),
-      yesButton_(&root(), {{width - margin - 2 * button.w - gap, client().h - margin - button.h}, button}, yes),
-      noButton_(&root(), {{width - margin - button.w, client().h - margin - button.h}, button}, no) {
+    : Window(platform, "Frage", "Zentrox", layOut(platform, text).client, Frame::dialog),
+      text_(&root(), layOut(platform, text).text, text),
+      yesButton_(&root(), {layOut(platform, text).yes, layOut(platform, text).button}, yes),
+      noButton_(&root(), {layOut(platform, text).no, layOut(platform, text).button}, no) {
+    text_.setFont(fontFor(platform));
+    yesButton_.setFont(fontFor(platform));
+    noButton_.setFont(fontFor(platform));
     yesButton_.onClick = [this] { answer(true); };
     yesButton_.setDefault(true);
     noButton_.onClick = [this] { answer(false); };

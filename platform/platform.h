@@ -27,6 +27,8 @@ public:
     Files files;
     Queue queue;
     Random random;
+    // How large the letters of message boxes are, in percent; for players who want them larger.
+    int boxPercent = 100;
     // Where the CD is looked for, in this order: paths of the system.
     std::vector<std::filesystem::path> roots;
 };

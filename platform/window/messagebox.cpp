@@ -18,7 +18,8 @@ namespace {
 constexpr int margin = 12;       // pixels round all that stands in the box
 constexpr int iconSide = 32;     // pixels
 constexpr int widestText = 420;  // pixels; longer lines are wrapped
-constexpr Size button{75, 23};
+constexpr int veryWidest = 560;  // of larger letters
+constexpr Size buttonSize{75, 23};
 constexpr int titleExtra = 60;  // what a title bar needs beside its text
 
 // A shape of an icon, in units of its 32 pixels.
@@ -89,6 +90,12 @@ Bitmap draw(MessageBox::Icon icon) {
     return picture;
 }
 
+FontSpec boxFont(int percent) {
+    FontSpec font;
+    font.points = font.points * static_cast<float>(percent) / 100;
+    return font;
+}
+
 // Where everything stands in a box.
 struct Layout {
     Size client;
@@ -97,9 +104,10 @@ struct Layout {
     Rect button;
 };
 
-Layout layOut(Fonts& fonts, const MessageBox& box) {
-    const Font& font = fonts.get({});
-    const auto lines = wrapText(font, box.text, widestText);
+Layout layOut(Fonts& fonts, const MessageBox& box, int percent) {
+    const Font& font = fonts.get(boxFont(percent));
+    const Size button{buttonSize.w * percent / 100, buttonSize.h * percent / 100};
+    const auto lines = wrapText(font, box.text, std::min(widestText * percent / 100, veryWidest));
     const bool hasIcon = box.icon != MessageBox::Icon::none;
     Layout out;
     out.text = {hasIcon ? 2 * margin + iconSide : margin, margin, widestLine(font, box.text, lines),
@@ -107,7 +115,8 @@ Layout layOut(Fonts& fonts, const MessageBox& box) {
     out.icon = {margin, margin, hasIcon ? iconSide : 0, hasIcon ? iconSide : 0};
     if (hasIcon) out.text.y += std::max(0, (iconSide - out.text.h) / 2);
     const int bottom = std::max(out.text.bottom(), out.icon.bottom());
-    out.client.w = std::max({out.text.right() + margin, font.width(box.title) + titleExtra, button.w + 2 * margin});
+    const int title = fonts.get({}).width(box.title) + titleExtra;
+    out.client.w = std::max({out.text.right() + margin, title, button.w + 2 * margin});
     out.client.h = bottom + margin + button.h + margin;
     out.button = {(out.client.w - button.w) / 2, bottom + margin, button.w, button.h};
     return out;
@@ -121,6 +130,8 @@ public:
           text_(&root(), layout.text, box.text),
           ok_(&root(), layout.button, "OK"),
           failure_(box.icon == MessageBox::Icon::critical) {
+        text_.setFont(boxFont(platform.boxPercent));
+        ok_.setFont(boxFont(platform.boxPercent));
         if (box.icon == MessageBox::Icon::none)
             icon_.setVisible(false);
         else
@@ -146,7 +157,7 @@ private:
 }  // namespace
 
 void showMessageBox(Platform& platform, const MessageBox& box) {
-    MsgBox window(platform, box, layOut(platform.fonts, box));
+    MsgBox window(platform, box, layOut(platform.fonts, box, platform.boxPercent));
     platform.backend.messageBoxOpened(box);
     window.showModal();
 }

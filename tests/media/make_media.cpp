@@ -100,8 +100,12 @@ const AVPixelFormat* pixelFormatsOf(const AVCodec& codec) {
     return static_cast<const AVPixelFormat*>(listOf(codec, AV_CODEC_CONFIG_PIX_FORMAT));
 }
 #else
-const AVSampleFormat* sampleFormatsOf(const AVCodec& codec) { return codec.sample_fmts; }
-const AVPixelFormat* pixelFormatsOf(const AVCodec& codec) { return codec.pix_fmts; }
+const AVSampleFormat* sampleFormatsOf(const AVCodec& codec) {
+    return codec.sample_fmts;
+}
+const AVPixelFormat* pixelFormatsOf(const AVCodec& codec) {
+    return codec.pix_fmts;
+}
 #endif
 
 AVSampleFormat usableFormat(const AVCodec& codec) {
