@@ -24,7 +24,7 @@ set(CPACK_DEBIAN_GAME_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_GAME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_GAME_PACKAGE_DEPENDS "fonts-liberation, fonts-terminus-otb")
 set(CPACK_DEBIAN_GAME_PACKAGE_RECOMMENDS "timgm6mb-soundfont | fluid-soundfont-gm, xdg-utils, zentrox-demo")
-set(CPACK_DEBIAN_GAME_PACKAGE_SUGGESTS "zentrox-tools")
+set(CPACK_DEBIAN_GAME_PACKAGE_SUGGESTS "speech-dispatcher, zentrox-tools")
 
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "author's tools for the adventure game Zentrox
 A compiler for stories in readable sources, a checker, a program that plays a

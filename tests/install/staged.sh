@@ -18,6 +18,7 @@ for file in bin/zentrox bin/zentrox-{probe,story,notes,voices} share/man/man6/ze
     share/icons/hicolor/scalable/apps/zentrox.svg share/icons/hicolor/scalable/mimetypes/application-x-zentrox-story.svg \
     share/bash-completion/completions/zentrox{,-story} share/zsh/vendor-completions/_zentrox{,-story} \
     share/fish/vendor_completions.d/zentrox{,-story}.fish $story/titel.txt $story/rooms/Start.lsd $story/cd/Zentrox \
+    $story/sounds/{sprecher,untertitel}.tsv \
     share/doc/zentrox/copyright share/vim/vimfiles/{ftdetect,ftplugin,syntax,compiler}/zentrox.vim \
     share/vim/vimfiles/{lua,lsp}/zentrox.lua share/org.kde.syntax-highlighting/syntax/zentrox-geschichte.xml \
     share/zentrox/editors/kate/lspclient.json share/zentrox/editors/vscode/package.json \
