@@ -10,12 +10,16 @@ mkdir -p "$out"
 cd "$out" || exit 1
 picture=$data/graphics/saal.bmp
 
-# Where the picture of the room should stand: its scale and its left upper corner, by the way of enlarging.
+# Where the picture of the room should stand: its scale and its left upper corner, by the way of enlarging. The window
+# has whole pixels of the game, in the middle of the screen, and the room stands in its middle.
 expected() {
     awk -v w="$screen_width" -v h="$screen_height" -v how="$1" 'BEGIN {
         s = w / 640 < h / 483 ? w / 640 : h / 483
         if (how == "ganz" && s >= 1) s = int(s + 1e-6)
-        printf "%.6f %d %d\n", s, (w - 640 * s) / 2, (h - 480 * s) / 2 }'
+        printf "%.6f %d %d\n", s, at(w, 640, s), at(h, 480, s) }
+        function at(side, room, s,  client) {
+            client = int(side / s + 1e-6)
+            return int((side - int(client * s + 1e-6)) / 2) + int(int((client - room) / 2) * s + 1e-6) }'
 }
 # The picture taken back to its own size; the edge of the screen's last pixel may belong to what is beside it.
 taken_back() {

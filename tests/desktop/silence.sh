@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# A machine without sound: the box and the end as ever, then the offer to begin again without, which is remembered; and
-# the pictures that a player takes.
+# A machine without sound: the box and the end as ever, then the offer to begin again without, which is remembered; the
+# pictures that a player takes; and a machine without fonts.
 set -uo pipefail
 zentrox=$1 data=$2 out=$3
 . "$(dirname "$0")/display.bash"
@@ -58,4 +58,20 @@ rm "$settings"
 play "$zentrox" --no-sound --dir "$data" Spiele.lsd
 sleep 1
 titled Error && fail "--no-sound has no effect"
+kill "$game"
+wait "$game"
+
+# Without any font the window system says so.
+echo '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig></fontconfig>' >none.conf
+FONTCONFIG_FILE=$PWD/none.conf "$zentrox" --dir "$data" Spiele.lsd >game.log 2>&1 &
+game=$!
+boxed() { box=$(wmctrl -l | awk '/Zentrox$/ { print $1 }'); [ -n "$box" ]; }
+eventually boxed || fail "nothing tells of the missing fonts: $(cat game.log)"
+sleep 0.4
+import -window "$box" fonts.png
+[ "$(identify -format %k fonts.png)" -gt 2 ] || fail "the box is empty"
+xdotool windowactivate "$box" key Return
+eventually gone || fail "the box of the missing fonts does not close"
+wait "$game"
+[ $? = 1 ] || fail "without fonts the status is another"
 exit 0
