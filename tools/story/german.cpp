@@ -62,6 +62,7 @@ std::string inGerman(const std::error_code& error) {
         std::pair{std::errc::file_exists, "das gibt es schon"},
         std::pair{std::errc::no_space_on_device, "kein Platz mehr"},
         std::pair{std::errc::filename_too_long, "der Name ist zu lang"},
+        std::pair{std::errc::io_error, "der Datenträger meldet einen Fehler"},
     };
     for (const auto& [code, reason] : reasons)
         if (error == code) return reason;
