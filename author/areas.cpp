@@ -13,6 +13,9 @@ namespace zentrox::author {
 
 namespace {
 
+constexpr TextView areaFor = "Fläche für \""_t;
+constexpr TextView howToDraw =
+    "Ziehen: Rechteck. Klicken: Vieleck, Eingabe schließt es. Umschalt: dazu. Rechts, Tab: anderes Objekt. Esc: Ende."_t;
 constexpr Size roomSize{Maskenspalten * Maskenzelle, Maskenzeilen* Maskenzelle};
 constexpr int dragFrom = 4;  // pixels that the pointer has to move for a rectangle
 constexpr int nearTo = 8;    // a click so near to the first corner closes the outline
@@ -264,10 +267,7 @@ void Areas::drawHelp(Bitmap& picture, const Rect& area) const {
     const auto index = static_cast<std::size_t>(chosen_);
     const Text name = index < objects.size() ? objects[index].Name : Text();
     const Text place = std::to_string(pointer_.x) + " " + std::to_string(pointer_.y);
-    const std::array rows{
-        Text("Fläche für \""_t) + name + "\"   " + place,
-        Text(
-            "Ziehen: Rechteck. Klicken: Vieleck, Eingabe schließt es. Umschalt: dazu. Rechts, Tab: anderes Objekt. Esc: Ende."_t)};
+    const std::array rows{Text(areaFor) + name + "\"   " + place, Text(howToDraw)};
     const int height = 2 * font.lineHeight() + 6;
     picture.fill({area.x, area.y, area.w, height}, labelGround);
     Point at{area.x + 6, area.y + 3};

@@ -17,6 +17,7 @@ namespace zentrox {
 
 namespace {
 
+constexpr TextView notKept = "Die Einstellungen können nicht gespeichert werden: "_t;
 constexpr Milliseconds noticeLasts = 3000;
 const Text pausedNotice = "Pause";
 constexpr int noticeMargin = 6;  // pixels
@@ -93,7 +94,7 @@ void Comforts::store() {
     } catch (const std::system_error& error) {
         const Text why = SchreibfehlerText(error.code().value());
         if (std::exchange(complaint_, why) == why) return;
-        const Text text = Text("Die Einstellungen können nicht gespeichert werden: "_t) + why;
+        const Text text = Text(notKept) + why;
         std::cerr << "zentrox: " << file_.string() << ": " << toUtf8(text) << '\n';
         notice(text);
     }

@@ -8,8 +8,15 @@
 
 namespace zentrox {
 
+namespace {
+
+constexpr TextView isMissing =
+    "Diese Geschichte hat nicht mehr alles, was in dem Spielstand in der Tasche liegt. Es fehlt:"_t;
+
+}  // namespace
+
 bool loadWithout(Platform& platform, const std::vector<Text>& items) {
-    Text text("Diese Geschichte hat nicht mehr alles, was in dem Spielstand in der Tasche liegt. Es fehlt:"_t);
+    Text text(isMissing);
     for (const Text& item : items) text += "\r\n    " + item;
     return ask(platform, text, "Trotzdem laden", "Abbrechen");
 }

@@ -10,10 +10,11 @@ namespace {
 constexpr Size area{460, 290};
 constexpr int margin = 14;
 constexpr Size button{120, 25};
+constexpr TextView saidLast = "Zuletzt gesagt:"_t;
 
 Text said(const Sidecar& sidecar) {
     if (sidecar.lines.empty()) return {};
-    Text words("Zuletzt gesagt:"_t);
+    Text words(saidLast);
     for (const Text& line : sidecar.lines) words += "\r\n   " + line;
     return words;
 }
