@@ -11,6 +11,9 @@ namespace zentrox::author {
 
 namespace {
 
+constexpr TextView evil = "Böse: "_t;
+constexpr TextView noScript = "Kein Skript läuft."_t;
+constexpr TextView areas = "Flächen"_t;
 constexpr int margin = 8;  // pixels
 constexpr int gap = 6;     // between groups
 constexpr int mostFindings = 3;
@@ -51,7 +54,7 @@ int Panel::header(int y) {
 
 // Gives the x of its left edge.
 int Panel::evilCounter(int y) {
-    const Text label = Text("Böse: "_t) + std::to_string(z_.BösePunkte);
+    const Text label = Text(evil) + std::to_string(z_.BösePunkte);
     const int labelWidth = sheet_.width(label) + gap;
     const int left = margin + width() - sheet_.buttonWidth("-") - 4 - sheet_.buttonWidth("+") - labelWidth;
     sheet_.text({left, y + 4}, labelWidth, label, z_.BösePunkte > 0 ? ink::warm : ink::plain);
@@ -62,7 +65,7 @@ int Panel::evilCounter(int y) {
 
 int Panel::script(int y) {
     const bool runs = !trace_.running().empty() && !trace_.entries().empty();
-    const Text name = runs ? "Skript: " + trace_.running() : Text("Kein Skript läuft."_t);
+    const Text name = runs ? "Skript: " + trace_.running() : Text(noScript);
     sheet_.text({margin, y}, width(), name, runs ? ink::warm : ink::faint);
     const int second = y + sheet_.lineHeight();
     if (runs) {
@@ -77,7 +80,7 @@ int Panel::script(int y) {
 int Panel::buttons(int y) {
     const int x = sheet_.button({margin, y}, held_ ? "Schritt (F4)" : "Halten (F4)", stepping_, [this] { step(); });
     if (stepping_) sheet_.button({x, y}, "Weiter", false, [this] { goOn(); });
-    const Text show("Flächen"_t);
+    const Text show(areas);
     const Text draw = "Zeichnen";
     const int right = margin + width() - sheet_.buttonWidth(show) - 4 - sheet_.buttonWidth(draw);
     const int next = sheet_.button({right, y}, show, areas_.shown(), [this] { areas_.showOrHide(); });

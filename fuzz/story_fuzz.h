@@ -36,7 +36,7 @@ inline std::string bytesOf(const Story& story) {
 inline void lookOver(const Story& story, Findings& findings) {
     static const DataFiles nothing("nowhere");
     static zentrox::test::FakeFonts fonts;
-    check(story, {nullptr, &nothing, &fonts, true}, findings);
+    check(story, {.data = &nothing, .fonts = &fonts, .wholeGame = true}, findings);
     findings.settle(story);
     if (asLines(story, findings).empty() != findings.empty()) std::abort();
     asJson(story, findings);
