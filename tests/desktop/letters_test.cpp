@@ -24,7 +24,7 @@ public:
         const Point to{number(160) - 20, number(120) - 20};
         const Op op = std::array{Op::plain, Op::plain, Op::bitAnd, Op::bitOr}[static_cast<std::size_t>(number(4))];
         const Colour colour(static_cast<std::uint32_t>(number(0xFFFFFF)));
-        const FontSpec spec{.family = number(4) == 0 ? "Fixedsys" : "MS Sans Serif",
+        const FontSpec wish{.family = number(4) == 0 ? "Fixedsys" : "MS Sans Serif",
                             .points = static_cast<float>(7 + number(30)),
                             .bold = number(2) == 0};
         const int what = number(12);
@@ -43,7 +43,7 @@ public:
                 case 7: std::swap(own, other); break;
                 case 8: own.setPixel(to, colour); break;
                 case 9: other = own; break;
-                default: fonts_[i]->get(spec).draw(own, to, "Zwölf Boxkämpfer"_t, colour); break;
+                default: fonts_[i]->get(wish).draw(own, to, "Zwölf Boxkämpfer"_t, colour); break;
             }
         }
     }
