@@ -9,8 +9,6 @@
 #include "tools/completion/completion.h"
 #include "tools/editors/grammars.h"
 #include "tools/lsp/server.h"
-#include "tools/page/page.h"
-#include "tools/prove/command.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
 #include "tools/story/coverage.h"
@@ -20,34 +18,17 @@
 #include "tools/story/german.h"
 #include "tools/story/inputs.h"
 #include "tools/story/lines.h"
+#include "tools/story/options.h"
 #include "tools/story/pack.h"
 #include "tools/story/parser.h"
 #include "tools/story/reference.h"
 #include "tools/story/source.h"
-#include "tools/web/pack.h"
 
 namespace zentrox::story {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-struct Options {
-    std::vector<std::string> words;
-    std::string into;
-    std::string data;
-    std::string with;
-    bool json = false;
-    std::vector<std::string> ran;
-    double least = 0;
-    prove::Call prove;
-    web::Order web;
-    bool program = false;
-    std::string player;
-    page::Order page;
-    bool onlyTell = false;
-    bool games = false;
-};
 
 struct Streams {
     std::ostream& out;
@@ -312,138 +293,43 @@ struct Chosen {
     Command command = nullptr;
 };
 
-CLI::Validator aboveZero() {
-    return CLI::Validator(CLI::PositiveNumber).description("über 0");
-}
+// In the order in which the help names them.
+struct Entry {
+    const char* name;
+    const char* purpose;
+    Command command;
+    void (*describe)(CLI::App&, Options&);
+};
 
-void describeProve(CLI::App& sub, Options& options) {
-    prove::Call& call = options.prove;
-    sub.add_option("QUELLE-oder-DIR", options.words,
-                   "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
-        ->required();
-    sub.add_option("--walks", call.walks,
-                   "schreibt die kürzesten Gänge zu Enden und Sackgassen in dieses Verzeichnis");
-    sub.add_flag("--statistik", call.statistics, "Zustände, Schritte, Wege, und die Räume als Bild für Graphviz");
-    sub.add_option("--graph", call.graph, "schreibt dieses Bild in eine Datei");
-    sub.add_option("--seconds", call.seconds, "sucht nicht länger als so viele Sekunden")
-        ->check(aboveZero())
-        ->type_name("ZAHL");
-    sub.add_option("--memory", call.megabytes, "nimmt nicht mehr als so viele Megabyte, sonst 2000")
-        ->check(aboveZero())
-        ->type_name("ZAHL");
-    sub.add_option("--limit", call.states, "sieht nicht mehr als so viele Zustände an")
-        ->check(aboveZero())
-        ->type_name("ZAHL");
-    sub.add_flag("--full", call.full, "lässt nichts aus, auch was auf die Antworten keinen Einfluss hat");
-    sub.add_flag("--json", options.json, "ein Objekt für Maschinen");
-}
-
-void describeWeb(CLI::App& app, Options& options) {
-    web::Order& order = options.web;
-    app.add_option("DIR", order.story, "das Datenverzeichnis, mit rooms, graphics, sounds und so weiter")
-        ->required();
-    app.add_option("--into", order.into, "das Verzeichnis der Seite; was neu ist, wird darin auf Stand gebracht")
-        ->required();
-    app.add_option("--root", order.discs, "ein Verzeichnis, das als CD gilt; auch mehrmals")
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    app.add_option("--title", order.title, "wie die Geschichte auf der Seite heißt");
-    app.add_option("--engine", order.engine, "wo der Kern für den Browser liegt");
-}
-
-void describePage(CLI::App& app, Options& options) {
-    page::Order& order = options.page;
-    app.add_option("QUELLE-oder-DIR", order.words, "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
-        ->required();
-    app.add_option("--into", order.into, "die Datei, die geschrieben wird, etwa geschichte.html")->required();
-    app.add_option("--data", order.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
-    app.add_option("--ran", order.ran, "was zentrox-probe --ran geschrieben hat; die Zeilen werden danach gefärbt");
-    app.add_option("--proof", order.proof, "was zentrox-story prove --json geschrieben hat");
-    app.add_option("--title", order.title, "wie die Geschichte auf der Seite heißt");
-}
+constexpr Entry entries[] = {
+    {"lines", "schreibt jeden Text einmal, als Tabelle: zum Sprechen, Prüfen, Übertragen", lines, describeLines},
+    {"build", "übersetzt Quellen in rooms/*.lsd und items/*.skp", build, describeBuild},
+    {"check", "sagt, was an Quellen oder übersetzten Daten nicht stimmt", check, describeCheck},
+    {"source", "macht aus übersetzten Räumen und Skripten Quellen", source, describeSource},
+    {"prove", "spielt alle Spiele durch: Enden, Sackgassen, was nie geschieht", prove, describeProve},
+    {"web", "macht aus einer Geschichte eine Seite, die jeder Browser spielt", browserPage, describeWeb},
+    {"page", "macht aus einer Geschichte eine Seite zum Ansehen: Karte, Räume, Texte", storyPage, describePage},
+    {"format", "setzt Quellen, wie sie alle gesetzt sind: Einrückung, Abstände, Schreibung", format,
+     describeFormat},
+    {"lsp", "bedient einen Editor: Befunde, Ergänzung, Hilfe, Sprünge, Umbenennen", server, describeServer},
+    {"grammar", "druckt die Sprache, wie ein Editor sie einfärbt", grammar, describeGrammar},
+    {"coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage, describeCoverage},
+    {"new", "legt eine kleine Geschichte an, zum Anfangen", fresh, describeFresh},
+    {"pack", "macht aus einer Geschichte eine Datei, die das Spiel so spielt, wie sie ist", packed, describePack},
+    {"opcodes", "druckt die Seite mit allen Befehlen", reference, nullptr},
+};
 
 void describe(CLI::App& app, Chosen& chosen) {
-    Options& options = chosen.options;
     speakGerman(app);
     app.set_version_flag("--version", "zentrox-story " ZENTROX_VERSION, "zeigt die Version und endet");
     app.require_subcommand(1);
-    const auto add = [&](const char* name, const char* text, Command command) {
-        CLI::App* const sub = app.add_subcommand(name, text);
+    for (const Entry& entry : entries) {
+        CLI::App* const sub = app.add_subcommand(entry.name, entry.purpose);
         sub->group("Befehle");
         speakGerman(*sub);
-        sub->callback([&chosen, command] { chosen.command = command; });
-        return sub;
-    };
-    CLI::App* sub =
-        add("lines", "schreibt jeden Text einmal, als Tabelle: zum Sprechen, Prüfen, Übertragen", lines);
-    sub->add_option("QUELLE-oder-DIR", options.words,
-                    "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
-        ->required();
-    sub->add_flag("--json", options.json, "eine Liste für Maschinen");
-
-    sub = add("build", "übersetzt Quellen in rooms/*.lsd und items/*.skp", build);
-    sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
-    sub->add_option("--into", options.into, "das Datenverzeichnis, in das geschrieben wird")->required();
-    sub->add_option("--with", options.with, "eine Tabelle von lines, deren Texte an die Stelle der eigenen treten");
-
-    sub = add("check", "sagt, was an Quellen oder übersetzten Daten nicht stimmt", check);
-    sub->add_option("QUELLE-oder-DIR", options.words,
-                    "Quellen, ein Verzeichnis mit ihnen, oder ein Datenverzeichnis")
-        ->required();
-    sub->add_option("--data", options.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
-    sub->add_flag("--json", options.json, "Befunde für Maschinen");
-    sub->add_flag("--games", options.games, "sagt auch, ohne welche Spiele die Geschichte nicht zu Ende geht");
-
-    sub = add("source", "macht aus übersetzten Räumen und Skripten Quellen", source);
-    sub->add_option("DIR-oder-DATEI", options.words, "Datenverzeichnisse, Räume, Skripte")->required();
-    sub->add_option("--into", options.into,
-                    "schreibt in dieses Verzeichnis: je Raum eine Quelle, für die Gegenstände eine");
-
-    describeProve(*add("prove", "spielt alle Spiele durch: Enden, Sackgassen, was nie geschieht", prove), options);
-
-    describeWeb(*add("web", "macht aus einer Geschichte eine Seite, die jeder Browser spielt", browserPage),
-                options);
-
-    describePage(*add("page", "macht aus einer Geschichte eine Seite zum Ansehen: Karte, Räume, Texte", storyPage),
-                 options);
-
-    sub = add("format", "setzt Quellen, wie sie alle gesetzt sind: Einrückung, Abstände, Schreibung", format);
-    sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
-    sub->add_flag("--check", options.onlyTell, "schreibt nichts, sagt nur, welche Quellen anders dastehen");
-
-    sub = add("lsp", "bedient einen Editor: Befunde, Ergänzung, Hilfe, Sprünge, Umbenennen", server);
-    sub->add_option("--data", options.data, "wo Bilder, Töne und so weiter liegen, wenn nicht neben den Quellen");
-
-    sub = add("grammar", "druckt die Sprache, wie ein Editor sie einfärbt", grammar);
-    sub->add_option("EDITOR", options.words, "vim, vscode oder kate")
-        ->required()
-        ->expected(1)
-        ->check(CLI::Validator(CLI::IsMember({"vim", "vscode", "kate"})).description("vim, vscode oder kate"));
-
-    sub = add("coverage", "sagt, welche Zeilen einer Geschichte kein Gang gelaufen ist", coverage);
-    sub->add_option("QUELLE", options.words, "Quellen, oder Verzeichnisse mit *.story")->required();
-    sub->add_option("--ran", options.ran, "was zentrox-probe --ran geschrieben hat, von jedem Gang eine Datei")
-        ->required();
-    sub->add_option("--least", options.least, "so viel Prozent der Zeilen müssen laufen")
-        ->check(CLI::Validator(CLI::Range(0, 100)).description("von 0 bis 100"))
-        ->type_name("ZAHL");
-
-    sub = add("new", "legt eine kleine Geschichte an, zum Anfangen", fresh);
-    sub->add_option("DIR", options.words, "ein Verzeichnis, das leer ist oder noch nicht da")
-        ->required()
-        ->expected(1);
-
-    sub = add("pack", "macht aus einer Geschichte eine Datei, die das Spiel so spielt, wie sie ist", packed);
-    sub->add_option("DIR", options.words, "das Datenverzeichnis, mit einer titel.txt, in der eine Kennung steht")
-        ->required()
-        ->expected(1);
-    sub->add_option("--into", options.into, "die Datei, die geschrieben wird; mit --program das Verzeichnis");
-    sub->add_flag("--program", options.program,
-                  "ein Verzeichnis und ein Archiv mit dem Spiel darin, für Leute, die es nicht haben");
-    sub->add_option("--player", options.player, "das Archiv des Spiels, das überall läuft, ausgepackt")
-        ->type_name("DIR");
-
-    add("opcodes", "druckt die Seite mit allen Befehlen", reference);
+        sub->callback([&chosen, &entry] { chosen.command = entry.command; });
+        if (entry.describe != nullptr) entry.describe(*sub, chosen.options);
+    }
 }
 
 }  // namespace
