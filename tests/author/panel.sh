@@ -3,19 +3,14 @@
 # wherever its window and that of the game are put. Who plays without the workbench finds nothing of it.
 set -uo pipefail
 zentrox=$1 story=$2 probe=$3 out=$4
-. "$(dirname "$0")/../desktop/display.bash"
-rm -rf "$out"
-mkdir -p "$out"
-cd "$out" || exit 1
-"$story" new s >/dev/null || fail "no story"
-"$story" build s/story --into s >/dev/null || fail "no data"
+. "$(dirname "$0")/fresh.bash"
 printf '#!/bin/sh\necho "$@" >%s/opened\n' "$PWD" >kate
 chmod +x kate
 export VISUAL=$PWD/kate
 
 display 1100x700 openbox
 play "$zentrox" --author s/story --record gespielt.walk --flags "BEGRÜSST" Start.lsd
-sleep 1.5
+room_stands
 panel_there() { panel=$(xdotool search --onlyvisible --name Werkbank 2>/dev/null | tail -1); [ -n "$panel" ]; }
 panel_gone() { ! xdotool search --onlyvisible --name Werkbank >/dev/null 2>&1; }
 key ctrl+F9
@@ -123,7 +118,7 @@ wait $game 2>/dev/null
 
 # A player: no panel, no areas, no new data where a source is saved. What is played can be written down all the same.
 play "$zentrox" --dir s --record spieler.walk --flags "BEGRÜSST" Start.lsd
-sleep 1.5
+room_stands
 room=$(middle)
 for one in ctrl+F9 ctrl+F5 ctrl+F6 F4 ctrl+F4; do key $one; done
 sed -i 's/Bild ".*"/Bild "nichts.bmp"/' s/story/start.story

@@ -3,20 +3,14 @@
 # and changes nothing; an area that is drawn stands in the source; what is played becomes a walk.
 set -uo pipefail
 zentrox=$1 story=$2 probe=$3 out=$4
-. "$(dirname "$0")/../desktop/display.bash"
-rm -rf "$out"
-mkdir -p "$out"
-cd "$out" || exit 1
-"$story" new s >/dev/null || fail "no story"
-"$story" build s/story --into s >/dev/null || fail "no data"
+. "$(dirname "$0")/fresh.bash"
 source=s/story/start.story
 convert s/graphics/stube.bmp -negate "BMP3:s/graphics/anders.bmp"
 
 display 1024x768 openbox
 play "$zentrox" --author s/story --record gespielt.walk --flags "BEGRÜSST" Start.lsd
-sleep 1.5
+room_stands
 room=$(middle)
-blank && fail "no room"
 
 # with PICTURE: the source with another picture of the room, on the standard output.
 with() { sed "s/Bild \".*\"/Bild \"$1\"/" "$source"; }

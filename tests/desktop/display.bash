@@ -79,4 +79,7 @@ blank() {
     [ "$(import -window root -crop "240x300+$((screen_width / 2 - 120))+$((screen_height / 2 - 150))" +repage \
         -format %k info:- 2>/dev/null)" -le 2 ]
 }
+# The first room, drawn whole and a moment old.
+stands() { ! blank; }
+room_stands() { eventually stands || fail "no room"; sleep 0.5; }
 size_of_window() { xdotool getwindowgeometry "$window" | sed -n 's/.*Geometry: //p'; }
