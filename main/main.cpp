@@ -19,6 +19,7 @@
 #include "main/report.h"
 #include "main/spiel.h"
 #include "main/story.h"
+#include "platform/codec/apart/handlers.h"
 #include "platform/codec/fontfiles.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/roots.h"
@@ -190,6 +191,7 @@ int play(Options options) {
 int main(int argc, char** argv) {
     const Call call = readOptions(argc, argv, programDirectory());
     if (!call.options) return call.status;
+    const apart::Apart decoders(apart::handlers(), apart::ofPlayers);
     try {
         return play(*call.options);
     } catch (const NoFonts& error) {

@@ -9,6 +9,8 @@
 #include <string>
 #include <system_error>
 
+#include "platform/machine/descriptor.h"
+
 namespace zentrox {
 
 namespace fs = std::filesystem;
@@ -28,26 +30,10 @@ auto persistently(Call call) {
     }
 }
 
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return number_; }
-    // An interrupted close has closed.
-    void close() {
-        const int number = number_;
-        number_ = -1;
-        if (::close(number) != 0 && errno != EINTR) fail();
-    }
-
-private:
-    int number_;
-};
+// An interrupted close has closed.
+void closeChecked(Descriptor& descriptor) {
+    if (::close(descriptor.release()) != 0 && errno != EINTR) fail();
+}
 
 // A file beside its target, gone with the scope unless it has taken the target's place.
 class Draft {
@@ -111,7 +97,7 @@ void writeInto(const fs::path& target, std::string_view bytes) {
     Descriptor out(persistently([&] { return open(target.c_str(), O_WRONLY | O_CLOEXEC); }));
     if (out.number() < 0) fail();
     writeAll(out.number(), bytes);
-    out.close();
+    closeChecked(out);
 }
 
 void replacePlain(const fs::path& target, std::string_view bytes, const struct stat* old) {
@@ -122,7 +108,7 @@ void replacePlain(const fs::path& target, std::string_view bytes, const struct s
     if (old != nullptr) static_cast<void>(fchmod(out.number(), old->st_mode & 0777U));
     writeAll(out.number(), bytes);
     bringToDisk(out.number());
-    out.close();
+    closeChecked(out);
     draft.place(target);
     bringNameToDisk(directoryOf(target));
 }
@@ -144,7 +130,7 @@ void placeFile(const fs::path& draft, const fs::path& target) {
     Descriptor file(persistently([&] { return open(draft.c_str(), O_RDONLY | O_CLOEXEC); }));
     if (file.number() < 0) fail();
     bringToDisk(file.number());
-    file.close();
+    closeChecked(file);
     written.place(target);
     bringNameToDisk(directoryOf(target));
 }

@@ -54,6 +54,10 @@ constexpr std::int64_t filmSearch =
     250;  // ms of the processor for the next piece of a file, or all pictures of a moment
 constexpr std::uint64_t filmPiece = 128'000'000;  // bytes that a decoder may ask for at once
 
+// --- processes that decode
+constexpr std::uint64_t workerBytes = 400'000'000;
+constexpr std::uint64_t workerSeconds = 3600;  // of the processor, for a file
+
 // --- packed stories
 constexpr std::uint64_t packedFiles = 20'000;
 constexpr std::uint64_t packedFileBytes = 512U << 20U;  // unpacked

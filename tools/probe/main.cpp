@@ -19,6 +19,7 @@
 #include "main/beginning.h"
 #include "main/report.h"
 #include "main/spiel.h"
+#include "platform/codec/apart/handlers.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/replace_file.h"
 #include "platform/machine/system.h"
@@ -287,6 +288,7 @@ int main(int argc, char** argv) {
         std::cerr << options.directory << ": expected a directory, found none\n";
         return unreadable;
     }
+    const zentrox::apart::Apart decoders(zentrox::apart::handlers(), zentrox::apart::ofProbes);
     try {
         return play(options);
     } catch (const probe::WalkError& error) {

@@ -107,7 +107,7 @@ private:
 
 }  // namespace
 
-std::unique_ptr<AudioReader> openAudio(const std::filesystem::path& file) {
+std::unique_ptr<AudioReader> openAudio(const OpenFile& file) {
     auto input = Input::open(file, AVMEDIA_TYPE_AUDIO);
     if (!input) return nullptr;
     auto reader = std::make_unique<FileAudio>(std::move(input));

@@ -1,6 +1,9 @@
 #include "platform/codec/ffmpeg/input.h"
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <ctime>
 
@@ -42,9 +45,41 @@ void Input::found() {
     foundAt_ = reading_->pb->bytes_read;
 }
 
-bool Input::openFile(const std::filesystem::path& file) {
+// As FFmpeg reads files itself, but from one that has been opened: a worker can't open any.
+int Input::readBytes(std::uint8_t* to, int size) {
+    if (impatient()) return AVERROR_EXIT;
+    const ssize_t got = pread(file_.file->number(), to, static_cast<std::size_t>(size), at_);
+    if (got < 0) return AVERROR(errno);
+    if (got == 0) return AVERROR_EOF;
+    at_ += got;
+    return static_cast<int>(got);
+}
+
+std::int64_t Input::seek(std::int64_t to, int from) {
+    const bool whole = (from & AVSEEK_SIZE) != 0;
+    if (whole || (from & ~AVSEEK_FORCE) == SEEK_END) {
+        const off_t end = lseek(file_.file->number(), 0, SEEK_END);
+        if (end < 0) return AVERROR(errno);
+        if (whole) return end;
+        to += end;
+    } else if ((from & ~AVSEEK_FORCE) == SEEK_CUR) {
+        to += at_;
+    }
+    if (to < 0) return AVERROR(EINVAL);
+    return at_ = to;
+}
+
+bool Input::openFile() {
+    constexpr int piece = 32'768;  // what FFmpeg takes for a file of the disk
+    auto* const buffer = static_cast<std::uint8_t*>(av_malloc(piece));
+    bytes_.reset(avio_alloc_context(
+        buffer, piece, 0, this,
+        [](void* input, std::uint8_t* to, int size) { return static_cast<Input*>(input)->readBytes(to, size); },
+        nullptr,
+        [](void* input, std::int64_t to, int from) { return static_cast<Input*>(input)->seek(to, from); }));
     AVFormatContext* format = avformat_alloc_context();
-    if (format == nullptr) return false;
+    if (buffer == nullptr || !bytes_ || format == nullptr) return false;
+    format->pb = bytes_.get();
     reading_ = format;
     searchesSince_ = timeOfThread();
     format->interrupt_callback = {[](void* input) { return static_cast<Input*>(input)->impatient() ? 1 : 0; },
@@ -52,8 +87,8 @@ bool Input::openFile(const std::filesystem::path& file) {
     AVDictionary* options = nullptr;
     av_dict_set(&options, "format_whitelist", formats, 0);
     av_dict_set(&options, "protocol_whitelist", "file", 0);
-    // The prefix keeps a colon in the name from being taken for a protocol.
-    const int failed = avformat_open_input(&format, ("file:" + file.string()).c_str(), nullptr, &options);
+    // The ending of the name counts where the bytes leave a doubt.
+    const int failed = avformat_open_input(&format, ("file:" + file_.name).c_str(), nullptr, &options);
     av_dict_free(&options);
     if (failed != 0) return false;
     format_.reset(format);
@@ -62,9 +97,9 @@ bool Input::openFile(const std::filesystem::path& file) {
     return true;
 }
 
-std::unique_ptr<Input> Input::open(const std::filesystem::path& file, AVMediaType type) {
-    std::unique_ptr<Input> input(new Input);
-    if (!input->openFile(file)) return nullptr;
+std::unique_ptr<Input> Input::open(const OpenFile& file, AVMediaType type) {
+    std::unique_ptr<Input> input(new Input(file));
+    if (!input->openFile()) return nullptr;
     const AVCodec* codec = nullptr;
     input->stream_ = av_find_best_stream(input->format_.get(), type, -1, -1, &codec, 0);
     if (input->stream_ < 0 || codec == nullptr || !input->openCodec(*codec)) return nullptr;

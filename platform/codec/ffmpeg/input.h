@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 
 extern "C" {
@@ -10,10 +9,16 @@ extern "C" {
 #include <libavformat/avformat.h>
 }
 
+#include "platform/codec/filedecoder.h"
+
 namespace zentrox::ffmpeg {
 
 struct Closer {
     void operator()(AVFormatContext* format) const { avformat_close_input(&format); }
+    void operator()(AVIOContext* bytes) const {
+        av_freep(&bytes->buffer);
+        avio_context_free(&bytes);
+    }
     void operator()(AVCodecContext* codec) const { avcodec_free_context(&codec); }
     void operator()(AVFrame* frame) const { av_frame_free(&frame); }
     void operator()(AVPacket* packet) const { av_packet_free(&packet); }
@@ -28,7 +33,7 @@ std::int64_t timeOfThread();
 class Input {
 public:
     // Null if the file has no such stream or nothing that decodes it is there.
-    static std::unique_ptr<Input> open(const std::filesystem::path& file, AVMediaType type);
+    static std::unique_ptr<Input> open(const OpenFile& file, AVMediaType type);
 
     // The next frame; false at the end. What is broken within the file is left out.
     bool next(AVFrame& frame);
@@ -45,8 +50,11 @@ public:
     const AVStream& stream() const { return *format_->streams[stream_]; }
 
 private:
-    Input() = default;
-    bool openFile(const std::filesystem::path& file);
+    explicit Input(OpenFile file) : file_(std::move(file)) {}
+    // The file as its reader asks for it.
+    int readBytes(std::uint8_t* to, int size);
+    std::int64_t seek(std::int64_t to, int from);
+    bool openFile();
     bool openCodec(const AVCodec& codec);
     bool feed();
     // The next piece of the file, of whatever stream.
@@ -55,6 +63,9 @@ private:
     bool impatient() const;
     void found();
 
+    OpenFile file_;
+    std::int64_t at_ = 0;  // bytes
+    Owned<AVIOContext> bytes_;
     AVFormatContext* reading_ = nullptr;  // also while it is being opened
     std::int64_t foundAt_ = 0;            // bytes
     std::int64_t searchesSince_ = 0;      // milliseconds of this thread

@@ -1,14 +1,13 @@
 // What the decoder hands out.
 #pragma once
 
-#include <filesystem>
 #include <memory>
 
-#include "platform/machine/decoder.h"
+#include "platform/codec/filedecoder.h"
 
 namespace zentrox::ffmpeg {
 
-std::unique_ptr<AudioReader> openAudio(const std::filesystem::path& file);
-std::unique_ptr<VideoReader> openVideo(const std::filesystem::path& file);
+std::unique_ptr<AudioReader> openAudio(const OpenFile& file);
+std::unique_ptr<VideoReader> openVideo(const OpenFile& file);
 
 }  // namespace zentrox::ffmpeg

@@ -88,7 +88,7 @@ private:
 
 }  // namespace
 
-std::unique_ptr<VideoReader> openVideo(const std::filesystem::path& file) {
+std::unique_ptr<VideoReader> openVideo(const OpenFile& file) {
     auto input = Input::open(file, AVMEDIA_TYPE_VIDEO);
     if (!input) return nullptr;
     auto reader = std::make_unique<FileVideo>(std::move(input));

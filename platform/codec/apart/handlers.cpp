@@ -1,0 +1,42 @@
+#include "platform/codec/apart/handlers.h"
+
+#include "platform/codec/apart/media.h"
+
+namespace zentrox::apart {
+
+namespace {
+
+bool load() {
+    return loadedDecoder() != nullptr;
+}
+
+void sound(Channel& channel, const OpenFile& file) {
+    serveSound(channel, loadedDecoder()->openAudio(file).get());
+}
+
+void soundLength(Channel& channel, const OpenFile& file) {
+    channel.sendValue(loadedDecoder()->audioLength(file));
+}
+
+void film(Channel& channel, const OpenFile& file) {
+    serveFilm(channel, loadedDecoder()->openVideo(file).get());
+}
+
+void filmLength(Channel& channel, const OpenFile& file) {
+    channel.sendValue(loadedDecoder()->videoLength(file));
+}
+
+constexpr std::array<Handler, jobs> table{{
+    {load, sound},
+    {load, soundLength},
+    {load, film},
+    {load, filmLength},
+}};
+
+}  // namespace
+
+const Handler* handlers() {
+    return table.data();
+}
+
+}  // namespace zentrox::apart
