@@ -23,14 +23,6 @@ std::map<Text, Text> tableIn(const Files& files, const Text& path) {
     }
 }
 
-// Readable on any picture.
-void drawOutlined(Bitmap& picture, const Font& font, Point at, TextView text) {
-    for (int y = -2; y <= 2; ++y)
-        for (int x = -2; x <= 2; ++x)
-            if (x != 0 || y != 0) font.draw(picture, at + Point{x, y}, text, black);
-    font.draw(picture, at, text, white);
-}
-
 }  // namespace
 
 std::map<Text, Text> readTable(std::string_view utf8) {
@@ -89,7 +81,9 @@ void Captions::draw(Bitmap& picture, const Rect& base) const {
     const auto percent = static_cast<float>(comforts_.settings().letters) / 100;
     const Font& font = comforts_.platform().fonts.get({.points = 11 * percent, .bold = true});
     const Size size = font.measure(shown_);
-    drawOutlined(picture, font, {base.x + (base.w - size.w) / 2, base.y + fromTop}, shown_);
+    const Point at{base.x + (base.w - size.w) / 2, base.y + fromTop};
+    font.drawOutline(picture, at, shown_, white);
+    font.draw(picture, at, shown_, white);
 }
 
 }  // namespace zentrox

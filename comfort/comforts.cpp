@@ -11,6 +11,7 @@
 #include "platform/picture/font.h"
 #include "platform/values/limits.h"
 #include "platform/window/controls/look.h"
+#include "platform/window/controls/textlayout.h"
 #include "saves/saves.h"
 
 namespace zentrox {
@@ -68,9 +69,11 @@ void Comforts::apply() {
     for (const auto& told : told_) told(settings_);
 }
 
-// What stands in the windows is drawn anew, so that it is noted.
+// What stands in the windows is drawn anew, so that fine letters are noted.
 void Comforts::applyLetters() {
-    if (settings_.fineLetters == fineLetters_) return;
+    const bool another = settings_.fineLetters != fineLetters_ || settings_.outline != platform_.outlinedLetters;
+    if (!another) return;
+    platform_.outlinedLetters = settings_.outline;
     fineLetters_ = settings_.fineLetters;
     platform_.fonts.setNotes(fineLetters_);
     machine_.setFineLetters(fineLetters_);
@@ -164,15 +167,18 @@ Text Comforts::noticeNow() const {
 void Comforts::drawNotice(Bitmap& picture, const Rect& base) const {
     const Text text = noticeNow();
     if (text.empty()) return;
-    const Font& font = platform_.fonts.get({.points = 10});
-    const Size room = font.measure(text);
-    const Size size{room.w + 4 * noticeMargin, room.h + 2 * noticeMargin};
+    const Font& font = platform_.fonts.get({.points = 10 * static_cast<float>(settings_.letters) / 100});
+    // Out of the box each is as wide as it is.
+    const int widest = settings_.letters == 100 ? picture.width() : base.w - 6 * noticeMargin;
+    const auto lines = wrapText(font, text, widest);
+    const Size size{widestLine(font, text, lines) + 4 * noticeMargin,
+                    static_cast<int>(lines.size()) * font.lineHeight() + 2 * noticeMargin};
     const Rect box{{base.x + (base.w - size.w) / 2, base.y + 2 * noticeMargin}, size};
     picture.fill(box, black);
     picture.outline(box, look::highlight);
     Point at = box.at() + Point{2 * noticeMargin, noticeMargin};
-    for (const TextView line : linesOf(text)) {
-        font.draw(picture, at, line, look::highlight);
+    for (const TextLine& line : lines) {
+        font.draw(picture, at, TextView(text).substr(line.begin, line.end - line.begin), look::highlight);
         at.y += font.lineHeight();
     }
 }

@@ -222,7 +222,7 @@ void Hands::draw(Bitmap& picture, const Rect& top) {
 // In the middle of the place, held inside the picture.
 void Hands::drawName(Bitmap& picture, const Rect& area, TextView name, bool dim) const {
     if (name.empty()) return;
-    const Font& font = comforts_.platform().fonts.get({});
+    const Font& font = comforts_.platform().fonts.get(comforts_.platform().boxFont());
     const Size size{font.width(name) + 2 * nameInset, font.lineHeight() + 2};
     const Point at{std::clamp(area.x + (area.w - size.w) / 2, 0, std::max(0, picture.width() - size.w)),
                    std::clamp(area.y + (area.h - size.h) / 2, 0, std::max(0, picture.height() - size.h))};

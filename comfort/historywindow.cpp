@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "comfort/letters.h"
 #include "engine/state/farbe.h"
 #include "platform/values/keys.h"
 #include "platform/window/controls/textlayout.h"
@@ -12,10 +13,12 @@ namespace {
 
 constexpr Size whole{600, 430};  // pixels
 constexpr int margin = 10;
-constexpr Size button{120, 25};
-constexpr Rect listArea{margin, margin, whole.w - 2 * margin, whole.h - 3 * margin - button.h};
 constexpr int indent = 22;  // where the mark of a spoken text stands
 constexpr Colour pointedGround{40, 40, 70};
+
+Size buttonSize(const Platform& platform) {
+    return {grown(platform, 120, 150), grown(platform, 25, 36)};
+}
 
 }  // namespace
 
@@ -113,8 +116,13 @@ void SpokenList::paint(Bitmap& onto, Point at) {
 
 HistoryWindow::HistoryWindow(Platform& platform, const History& history, const FontSpec& font)
     : Window(platform, "Verlauf", "Was gesagt wurde", whole, Frame::dialog),
-      list_(&root(), listArea, history, font),
-      close_(&root(), {{whole.w - margin - button.w, whole.h - margin - button.h}, button}, "Schließen"_t) {
+      list_(&root(), {margin, margin, whole.w - 2 * margin, whole.h - 3 * margin - buttonSize(platform).h}, history,
+            font),
+      close_(&root(),
+             {Point{whole.w - margin, whole.h - margin} - Point{buttonSize(platform).w, buttonSize(platform).h},
+              buttonSize(platform)},
+             "Schließen"_t) {
+    close_.setFont(platform.boxFont());
     list_.onSay = [this](const Spoken& spoken) { say(spoken); };
     close_.setDefault(true);
     close_.onClick = [this] { close(); };

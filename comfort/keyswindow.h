@@ -3,6 +3,7 @@
 
 #include "comfort/comforts.h"
 #include "platform/window/controls/button.h"
+#include "platform/window/controls/scrollbar.h"
 #include "platform/window/window.h"
 
 namespace zentrox {
@@ -18,10 +19,34 @@ public:
 
     TextView kind() const override { return "text"; }
     Text shownText() const override;
+    bool scrolls() const { return bar_.needed(); }
+    bool takesFocus() const override { return scrolls(); }
+    void pointerDown(const PointerEvent& event) override;
+    void pointerMove(const PointerEvent& event) override;
+    void pointerUp(const PointerEvent& /*event*/) override { bar_.release(); }
+    void pointerLost() override { bar_.release(); }
+    void wheel(int lines) override { bar_.setPosition(bar_.position() - lines); }
+    bool keyDown(int code, bool shift, bool control) override;
     void paint(Bitmap& onto, Point at) override;
 
 private:
+    // A piece of text, in a row of the page and so many pixels from its left edge.
+    struct Cell {
+        int row = 0;
+        int x = 0;
+        TextView text;
+        bool bold = false;
+    };
+
+    const Font& font(bool bold) const;
+    int pitch() const;
+    int rowsThatFit() const;
+    void layOutTwo();
+    void layOutOne();
+
     std::vector<KeyLine> lines_;
+    std::vector<Cell> cells_;
+    ScrollBar bar_{*this};
 };
 
 class KeysWindow : public Window {
@@ -29,7 +54,12 @@ public:
     explicit KeysWindow(Comforts& comforts);
 
 private:
-    void onOpen() override { setFocus(&close_); }
+    void onOpen() override {
+        if (page_.scrolls())
+            setFocus(&page_);
+        else
+            setFocus(&close_);
+    }
     void onKeyDown(int code) override;
 
     KeyPage page_;

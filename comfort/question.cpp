@@ -15,12 +15,6 @@ constexpr int margin = 14;
 constexpr int gap = 8;
 constexpr Size usualButton{150, 25};
 
-FontSpec fontFor(const Platform& platform) {
-    FontSpec font;
-    font.points = font.points * static_cast<float>(platform.boxPercent) / 100;
-    return font;
-}
-
 // Where everything stands, in letters of the size that message boxes have.
 struct Layout {
     Size client;
@@ -31,7 +25,7 @@ struct Layout {
 };
 
 Layout layOut(Platform& platform, TextView text) {
-    const Font& font = platform.fonts.get(fontFor(platform));
+    const Font& font = platform.fonts.get(platform.boxFont());
     Layout out;
     const int width = std::min(usualWidth * platform.boxPercent / 100, mostWidth);
     const int lines = static_cast<int>(wrapText(font, text, width - 2 * margin).size());
@@ -52,9 +46,9 @@ Question::Question(Platform& platform, TextView text, TextView yes, TextView no)
       text_(&root(), layOut(platform, text).text, text),
       yesButton_(&root(), {layOut(platform, text).yes, layOut(platform, text).button}, yes),
       noButton_(&root(), {layOut(platform, text).no, layOut(platform, text).button}, no) {
-    text_.setFont(fontFor(platform));
-    yesButton_.setFont(fontFor(platform));
-    noButton_.setFont(fontFor(platform));
+    text_.setFont(platform.boxFont());
+    yesButton_.setFont(platform.boxFont());
+    noButton_.setFont(platform.boxFont());
     yesButton_.onClick = [this] { answer(true); };
     yesButton_.setDefault(true);
     noButton_.onClick = [this] { answer(false); };

@@ -1,5 +1,6 @@
 #include "comfort/savedialog.h"
 
+#include "comfort/letters.h"
 #include "comfort/question.h"
 #include "engine/state/felder.h"
 #include "platform/platform.h"
@@ -8,8 +9,17 @@ namespace zentrox {
 
 namespace {
 
-constexpr int more = 176;  // pixels at the right of the plain dialog
-constexpr int left = 402;
+// Pixels at the right of the plain dialog, and what of them is not the picture's or the words'.
+int moreWidth(const Platform& platform) {
+    return platform.boxPercent == 100 ? 176 : 236;
+}
+constexpr int besideWords = 16;
+
+Rect placeOfWords(const Platform& platform, Size client) {
+    const int top = 8 + thumbnailSize.h;
+    const int width = moreWidth(platform) - besideWords;
+    return {client.w - width - 10, top, width, client.h - top - 8};
+}
 
 }  // namespace
 
@@ -23,15 +33,16 @@ Text describe(const Sidecar& sidecar) {
 }
 
 SaveDialog::SaveDialog(Platform& platform, Zustand& zustand, bool saving)
-    : Dialog(platform, zustand, more),
+    : Dialog(platform, zustand, moreWidth(platform)),
       saving_(saving),
-      picture_(&root(), {{left, 4}, thumbnailSize}),
-      words_(&root(), {left, 8 + thumbnailSize.h, thumbnailSize.w, 133}) {}
+      picture_(&root(), {{placeOfWords(platform, client()).x, 4}, thumbnailSize}),
+      words_(&root(), placeOfWords(platform, client())) {}
 
 void SaveDialog::Ausgesucht(const Text& path) {
     const auto sidecar = readSidecar(platform().files, path);
     picture_.setPicture(sidecar ? sidecar->picture : Bitmap());
     words_.setText(sidecar ? describe(*sidecar) : Text());
+    words_.setFont(fittingFont(platform(), words_.text(), words_.area().size()));
 }
 
 bool SaveDialog::Annehmen(const Text& path) {

@@ -3,28 +3,52 @@
 #include <algorithm>
 #include <cmath>
 
+#include "comfort/letters.h"
 #include "platform/values/keys.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 
 namespace {
 
 constexpr int margin = 4;
-constexpr int box = 13;
-constexpr int switchText = margin + box + 6;
-constexpr int titleWidth = 150;
-constexpr int valueWidth = 190;
-constexpr int thumb = 10;
-constexpr int arrowWidth = 18;
+
+// What grows with the letters, in pixels.
+int box(const Platform& platform) {
+    return grown(platform, 13, 26);
+}
+int switchText(const Platform& platform) {
+    return margin + box(platform) + 6;
+}
+int titleWidth(const Platform& platform) {
+    return grown(platform, 150, 220);
+}
+int thumb(const Platform& platform) {
+    return grown(platform, 10, 16);
+}
+int arrowWidth(const Platform& platform) {
+    return grown(platform, 18, 26);
+}
 
 // A triangle in the middle of `area`, its point to one side.
 void sideArrow(Bitmap& onto, const Rect& area, bool left) {
-    constexpr int columns = 4;
+    const int columns = area.w / 4;
     const int middle = area.y + area.h / 2;
     const int begin = area.x + (area.w - columns) / 2;
     for (int i = 0; i < columns; ++i) {
         const int half = left ? i : columns - 1 - i;
         onto.fill({begin + i, middle - half, 1, 2 * half + 1}, look::text);
+    }
+}
+
+// In the box of a switch.
+void tick(Bitmap& onto, const Platform& platform, const Rect& box) {
+    const int length = grown(platform, 7, 14);
+    const int turn = grown(platform, 3, 6);
+    const Point at{box.x + grown(platform, 3, 6), box.y + grown(platform, 5, 10)};
+    for (int x = 0; x < length; ++x) {
+        const int drop = x < turn ? x : 2 * turn - 2 - x;
+        onto.fill({at.x + x, at.y + drop, 1, grown(platform, 3, 6)}, look::text);
     }
 }
 
@@ -48,8 +72,19 @@ Text SettingControl::shownText() const {
     return Text(row_.title) + ": " + valueText();
 }
 
+const Platform& SettingControl::platform() const {
+    return window()->platform();
+}
+
+const Font& SettingControl::font() const {
+    return look::fontFor(*this, platform().boxFont());
+}
+
+// A slider leaves room for its number.
 Rect SettingControl::valueArea() const {
-    return {titleWidth, 0, valueWidth, height()};
+    const int left = titleWidth(platform());
+    const int room = width() - left - (isChoice() ? 0 : 3 * margin + font().width("100 %"));
+    return {left, 0, std::min(grown(platform(), 190, 340), room), height()};
 }
 
 // --- changing it
@@ -78,8 +113,10 @@ void SettingControl::step(int by) {
 }
 
 void SettingControl::slideTo(float x) {
-    const auto length = static_cast<float>(valueWidth - thumb);
-    const float part = std::clamp((x - titleWidth - thumb / 2.0F) / length, 0.0F, 1.0F);
+    const auto grip = static_cast<float>(thumb(platform()));
+    const auto left = static_cast<float>(valueArea().x);
+    const auto length = static_cast<float>(valueArea().w) - grip;
+    const float part = std::clamp((x - left - grip / 2) / length, 0.0F, 1.0F);
     const auto steps = std::lround(part * static_cast<float>((row_.most - row_.least) / row_.step));
     setNumber(row_.least + static_cast<int>(steps) * row_.step);
 }
@@ -87,8 +124,10 @@ void SettingControl::slideTo(float x) {
 void SettingControl::pointerDown(const PointerEvent& event) {
     if (event.button != Button::left) return;
     if (isSwitch()) return step(1);
-    if (event.x < titleWidth || event.x >= titleWidth + valueWidth) return;
-    if (isChoice()) return turn(event.x < titleWidth + arrowWidth ? -1 : 1);
+    const Rect value = valueArea();
+    const int x = static_cast<int>(event.x);
+    if (x < value.x || x >= value.right()) return;
+    if (isChoice()) return turn(x < value.x + arrowWidth(platform()) ? -1 : 1);
     sliding_ = true;
     slideTo(event.x);
 }
@@ -120,60 +159,59 @@ void SettingControl::focusChanged(bool has) {
 // --- its looks
 
 void SettingControl::paint(Bitmap& onto, Point at) {
-    const Font& font = look::fontFor(*this);
     if (isSwitch())
-        paintSwitch(onto, at, font);
+        paintSwitch(onto, at);
     else if (isChoice())
-        paintChoice(onto, at, font);
+        paintChoice(onto, at);
     else
-        paintSlider(onto, at, font);
-    const int x = isSwitch() ? switchText - margin : 0;
-    const int textTop = (height() - font.lineHeight()) / 2;
-    if (!isSwitch()) font.draw(onto, at + Point{margin, textTop}, row_.title, look::text);
+        paintSlider(onto, at);
+    const int x = isSwitch() ? switchText(platform()) - margin : 0;
+    const int textTop = (height() - font().lineHeight()) / 2;
+    if (!isSwitch()) font().draw(onto, at + Point{margin, textTop}, row_.title, look::text);
     if (focused_) {
-        const int width = isSwitch() ? font.width(row_.title) + 2 * margin : titleWidth - margin;
-        look::focusDots(onto, {at + Point{x, textTop - 2}, {width, font.lineHeight() + 4}});
+        const int width = isSwitch() ? font().width(row_.title) + 2 * margin : valueArea().x - margin;
+        look::focusDots(onto, {at + Point{x, textTop - 2}, {width, font().lineHeight() + 4}});
     }
 }
 
-void SettingControl::paintSwitch(Bitmap& onto, Point at, const Font& font) const {
-    const Rect square{at.x + margin, at.y + (height() - box) / 2, box, box};
+void SettingControl::paintSwitch(Bitmap& onto, Point at) const {
+    const int side = box(platform());
+    const Rect square{at.x + margin, at.y + (height() - side) / 2, side, side};
     onto.fill(square, look::ground);
     look::sunken(onto, square);
-    for (int i = 0; flag() && i < 7; ++i) {
-        const int drop = i < 3 ? i : 4 - i;
-        onto.fill({square.x + 3 + i, square.y + 5 + drop, 1, 3}, look::text);
-    }
-    font.draw(onto, at + Point{switchText, (height() - font.lineHeight()) / 2}, row_.title, look::text);
+    if (flag()) tick(onto, platform(), square);
+    font().draw(onto, at + Point{switchText(platform()), (height() - font().lineHeight()) / 2}, row_.title,
+                look::text);
 }
 
-void SettingControl::paintSlider(Bitmap& onto, Point at, const Font& font) const {
+void SettingControl::paintSlider(Bitmap& onto, Point at) const {
     const Rect area{valueArea().at() + at, valueArea().size()};
     const int middle = area.y + area.h / 2;
     look::sunken(onto, {area.x, middle - 2, area.w, 4});
-    const int way = (number() - row_.least) * (area.w - thumb) / std::max(1, row_.most - row_.least);
-    const Rect grip{area.x + way, middle - 8, thumb, 17};
+    const int broad = thumb(platform());
+    const int way = (number() - row_.least) * (area.w - broad) / std::max(1, row_.most - row_.least);
+    const Rect grip{area.x + way, middle - 8, broad, 17};
     onto.fill(grip, look::face);
     look::raised(onto, grip);
-    font.draw(onto, {area.right() + 2 * margin, at.y + (height() - font.lineHeight()) / 2}, valueText(),
-              look::text);
+    font().draw(onto, {area.right() + 2 * margin, at.y + (height() - font().lineHeight()) / 2}, valueText(),
+                look::text);
 }
 
-void SettingControl::paintChoice(Bitmap& onto, Point at, const Font& font) const {
+void SettingControl::paintChoice(Bitmap& onto, Point at) const {
     const Rect area = look::shrunk({valueArea().at() + at, valueArea().size()}, 1);
     onto.fill(area, look::ground);
     look::sunken(onto, area);
+    const int arrow = arrowWidth(platform());
     for (const bool left : {true, false}) {
-        const Rect button{left ? area.x + 2 : area.right() - 2 - (arrowWidth - 2), area.y + 2, arrowWidth - 2,
-                          area.h - 4};
+        const Rect button{left ? area.x + 2 : area.right() - 2 - (arrow - 2), area.y + 2, arrow - 2, area.h - 4};
         onto.fill(button, look::face);
         look::raised(onto, button);
         sideArrow(onto, button, left);
     }
     const Text value = valueText();
-    const look::Clip clip(onto, {area.x + arrowWidth, area.y, area.w - 2 * arrowWidth, area.h});
-    font.draw(onto, {area.x + (area.w - font.width(value)) / 2, at.y + (height() - font.lineHeight()) / 2}, value,
-              look::text);
+    const look::Clip clip(onto, {area.x + arrow, area.y, area.w - 2 * arrow, area.h});
+    font().draw(onto, {area.x + (area.w - font().width(value)) / 2, at.y + (height() - font().lineHeight()) / 2},
+                value, look::text);
 }
 
 }  // namespace zentrox

@@ -8,6 +8,8 @@
 
 namespace zentrox {
 
+class Platform;
+
 class SettingControl : public Control {
 public:
     // Shows and changes what `row` names in `settings`, and calls `onChange` then. Both must outlive it.
@@ -37,10 +39,12 @@ private:
     void turn(int by);
     void slideTo(float x);
     Text valueText() const;
+    const Platform& platform() const;
+    const Font& font() const;
     Rect valueArea() const;  // of the slider or the choice, in its own pixels
-    void paintSwitch(Bitmap& onto, Point at, const Font& font) const;
-    void paintSlider(Bitmap& onto, Point at, const Font& font) const;
-    void paintChoice(Bitmap& onto, Point at, const Font& font) const;
+    void paintSwitch(Bitmap& onto, Point at) const;
+    void paintSlider(Bitmap& onto, Point at) const;
+    void paintChoice(Bitmap& onto, Point at) const;
 
     const SettingsRow& row_;
     Settings& settings_;

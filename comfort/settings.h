@@ -36,6 +36,7 @@ struct Settings {
 
     // --- what the player was told once
     bool soundFontTold = false;
+    bool fontTold = false;
     // --- saved games
     bool autosave = false;
     bool askOnLeaving = false;  // where play would be lost
@@ -49,6 +50,7 @@ struct Settings {
     bool rememberHeard = false;  // what was heard is known in later plays, too
     int letters = 100;           // percent
     bool clearFont = false;
+    bool outline = false;  // round the letters
     bool speakerNames = false;
     bool captions = false;
     int speechWay = 0;  // 1 by the speech of the machine, 2 by the clipboard

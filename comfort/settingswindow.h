@@ -21,7 +21,10 @@ public:
 private:
     void onKeyDown(int code) override;
     void showPage(std::size_t page);
-    void addActions(Point at);
+    void addActions();
+    void place();
+    void placeRows();
+    void change();
     void moveFocus(int by);
     void asShipped();
 

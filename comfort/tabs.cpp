@@ -1,6 +1,8 @@
 #include "comfort/tabs.h"
 
+#include "platform/platform.h"
 #include "platform/values/keys.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 
@@ -23,7 +25,7 @@ Text Tabs::shownText() const {
 
 // The room that the names leave is shared by all.
 Rect Tabs::tab(std::size_t index) const {
-    const Font& font = look::fontFor(*this);
+    const Font& font = look::fontFor(*this, window()->platform().boxFont());
     const auto count = static_cast<int>(names_.size());
     int all = 0;
     int before = 0;
@@ -65,7 +67,7 @@ bool Tabs::keyDown(int code, bool /*shift*/, bool control) {
 }
 
 void Tabs::paint(Bitmap& onto, Point at) {
-    const Font& font = look::fontFor(*this);
+    const Font& font = look::fontFor(*this, window()->platform().boxFont());
     const look::Clip clip(onto, {at, area().size()});
     for (std::size_t i = 0; i < names_.size(); ++i) {
         Rect body{tab(i).at() + at, tab(i).size()};

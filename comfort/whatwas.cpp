@@ -1,5 +1,6 @@
 #include "comfort/whatwas.h"
 
+#include "comfort/letters.h"
 #include "comfort/savedialog.h"
 #include "platform/values/keys.h"
 
@@ -7,9 +8,7 @@ namespace zentrox {
 
 namespace {
 
-constexpr Size area{460, 290};
 constexpr int margin = 14;
-constexpr Size button{120, 25};
 constexpr TextView saidLast = "Zuletzt gesagt:"_t;
 
 Text said(const Sidecar& sidecar) {
@@ -19,17 +18,41 @@ Text said(const Sidecar& sidecar) {
     return words;
 }
 
+// Where everything stands.
+struct Layout {
+    Size client;
+    Rect words;
+    Rect said;
+    Rect on;
+    Rect off;
+};
+
+Layout layOut(const Platform& platform) {
+    Layout out;
+    out.client = {grown(platform, 460, 616), grown(platform, 290, 430)};
+    const Size button{grown(platform, 120, 190), grown(platform, 25, 36)};
+    const int left = 2 * margin + thumbnailSize.w;
+    out.words = {left, margin, out.client.w - margin - left, grown(platform, thumbnailSize.h, 150)};
+    out.off = {{out.client.w - margin - button.w, out.client.h - margin - button.h}, button};
+    out.on = {out.off.at() - Point{margin + button.w, 0}, button};
+    const int top = out.words.bottom() + margin;
+    out.said = {margin, top, out.client.w - 2 * margin, grown(platform, 80, out.off.y - 8 - top)};
+    return out;
+}
+
 }  // namespace
 
 WhatWas::WhatWas(Platform& platform, const Sidecar& sidecar)
-    : Window(platform, "WasWar", "Was war", area, Frame::dialog),
+    : Window(platform, "WasWar", "Was war", layOut(platform).client, Frame::dialog),
       picture_(&root(), {{margin, margin}, thumbnailSize}),
-      words_(&root(),
-             {2 * margin + thumbnailSize.w, margin, area.w - 3 * margin - thumbnailSize.w, thumbnailSize.h},
-             describe(sidecar)),
-      said_(&root(), {margin, 2 * margin + thumbnailSize.h, area.w - 2 * margin, 80}, said(sidecar)),
-      on_(&root(), {{area.w - 2 * margin - 2 * button.w, area.h - margin - button.h}, button}, "Weiterspielen"),
-      off_(&root(), {{area.w - margin - button.w, area.h - margin - button.h}, button}, "Ins Menü"_t) {
+      words_(&root(), layOut(platform).words, describe(sidecar)),
+      said_(&root(), layOut(platform).said, said(sidecar)),
+      on_(&root(), layOut(platform).on, "Weiterspielen"),
+      off_(&root(), layOut(platform).off, "Ins Menü"_t) {
+    for (Label* const label : {&words_, &said_})
+        label->setFont(fittingFont(platform, label->text(), label->area().size()));
+    on_.setFont(platform.boxFont());
+    off_.setFont(platform.boxFont());
     picture_.setPicture(sidecar.picture);
     on_.setDefault(true);
     on_.onClick = [this] {

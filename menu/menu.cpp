@@ -80,6 +80,7 @@ Menu::Menu(Platform& platform, Zustand& zustand, const std::vector<std::filesyst
         zeile(i).setFont(zeilenschrift(false));
         zeile(i).setAlign(Label::Align::centre);
         zeile(i).setAutoSize(true);
+        zeile(i).setOnPicture(true);
         zeile(i).setText(zeilentext(z_.Titel, false, i));
         zeile(i).onClick = [this, i] { LabelAusfuehren(i); };
         zeile(i).onMove = [this, i](const PointerEvent&) { Label1_MouseMove(i); };

@@ -27,8 +27,16 @@ public:
     Files files;
     Queue queue;
     Random random;
-    // How large the letters of message boxes are, in percent; for players who want them larger.
+    // How large the letters of boxes and dialogs are, in percent; for players who want them larger.
     int boxPercent = 100;
+    // Letters on pictures and in the band stand in an outline, for players who want that.
+    bool outlinedLetters = false;
+    // The small font at the size of boxes and dialogs.
+    FontSpec boxFont() const {
+        FontSpec font;
+        font.points = font.points * static_cast<float>(boxPercent) / 100;
+        return font;
+    }
     // Where the CD is looked for, in this order: paths of the system.
     std::vector<std::filesystem::path> roots;
 };

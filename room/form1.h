@@ -113,6 +113,7 @@ private:
     FontSpec textschrift() const;
     // A text with all its line ends: as it stands, or broken so that it fits in the font that the surface has.
     Text gesetzt(TextView argument) const;
+    void umrandeText(TextView text);
 
     // --- transitions
     struct Region {

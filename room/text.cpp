@@ -100,10 +100,22 @@ void Form1::ZeigText(TextView argument) {
     }
     Picture1.foreground = white;
     Picture1.currentY = static_cast<int>(M) - Picture1.textHeight(Trim(text)) / 2 + 1;
+    if (platform_.outlinedLetters) umrandeText(text);
     for (const Textzeile& zeile : TextzeilenVon(text)) {
         Picture1.foreground = Farbe16(zeile.Farbe);
         Picture1.currentX = W / 2 - Picture1.textWidth(Trim(zeile.Inhalt)) / 2;
         Picture1.print(zeile.Inhalt);
+    }
+}
+
+// All of it before the first letter: the lines stand so near to each other that it would lie over letters.
+void Form1::umrandeText(TextView text) {
+    Point ort{0, Picture1.currentY};
+    const int zeilenhöhe = platform_.fonts.get(Picture1.font).lineHeight();
+    for (const Textzeile& zeile : TextzeilenVon(text)) {
+        ort.x = Picture1.width() / 2 - Picture1.textWidth(Trim(zeile.Inhalt)) / 2;
+        Picture1.outlineAt(ort, zeile.Inhalt, Farbe16(zeile.Farbe));
+        ort.y += zeilenhöhe;
     }
 }
 

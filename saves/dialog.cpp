@@ -12,10 +12,39 @@ namespace {
 
 constexpr TextView Verboten = "*?/\\|<>";
 constexpr Size Fläche{396, 269};  // pixels
+constexpr Size Größte{616, 430};  // with larger letters
 
 bool istSpielstand(TextView name) {
     return name.size() >= Spielstandendung.size() &&
            equalIgnoringCase(name.substr(name.size() - Spielstandendung.size()), Spielstandendung);
+}
+
+// Where everything stands.
+struct Plan {
+    Size fläche;  // with what is at the right
+    Rect liste;
+    Rect name;
+    Rect ok;
+    Rect abbrechen;
+};
+
+// `prozent` is how large the letters are. Heights grow less than they do: what they need is in the middle.
+Plan PlanFür(int prozent, int mehrBreite) {
+    constexpr int rand = 3;
+    const auto größer = [prozent](int hundert, int zweihundert) {
+        return hundert + (zweihundert - hundert) * (prozent - 100) / 100;
+    };
+    const int breite = std::min(Fläche.w * prozent / 100, Größte.w - (prozent > 100 ? mehrBreite : 0));
+    const int höhe = std::min(Fläche.h * prozent / 100, Größte.h);
+    const Size knopf{größer(81, 136), größer(25, 40)};
+    Plan plan;
+    plan.fläche = {breite + mehrBreite, höhe};
+    plan.abbrechen = {{breite - rand - knopf.w, höhe - 4 - knopf.h}, knopf};
+    plan.ok = {plan.abbrechen.at() - Point{knopf.w + 7, 0}, knopf};
+    const int nameHöhe = größer(19, 32);
+    plan.name = {0, plan.ok.y - 5 - nameHöhe, breite - rand, nameHöhe};
+    plan.liste = {0, 0, breite - rand, plan.name.y - 2};
+    return plan;
 }
 
 // A name that a file can have.
@@ -44,12 +73,16 @@ Text Speicherverzeichnis(const Files& files) {
 }
 
 Dialog::Dialog(Platform& platform, Zustand& zustand, int mehrBreite)
-    : Window(platform, "Dialog", titel(zustand), {Fläche.w + mehrBreite, Fläche.h}, Frame::dialog),
+    : Window(platform, "Dialog", titel(zustand), PlanFür(platform.boxPercent, mehrBreite).fläche, Frame::dialog),
       z_(zustand),
-      File1(&root(), {0, 0, 393, 214}),
-      Text1(&root(), {0, 216, 393, 19}, zustand.LetzterSpielstand),
-      OKButton(&root(), {224, 240, 81, 25}, "OK"),
-      CancelButton(&root(), {312, 240, 81, 25}, "Abbrechen") {
+      File1(&root(), PlanFür(platform.boxPercent, mehrBreite).liste),
+      Text1(&root(), PlanFür(platform.boxPercent, mehrBreite).name, zustand.LetzterSpielstand),
+      OKButton(&root(), PlanFür(platform.boxPercent, mehrBreite).ok, "OK"),
+      CancelButton(&root(), PlanFür(platform.boxPercent, mehrBreite).abbrechen, "Abbrechen") {
+    File1.setFont(platform.boxFont());
+    Text1.setFont(platform.boxFont());
+    OKButton.setFont(platform.boxFont());
+    CancelButton.setFont(platform.boxFont());
     std::vector<Text> namen = platform.files.list(Speicherverzeichnis(platform.files));
     std::erase_if(namen, [](const Text& name) { return !wählbar(name); });
     File1.setItems(std::move(namen));

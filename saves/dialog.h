@@ -22,7 +22,8 @@ public:
     Dialog(Platform& platform, Zustand& zustand) : Dialog(platform, zustand, 0) {}
 
 protected:
-    // With room for more at the right, in pixels.
+    // With room for more at the right, in pixels. With larger letters all is larger, as far as a room's window
+    // allows.
     Dialog(Platform& platform, Zustand& zustand, int mehrBreite);
 
     // An entry of the list was chosen; full path.

@@ -28,6 +28,10 @@ public:
     // out of their cell by less than a line's height.
     virtual void draw(Bitmap& target, Point at, TextView line, Colour colour) const = 0;
 
+    // Draws what stands round the letters of such a text, so that they read on any ground: black round light ones,
+    // light round dark ones. To be called before they are drawn.
+    void drawOutline(Bitmap& target, Point at, TextView line, Colour colour) const;
+
     // For letters that are noted, see `Letters`. The same as `draw`, unnoted.
     virtual void ink(Bitmap& target, Point at, TextView line, Colour colour) const {
         draw(target, at, line, colour);
@@ -47,6 +51,8 @@ public:
     virtual ~Fonts() = default;
     // Points are rounded to whole pixels, at least 1 and at most 400.
     virtual const Font& get(const FontSpec& wanted) = 0;
+    // No font at all is on this machine: the program's own one stands in for all.
+    virtual bool lacking() const { return false; }
     // Whether letters are noted where they are drawn. Not so at first.
     virtual void setNotes(bool /*on*/) {}
 };

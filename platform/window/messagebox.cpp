@@ -90,12 +90,6 @@ Bitmap draw(MessageBox::Icon icon) {
     return picture;
 }
 
-FontSpec boxFont(int percent) {
-    FontSpec font;
-    font.points = font.points * static_cast<float>(percent) / 100;
-    return font;
-}
-
 // Where everything stands in a box.
 struct Layout {
     Size client;
@@ -104,8 +98,9 @@ struct Layout {
     Rect button;
 };
 
-Layout layOut(Fonts& fonts, const MessageBox& box, int percent) {
-    const Font& font = fonts.get(boxFont(percent));
+Layout layOut(Platform& platform, const MessageBox& box) {
+    const int percent = platform.boxPercent;
+    const Font& font = platform.fonts.get(platform.boxFont());
     const Size button{buttonSize.w * percent / 100, buttonSize.h * percent / 100};
     const auto lines = wrapText(font, box.text, std::min(widestText * percent / 100, veryWidest));
     const bool hasIcon = box.icon != MessageBox::Icon::none;
@@ -115,7 +110,7 @@ Layout layOut(Fonts& fonts, const MessageBox& box, int percent) {
     out.icon = {margin, margin, hasIcon ? iconSide : 0, hasIcon ? iconSide : 0};
     if (hasIcon) out.text.y += std::max(0, (iconSide - out.text.h) / 2);
     const int bottom = std::max(out.text.bottom(), out.icon.bottom());
-    const int title = fonts.get({}).width(box.title) + titleExtra;
+    const int title = platform.fonts.get({}).width(box.title) + titleExtra;
     out.client.w = std::max({out.text.right() + margin, title, button.w + 2 * margin});
     out.client.h = bottom + margin + button.h + margin;
     out.button = {(out.client.w - button.w) / 2, bottom + margin, button.w, button.h};
@@ -130,8 +125,8 @@ public:
           text_(&root(), layout.text, box.text),
           ok_(&root(), layout.button, "OK"),
           failure_(box.icon == MessageBox::Icon::critical) {
-        text_.setFont(boxFont(platform.boxPercent));
-        ok_.setFont(boxFont(platform.boxPercent));
+        text_.setFont(platform.boxFont());
+        ok_.setFont(platform.boxFont());
         if (box.icon == MessageBox::Icon::none)
             icon_.setVisible(false);
         else
@@ -157,7 +152,7 @@ private:
 }  // namespace
 
 void showMessageBox(Platform& platform, const MessageBox& box) {
-    MsgBox window(platform, box, layOut(platform.fonts, box, platform.boxPercent));
+    MsgBox window(platform, box, layOut(platform, box));
     platform.backend.messageBoxOpened(box);
     window.showModal();
 }

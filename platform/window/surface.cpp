@@ -197,6 +197,13 @@ void Surface::printAt(Point at, TextView text, Colour colour) {
     currentX = held(std::int64_t{currentX} + fonts_.get(font).width(text));
 }
 
+void Surface::outlineAt(Point at, TextView text, Colour colour) {
+    const Font& face = fonts_.get(font);
+    face.drawOutline(target(), at, text, colour);
+    const int margin = face.lineHeight();
+    drawn({at - Point{margin, margin}, Size{held(std::int64_t{face.width(text)} + 2 * margin), 3 * margin}});
+}
+
 void Surface::printLine(TextView line) {
     const Font& face = fonts_.get(font);
     face.draw(target(), {currentX, currentY}, line, foreground);

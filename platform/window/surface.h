@@ -66,6 +66,8 @@ public:
     void print(TextView text);
     // Prints a text without line ends at a place; the cursor ends behind it.
     void printAt(Point at, TextView text, Colour colour);
+    // Draws the outline of letters that will be printed there, see `Font::drawOutline`.
+    void outlineAt(Point at, TextView text, Colour colour);
     int textWidth(TextView text) const { return measure(text).w; }
     int textHeight(TextView text) const { return measure(text).h; }
     Size measure(TextView text) const { return fonts_.get(font).measure(text); }

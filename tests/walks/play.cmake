@@ -5,7 +5,7 @@ if(EXISTS ${expected})
   set(quiet "")
 endif()
 # With SETTINGS the player's comforts are there, as NAME.settings has them; what the walk makes of that file must be
-# what NAME.after holds, if there is one.
+# what NAME.after holds, if there is one. Games are saved beside it.
 set(comforts "")
 if(SETTINGS)
   file(REMOVE ${SETTINGS})
@@ -13,7 +13,8 @@ if(SETTINGS)
   if(EXISTS ${before})
     file(COPY_FILE ${before} ${SETTINGS})
   endif()
-  set(comforts --settings ${SETTINGS})
+  file(REMOVE_RECURSE ${SETTINGS}.saves)
+  set(comforts --settings ${SETTINGS} --saves ${SETTINGS}.saves)
 endif()
 execute_process(
   COMMAND ${PROBE} ${quiet} ${comforts} --dir ${DATA} --args ${ROOM} --out ${OUT} ${WALK}

@@ -2,7 +2,9 @@
 
 #include <limits>
 
+#include "platform/platform.h"
 #include "platform/window/controls/textlayout.h"
+#include "platform/window/window.h"
 
 namespace zentrox {
 
@@ -40,6 +42,11 @@ void Label::setAutoSize(bool on) {
     renewed();
 }
 
+void Label::setOnPicture(bool on) {
+    onPicture_ = on;
+    changed();
+}
+
 void Label::setGreys(bool on) {
     greys_ = on;
     changed();
@@ -60,6 +67,7 @@ void Label::paint(Bitmap& onto, Point at) {
         if (align_ != Align::left) piece = piece.substr(0, piece.find_last_not_of(' ') + 1);
         const int room = align_ == Align::left ? 0 : width() - font.width(piece);
         const Point to{at.x + (align_ == Align::centre ? room / 2 : room), y};
+        if (onPicture_ && window()->platform().outlinedLetters) font.drawOutline(onto, to, piece, colour_);
         if (grey) font.draw(onto, to + Point{1, 1}, piece, look::highlight);
         font.draw(onto, to, piece, grey ? look::greyText : colour_);
         y += font.lineHeight();

@@ -26,6 +26,8 @@ public:
     void setAlign(Align align);
     // With it on, the label has the size of its text, whose lines are not wrapped; its left upper corner stays.
     void setAutoSize(bool on);
+    // It stands on a picture: its letters have an outline where the player wants that. Not so at first.
+    void setOnPicture(bool on);
     // Whether it looks grey while it is disabled; not so at first.
     void setGreys(bool on);
 
@@ -43,6 +45,7 @@ private:
     Align align_ = Align::left;
     bool autoSize_ = false;
     bool greys_ = false;
+    bool onPicture_ = false;
 };
 
 }  // namespace zentrox

@@ -15,11 +15,16 @@ constexpr int margin = 2;  // pixels left of an item's text
 List::List(Control* parent, const Rect& area) : Control(parent, area) {}
 
 int List::rowHeight() const {
-    return look::fontFor(*this).lineHeight();
+    return font().lineHeight();
 }
 
 int List::visibleRows() const {
     return std::max(1, (height() - 2 * look::edge) / rowHeight());
+}
+
+void List::setFont(const FontSpec& font) {
+    font_ = font;
+    changed();
 }
 
 void List::setItems(std::vector<Text> items) {
@@ -147,7 +152,6 @@ void List::paint(Bitmap& onto, Point at) {
     const int room = width() - 2 * look::edge - (bar_.needed() ? ScrollBar::breadth : 0);
     const look::Clip clip(onto, {at.x + look::edge, at.y + look::edge, room, height() - 2 * look::edge});
     if (clip.empty()) return;
-    const Font& font = look::fontFor(*this);
     const auto first = static_cast<std::size_t>(bar_.position());
     const std::size_t end = std::min(items_.size(), first + static_cast<std::size_t>(visibleRows()));
     for (std::size_t i = first; i < end; ++i) {
@@ -156,7 +160,7 @@ void List::paint(Bitmap& onto, Point at) {
         const bool chosen = i == selected_;
         if (chosen) onto.fill(row, look::selection);
         const Colour colour = !enabled() ? look::greyText : chosen ? look::selectedText : look::text;
-        font.draw(onto, row.at() + Point{margin, 0}, items_[i], colour);
+        font().draw(onto, row.at() + Point{margin, 0}, items_[i], colour);
         if (focused_ && i == selected_.value_or(first)) look::focusDots(onto, row);
     }
 }

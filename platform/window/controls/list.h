@@ -17,6 +17,8 @@ public:
     std::function<void()> onSelect;
     std::function<void()> onDoubleClick;  // the same place twice
 
+    // To be called before `setItems`.
+    void setFont(const FontSpec& font);
     // In the order in which they stand here; none is chosen.
     void setItems(std::vector<Text> items);
     const std::vector<Text>& items() const { return items_; }
@@ -44,11 +46,13 @@ public:
     void paint(Bitmap& onto, Point at) override;
 
 private:
+    const Font& font() const { return look::fontFor(*this, font_); }
     int rowHeight() const;
     int visibleRows() const;
     std::optional<std::size_t> itemAt(Point at) const;
     void choose(std::size_t item);
 
+    FontSpec font_;
     std::vector<Text> items_;
     std::optional<std::size_t> selected_;
     ScrollBar bar_{*this};

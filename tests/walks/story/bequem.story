@@ -60,3 +60,22 @@ Raum "Hinten.lsd"
             Rechteck 40 0 50 20
         Links
             Text "Ein Satz, der so noch in eine Zeile passt."
+
+Raum "Farben.lsd"
+    Bild "red.bmp"
+    Start
+    Objekt "Alle"
+        Fläche
+            Rechteck 0 0 10 20
+        Links
+            Text "$0Schwarz#$1Dunkelblau#$4Dunkelrot#$5Lila#$9Blau#$CRot#$8Grau#$EGelb"
+    Objekt "Frage"
+        Fläche
+            Rechteck 10 0 20 20
+        Links
+            Auswahl "$1Wie nun?"
+            Fall "$9So"
+                SetzeMerker SO
+            Fall "$EAnders"
+                SetzeMerker ANDERS
+            EndeAuswahl
