@@ -46,3 +46,23 @@ function(zentrox_embed library drawing name width height)
     VERBATIM)
   target_sources(${library} PRIVATE ${made}.cpp)
 endfunction()
+
+# A font that becomes a part of a library: zentrox_embed_font(LIBRARY FILE NAME) takes the characters of code page 1252
+# from an installed font and defines the bytes NAME, see platform/codec/ownfonts.h.
+function(zentrox_embed_font library file name)
+  find_program(HB_SUBSET hb-subset REQUIRED)
+  find_file(ZENTROX_FONT_${name} ${file} PATHS /usr/share/fonts/truetype/dejavu REQUIRED)
+  set(made ${CMAKE_CURRENT_BINARY_DIR}/${name})
+  set(characters 20-7E,A0-FF,152,153,160,161,178,17D,17E,192,2C6,2DC,2013,2014,2018-201A,201C-201E,2020-2022,2026,2030)
+  string(APPEND characters ,2039,203A,20AC,2122)
+  add_custom_command(
+    OUTPUT ${made}.cpp
+    COMMAND ${HB_SUBSET} --unicodes=${characters} --layout-features= --output-file=${made}.ttf
+      ${ZENTROX_FONT_${name}}
+    COMMAND ${CMAKE_COMMAND} -DINPUT=${made}.ttf -DOUTPUT=${made}.cpp -DNAME=${name}
+      -P ${zentrox_SOURCE_DIR}/cmake/embedbytes.cmake
+    DEPENDS ${ZENTROX_FONT_${name}} ${zentrox_SOURCE_DIR}/cmake/embedbytes.cmake
+    COMMENT "Taking ${name} from ${file}"
+    VERBATIM)
+  target_sources(${library} PRIVATE ${made}.cpp)
+endfunction()

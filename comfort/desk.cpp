@@ -13,6 +13,11 @@ constexpr Milliseconds restsFor = 700;
 constexpr Size mark{42, 18};     // pixels, in the right upper corner of the window
 constexpr int cornerHeight = 3;  // where the pointer has to rest: nearer to the edge than a thing of a room lies
 
+constexpr TextView noFont =
+    "Auf diesem Rechner ist keine Schrift. Die Geschichte wird in einer einfachen erzählt, die das Programm mitbringt; manche Zeile steht damit anders als gedacht.\n\nDie Pakete fonts-liberation und fonts-terminus-otb bringen die passenden Schriften mit."_t;
+constexpr TextView noSoundFont =
+    "Die Musik bleibt stumm: Auf diesem Rechner ist kein Klangfont.\n\nEin Paket wie timgm6mb-soundfont oder fluid-soundfont-gm bringt einen mit;\noder eine Datei .sf2 kommt in das Verzeichnis musics der Geschichte."_t;
+
 Rect markArea(const Rect& base) {
     return {base.right() - mark.w, base.y, mark.w, mark.h};
 }
@@ -57,17 +62,18 @@ void Desk::mute() {
 
 // Told once, when the story has come to rest.
 void Desk::Ruht() {
-    if (comforts_.settings().soundFontTold || !comforts_.platform().sound.lacksSoundFont()) return;
+    const Platform& platform = comforts_.platform();
+    if (platform.fonts.lacking()) tellOnce(&Settings::fontTold, noFont);
+    if (platform.sound.lacksSoundFont()) tellOnce(&Settings::soundFontTold, noSoundFont);
+}
+
+void Desk::tellOnce(bool Settings::*told, TextView text) {
+    if (comforts_.settings().*told) return;
     Settings settings = comforts_.settings();
-    settings.soundFontTold = true;
+    settings.*told = true;
     comforts_.change(settings);
-    comforts_.pausedDuring([this] {
-        showMessageBox(comforts_.platform(),
-                       {"Zentrox",
-                        Text("Die Musik bleibt stumm: Auf diesem Rechner ist kein Klangfont.\n\n"
-                             "Ein Paket wie timgm6mb-soundfont oder fluid-soundfont-gm bringt einen mit;\n"
-                             "oder eine Datei .sf2 kommt in das Verzeichnis musics der Geschichte."_t),
-                        MessageBox::Icon::information});
+    comforts_.pausedDuring([&] {
+        showMessageBox(comforts_.platform(), {"Zentrox", Text(text), MessageBox::Icon::information});
     });
 }
 

@@ -15,6 +15,7 @@ public:
 
 private:
     void Ruht() override;
+    void tellOnce(bool Settings::*told, TextView text);
     void showSettings();
     void showKeys();
     void mute();

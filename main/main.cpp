@@ -20,7 +20,6 @@
 #include "main/spiel.h"
 #include "main/story.h"
 #include "platform/codec/apart/handlers.h"
-#include "platform/codec/fontfiles.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/roots.h"
 #include "platform/machine/system.h"
@@ -194,12 +193,6 @@ int main(int argc, char** argv) {
     const apart::Apart decoders(apart::handlers(), apart::ofPlayers);
     try {
         return play(*call.options);
-    } catch (const NoFonts& error) {
-        std::cerr << "zentrox: " << error.what() << '\n';
-        sdl::showSystemBox(
-            "Auf diesem Rechner ist keine Schrift, in der die Geschichte erzählt werden könnte.\n\n"
-            "Die Pakete fonts-liberation und fonts-terminus-otb bringen die passenden mit.");
-        return 1;
     } catch (const std::exception& error) {
         std::cerr << "zentrox: " << error.what() << '\n';
         return 1;

@@ -1,9 +1,11 @@
 // Fonts as fontconfig finds them.
 #include <fontconfig/fontconfig.h>
 
-#include <stdexcept>
+#include <iostream>
+#include <utility>
 
 #include "platform/codec/fontfiles.h"
+#include "platform/codec/ownfonts.h"
 #include "platform/machine/system.h"
 
 namespace zentrox {
@@ -25,7 +27,7 @@ const FcChar8* fcText(const char* text) {
 class InstalledFonts : public FontFiles {
 public:
     InstalledFonts() : config_(FcInitLoadConfigAndFonts()) {
-        if (!config_) throw std::runtime_error("fontconfig has no configuration");
+        if (!config_) return;
         // Those that came with the program, for a machine without them.
         const auto own = dataDirectoryFor(programDirectory()) / "fonts";
         std::error_code error;
@@ -33,6 +35,7 @@ public:
     }
 
     FontFile find(const std::string& family, const char* generic, bool bold, bool scalable) override {
+        if (!config_) return ownFont(generic, bold);
         const Pattern wanted(FcPatternCreate());
         FcPatternAddString(wanted.get(), FC_FAMILY, fcText(family.c_str()));
         FcPatternAddString(wanted.get(), FC_FAMILY, fcText(generic));
@@ -43,16 +46,26 @@ public:
         FcDefaultSubstitute(wanted.get());
         FcResult result = FcResultNoMatch;
         const Pattern match(FcFontMatch(config_.get(), wanted.get(), &result));
-        return fileOf(match.get());
+        FcChar8* path = nullptr;
+        const bool found = match && FcPatternGetString(match.get(), FC_FILE, 0, &path) == FcResultMatch;
+        return found ? fileOf(match.get(), path) : ownFont(generic, bold);
     }
 
 private:
-    static FontFile fileOf(FcPattern* match) {
-        FcChar8* path = nullptr;
-        if (match == nullptr || FcPatternGetString(match, FC_FILE, 0, &path) != FcResultMatch)
-            throw NoFonts(
-                "no font is installed; the packages fonts-liberation and fonts-terminus-otb have those of the "
-                "game");
+    // A machine without fonts has none for the whole run: it is told once.
+    FontFile ownFont(const std::string& generic, bool bold) {
+        if (!std::exchange(told_, true))
+            std::cerr << "zentrox: no font is installed, a plain one of the program's own stands in; the packages "
+                         "fonts-liberation and fonts-terminus-otb have those of the game\n";
+        // Thickened, letters would be too broad for a narrow cell.
+        const bool cells = generic == "monospace";
+        return {.path = cells ? "cells" : "letters",
+                .index = bold ? 1 : 0,
+                .bytes = cells ? OwnCells : OwnLetters,
+                .thickened = bold && !cells};
+    }
+
+    static FontFile fileOf(FcPattern* match, const FcChar8* path) {
         FontFile file{reinterpret_cast<const char*>(path)};
         FcPatternGetInteger(match, FC_INDEX, 0, &file.index);
         FcBool outlines = FcTrue;
@@ -63,6 +76,7 @@ private:
     }
 
     std::unique_ptr<FcConfig, DestroyConfig> config_;
+    bool told_ = false;
 };
 
 }  // namespace

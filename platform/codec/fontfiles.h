@@ -2,7 +2,7 @@
 #pragma once
 
 #include <memory>
-#include <stdexcept>
+#include <span>
 #include <string>
 
 namespace zentrox {
@@ -11,17 +11,15 @@ struct FontFile {
     std::string path;
     int index = 0;  // of the font in a file of several
     bool scalable = true;
-};
-
-struct NoFonts : std::runtime_error {
-    using std::runtime_error::runtime_error;
+    std::span<const unsigned char> bytes{};  // of a font that is a part of the program; its path is a mere name
+    bool thickened = false;                  // bold letters are made of plain ones
 };
 
 class FontFiles {
 public:
     virtual ~FontFiles() = default;
     // The font nearest to a family, in UTF-8, upright; `generic` is what kind of font stands in for it: "serif",
-    // "sans-serif" or "monospace". Throws `NoFonts` if there is no font at all.
+    // "sans-serif" or "monospace". One that is a part of the program if there is no font at all.
     virtual FontFile find(const std::string& family, const char* generic, bool bold, bool scalable) = 0;
 };
 

@@ -68,9 +68,13 @@ public:
 
 // `size` is in pixels, or the number of a strike where the font has no outlines.
 FontHandle open(const FontFile& file, int size) {
-    FontHandle font(TTF_OpenFontIndex(file.path.c_str(), size, file.index));
+    FontHandle font(
+        file.bytes.empty()
+            ? TTF_OpenFontIndex(file.path.c_str(), size, file.index)
+            : TTF_OpenFontRW(SDL_RWFromConstMem(file.bytes.data(), static_cast<int>(file.bytes.size())), 1, size));
     if (!font) throw std::runtime_error("the font " + file.path + " can't be used: " + TTF_GetError());
     TTF_SetFontKerning(font.get(), 0);
+    if (file.thickened) TTF_SetFontStyle(font.get(), TTF_STYLE_BOLD);
     return font;
 }
 
@@ -294,12 +298,14 @@ public:
         return *font;
     }
 
+    bool lacking() const override { return lacking_; }
     void setNotes(bool on) override { notes_ = on; }
 
 private:
     Face& face(const FontKey& key) {
         if (!library_) library_.emplace();
         const FontFile file = fileOf(key);
+        lacking_ = lacking_ || !file.bytes.empty();
         auto& face = faces_[{file.path, file.index}];
         if (!face) face = std::make_unique<Face>(file);
         return *face;
@@ -320,6 +326,7 @@ private:
     std::map<std::pair<std::string, int>, std::unique_ptr<Face>> faces_;
     std::map<FontKey, std::unique_ptr<SizedFont>> fonts_;
     bool notes_ = false;
+    bool lacking_ = false;
     FontSpec lastSpec_;
     const Font* lastFont_ = nullptr;
 };

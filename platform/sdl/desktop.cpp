@@ -147,8 +147,4 @@ void Desktop::restart() {
     if (!startProcess(restartCommand_)) std::cerr << "zentrox: can't start " << restartCommand_.front() << '\n';
 }
 
-void showSystemBox(const std::string& text) {
-    SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, "Zentrox", text.c_str(), nullptr);
-}
-
 }  // namespace zentrox::sdl

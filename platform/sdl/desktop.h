@@ -84,8 +84,4 @@ private:
     Events events_;
 };
 
-// A box of the window system's own, for when there is nothing to draw one with; UTF-8. Nothing happens where it
-// can't be shown.
-void showSystemBox(const std::string& text);
-
 }  // namespace zentrox::sdl

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A machine without sound: the box and the end as ever, then the offer to begin again without, which is remembered; the
-# pictures that a player takes; and a machine without fonts.
+# pictures that a player takes; a machine without fonts.
 set -uo pipefail
 zentrox=$1 data=$2 out=$3
 . "$(dirname "$0")/display.bash"
@@ -61,17 +61,41 @@ titled Error && fail "--no-sound has no effect"
 kill "$game"
 wait "$game"
 
-# Without any font the window system says so.
+# Without any font it plays on in one of its own, which it says once.
 echo '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig></fontconfig>' >none.conf
-FONTCONFIG_FILE=$PWD/none.conf "$zentrox" --dir "$data" Spiele.lsd >game.log 2>&1 &
-game=$!
-boxed() { box=$(wmctrl -l | awk '/Zentrox$/ { print $1 }'); [ -n "$box" ]; }
-eventually boxed || fail "nothing tells of the missing fonts: $(cat game.log)"
-sleep 0.4
-import -window "$box" fonts.png
-[ "$(identify -format %k fonts.png)" -gt 2 ] || fail "the box is empty"
-xdotool windowactivate "$box" key Return
-eventually gone || fail "the box of the missing fonts does not close"
+export FONTCONFIG_FILE=$PWD/none.conf
+play "$zentrox" --no-sound --dir "$data" Spiele.lsd
+sleep 1
+field 0 2  # a text; it is told of when that has been read
+sleep 1
+import -window root fonts-text.png
+key space
+told_of_fonts() { grep -qsx "schrift-gemeldet = ja" "$settings"; }
+eventually told_of_fonts || fail "nothing tells of the missing fonts: $(cat game.log)"
+sleep 0.6
+import -window root fonts.png
+told=$(middle)
+key Return
+eventually looks_other "$told" || fail "the box of the missing fonts does not close"
+sleep 0.3
+room=$(middle)
+field 3 0
+eventually looks_other "$room" || fail "the quiz does not open without fonts"
+sleep 1.5
+import -window root fonts-quiz.png
+must_live "the quiz without fonts"
+kill "$game"
 wait "$game"
-[ $? = 1 ] || fail "without fonts the status is another"
+play "$zentrox" --no-sound --dir "$data" Spiele.lsd
+sleep 1.5
+looks_like "$told" && fail "the missing fonts are told of twice"
+kill "$game"
+wait "$game"
+play "$zentrox" --no-sound --dir "$data"
+sleep 1.5
+import -window root fonts-menu.png
+must_live "the menu without fonts"
+kill "$game"
+wait "$game"
+
 exit 0

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 #include <limits>
+#include <set>
+#include <vector>
 
 #include "platform/picture/font.h"
 #include "tests/support/temp_directory.h"
@@ -159,14 +161,25 @@ TEST_F(PoorMachine, AnyFontServesWhereTheNamedOnesAreMissing) {
     EXPECT_FALSE(bitmap == Bitmap({50, 20}));
 }
 
-TEST_F(PoorMachine, WithoutAnyFontTheFirstTextSaysSo) {
+TEST_F(PoorMachine, WithoutAnyFontTheProgramsOwnStandsIn) {
     const auto fonts = fontsIn("");
-    try {
-        fonts->get({});
-        FAIL();
-    } catch (const std::runtime_error& error) {
-        EXPECT_NE(std::string(error.what()).find("no font"), std::string::npos);
+    EXPECT_FALSE(fonts->lacking());
+    const Font& plain = fonts->get({});
+    EXPECT_TRUE(fonts->lacking());
+    // All that a text can have, and not one box for all.
+    std::set<std::vector<std::int32_t>> looks;
+    for (int c = 0x21; c < 256; ++c) {
+        Bitmap one({40, 40});
+        plain.draw(one, {10, 10}, Text(1, static_cast<char>(c)), white);
+        std::vector<std::int32_t> pixels;
+        for (int i = 0; i < 1600; ++i) pixels.push_back(one.pixel({i % 40, i / 40}));
+        looks.insert(pixels);
     }
+    EXPECT_GT(looks.size(), 205U);
+    EXPECT_GT(fonts->get({"MS Sans Serif", 8.25F, true}).width("Wort"), plain.width("Wort"));
+    const Font& fixed = fonts->get({"Fixedsys", 9, true});
+    EXPECT_EQ(fixed.lineHeight(), 14);
+    EXPECT_EQ(fixed.width("Abc"), 24);
 }
 
 }  // namespace
