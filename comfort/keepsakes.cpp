@@ -125,8 +125,9 @@ void Keepsakes::Geschrieben(const Text& path, TextView bytes) {
     if (comforts_.settings().richDialog) moment_.writeBeside(path, bytes);
 }
 
-bool Keepsakes::TrotzdemLaden(const std::vector<Text>& items) {
-    return !comforts_.settings().richDialog || loadWithout(platform_, items);
+bool Keepsakes::TrotzdemLaden(Platform& platform, const std::vector<Text>& items) {
+    if (!comforts_.settings().richDialog) return Speicherwart::TrotzdemLaden(platform, items);
+    return loadWithout(platform, items);
 }
 
 // The player has closed the room window, and something would be lost.

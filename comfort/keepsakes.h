@@ -33,7 +33,7 @@ public:
 private:
     Text Fragen(Platform& platform, Zustand& zustand, TextView title) override;
     void Geschrieben(const Text& path, TextView bytes) override;
-    bool TrotzdemLaden(const std::vector<Text>& items) override;
+    bool TrotzdemLaden(Platform& platform, const std::vector<Text>& items) override;
     void Öffnet(Raumfenster& room) override;
 
     void addKeys();

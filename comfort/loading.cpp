@@ -8,17 +8,8 @@
 
 namespace zentrox {
 
-namespace {
-
-constexpr TextView isMissing =
-    "Diese Geschichte hat nicht mehr alles, was in dem Spielstand in der Tasche liegt. Es fehlt:"_t;
-
-}  // namespace
-
 bool loadWithout(Platform& platform, const std::vector<Text>& items) {
-    Text text(isMissing);
-    for (const Text& item : items) text += "\r\n    " + item;
-    return ask(platform, text, "Trotzdem laden", "Abbrechen");
+    return ask(platform, FehlendesText(items), "Trotzdem laden", "Abbrechen");
 }
 
 void jumpInto(Platform& platform, Zustand& zustand, Moment& moment, const Text& path) {
@@ -26,8 +17,7 @@ void jumpInto(Platform& platform, Zustand& zustand, Moment& moment, const Text& 
     try {
         loaded = SpielstandPrüfen(platform.files, zustand, path);
     } catch (const DataError& error) {
-        const Text text = Dateiname(path) + Text(" kann nicht geladen werden.\r\n\r\n"_t) + error.message();
-        return showMessageBox(platform, {"Zentrox", text, MessageBox::Icon::critical});
+        return showMessageBox(platform, {"Zentrox", LadefehlerText(path, error), MessageBox::Icon::critical});
     }
     if (!loaded.Fehlendes.empty() && !loadWithout(platform, loaded.Fehlendes)) return;
     const auto sidecar = readSidecar(platform.files, path);

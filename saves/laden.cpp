@@ -11,6 +11,9 @@ namespace zentrox {
 
 namespace {
 
+constexpr TextView fehltJetzt =
+    "Diese Geschichte hat nicht mehr alles, was in dem Spielstand in der Tasche liegt. Es fehlt:"_t;
+
 // A game saved where the data lay elsewhere names its items by paths of there. What this data has by the same name
 // is the same item, and only so commands find it.
 void heimbringen(const Files& files, Zustand& z) {
@@ -22,6 +25,16 @@ void heimbringen(const Files& files, Zustand& z) {
 }
 
 }  // namespace
+
+Text LadefehlerText(const Text& pfad, const DataError& fehler) {
+    return Dateiname(pfad) + Text(" kann nicht geladen werden.\r\n\r\n"_t) + fehler.message();
+}
+
+Text FehlendesText(const std::vector<Text>& gegenstände) {
+    Text text(fehltJetzt);
+    for (const Text& name : gegenstände) text += "\r\n    " + name;
+    return text;
+}
 
 std::vector<Text> FehlendeGegenstände(const Files& files, const Zustand& z) {
     std::vector<Text> namen;
@@ -39,7 +52,11 @@ Ladung SpielstandPrüfen(const Files& files, const Zustand& z, TextView pfad) {
     const auto stand = std::make_unique<Zustand>();
     if (!SpielstandLesen(ladung.Bytes, *stand))
         throw DataError(Dateiname(pfad) + Text(" ist kein Spielstand oder beschädigt."_t));
-    readRoom(files, z.PfadRooms + Dateiname(stand->RaumDatei));
+    try {
+        readRoom(files, z.PfadRooms + Dateiname(stand->RaumDatei));
+    } catch (const DataError& fehler) {
+        throw RaumFehler(fehler.message());
+    }
     stand->PfadItems = z.PfadItems;
     ladung.RaumDatei = stand->RaumDatei;
     ladung.Fehlendes = FehlendeGegenstände(files, *stand);

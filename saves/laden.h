@@ -6,6 +6,7 @@
 #include "engine/interpreter/raumfenster.h"
 #include "engine/state/zustand.h"
 #include "platform/platform.h"
+#include "platform/values/error.h"
 
 namespace zentrox {
 
@@ -16,9 +17,19 @@ struct Ladung {
     std::vector<Text> Fehlendes;  // the names of its items that this data lacks
 };
 
+// The room of a saved game is missing or can't be read.
+class RaumFehler : public DataError {
+public:
+    using DataError::DataError;
+};
+
 // Looks at a saved game, and touches nothing of the one that runs. Throws `DataError`, which says in German why it
-// can't be loaded: there is no such file, it is no saved game or damaged, or its room is.
+// can't be loaded: there is no such file, it is no saved game or damaged, or `RaumFehler`.
 Ladung SpielstandPrüfen(const Files& files, const Zustand& z, TextView pfad);
+
+// For the player: why the game at `pfad` can't be loaded, and what of it this story has no more.
+Text LadefehlerText(const Text& pfad, const DataError& fehler);
+Text FehlendesText(const std::vector<Text>& gegenstände);
 
 // The names of the carried items that this data lacks.
 std::vector<Text> FehlendeGegenstände(const Files& files, const Zustand& z);

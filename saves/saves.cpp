@@ -47,11 +47,14 @@ bool lesen(const Files& files, const Text& pfad, Zustand& z) {
     }
 }
 
-// A game that can't be loaded at all is told of when that is tried.
-bool erwünscht(const Files& files, const Zustand& z, const Text& pfad, Speicherwart& wart) {
+// False if the game that runs shall stay as it is. Bytes that are no saved game are told of when they are read.
+bool erwünscht(Platform& platform, const Zustand& z, const Text& pfad, Speicherwart& wart) {
     try {
-        const Ladung ladung = SpielstandPrüfen(files, z, pfad);
-        return ladung.Fehlendes.empty() || wart.TrotzdemLaden(ladung.Fehlendes);
+        const Ladung ladung = SpielstandPrüfen(platform.files, z, pfad);
+        return ladung.Fehlendes.empty() || wart.TrotzdemLaden(platform, ladung.Fehlendes);
+    } catch (const RaumFehler& fehler) {
+        melden(platform, LadefehlerText(pfad, fehler), MessageBox::Icon::critical);
+        return false;
     } catch (const DataError&) {
         return true;
     }
@@ -71,6 +74,11 @@ Text Speicherwart::Fragen(Platform& platform, Zustand& z, TextView titel) {
     dialog.showModal();
     const Text* const pfad = std::get_if<Text>(&z.Übergabe);
     return pfad != nullptr ? *pfad : Text();
+}
+
+bool Speicherwart::TrotzdemLaden(Platform& platform, const std::vector<Text>& gegenstände) {
+    melden(platform, FehlendesText(gegenstände), MessageBox::Icon::information);
+    return true;
 }
 
 void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum, Speicherwart& wart) {
@@ -105,7 +113,7 @@ bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum, Speicherwart&
         raum.CountDownAn(true);
         return false;
     }
-    if (!erwünscht(platform.files, z, pfad, wart)) {
+    if (!erwünscht(platform, z, pfad, wart)) {
         raum.CountDownAn(true);
         return false;
     }

@@ -18,8 +18,9 @@ public:
     virtual Text Fragen(Platform& platform, Zustand& z, TextView titel);
     // The running game has been written there.
     virtual void Geschrieben(const Text& /*pfad*/, TextView /*bytes*/) {}
-    // Whether a game shall be loaded although this data lacks items of it, given by their names.
-    virtual bool TrotzdemLaden(const std::vector<Text>& /*gegenstände*/) { return true; }
+    // Whether a game shall be loaded although this data lacks items of it, given by their names. This one says so
+    // in a box and loads.
+    virtual bool TrotzdemLaden(Platform& platform, const std::vector<Text>& gegenstände);
 };
 
 // Asks for a name and writes the game. A failure is a message box, after which the game goes on.
@@ -27,7 +28,8 @@ void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum, Speicherw
 void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum);
 
 // Asks for a name, reads the game and enters its room. True when that has happened; the room that was open before
-// is then gone, and the script that asked must end.
+// is then gone, and the script that asked must end. A game whose room can't be read is told of in a box, and the
+// one that runs stays as it is.
 bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum, Speicherwart& wart);
 bool SpielLaden(Platform& platform, Zustand& z, Raumfenster& raum);
 

@@ -97,6 +97,44 @@ expect room Bequem.lsd
 expect item verloren
 END
 
+# The dialog's load, out of the box: a thing that is gone is told of, a room that is gone leaves the play alone.
+cp "$scratch/saves/schnell-1.xtc" "$scratch/saves/weg.xtc"
+sed -i 's/^Bequem.lsd/Weg.lsd/' "$scratch/saves/weg.xtc"
+settings nichts
+play --args Bequem.lsd <<'END'
+until idle
+use Ding
+until idle
+use Tür
+until idle
+key f1
+until window Dialog
+type "weg"
+key enter
+until window MsgBox
+expect text "weg.xtc kann nicht geladen werden"
+expect text "Weg.lsd"
+key enter
+until idle
+expect room Hinten.lsd
+expect item blue
+expect flag DA
+use Zurück
+until idle
+key f1
+until window Dialog
+type "schnell-1"
+key enter
+until window MsgBox
+expect text "Es fehlt:"
+expect text "verloren"
+key enter
+until idle
+expect room Bequem.lsd
+expect item verloren
+END
+rm "$scratch/saves/weg.xtc"
+
 # Leaving asks once something is lost, and only then.
 settings beenden-fragen bilder-der-spielstaende
 play --args Bequem.lsd <<'END'

@@ -52,6 +52,13 @@ struct SavesPlay : Stage {
         backend.type(name);
         backend.key(key::enter);
     }
+    // The data of the story that is played: an empty room that saved games lead to, and items.
+    void data(const std::vector<std::string>& items) {
+        z.PfadRooms = platform.files.programDirectory() + "rooms\\";
+        z.PfadItems = platform.files.programDirectory() + "items\\";
+        directory.write("rooms/Küche.lsd", "a.jpg,-1,-1,-1\r\n");
+        for (const std::string& item : items) directory.write("items/" + item, "");
+    }
     Text lastBox() const { return backend.boxes.empty() ? Text() : backend.boxes.back().text; }
 };
 

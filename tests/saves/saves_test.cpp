@@ -73,8 +73,10 @@ TEST(SpielLaden, EntersTheSavedRoom) {
     SavesPlay play;
     Zustand saved;
     playOn(saved);
+    play.data({"seil.bmp"});
+    saved.Inventar[0] = play.z.PfadItems + "seil.bmp";
+    saved.InventarLetzter = 0;
     play.directory.write("saves/alt.xtc", savedPart(saved));
-    play.z.PfadRooms = "\\rooms\\";
     play.z.GezogenerGegenstand = 2;
     play.room.countDown = 700;
     play.answer("ALT");  // as it is found on the disk without regard to case
@@ -82,16 +84,15 @@ TEST(SpielLaden, EntersTheSavedRoom) {
     EXPECT_EQ(savedPart(play.z), savedPart(saved));
     EXPECT_EQ(play.z.GezogenerGegenstand, -1);
     EXPECT_EQ(std::get<Text>(play.z.Übergabe), "");
-    EXPECT_EQ(play.room.notes, (std::vector<Text>{"CountDown off", "CountDown 0", "CountDown on", "VersteckeLeiste",
-                                                  "GegenstaendeLaden", Text("Lade \\rooms\\Küche.lsd"_t)}));
+    EXPECT_EQ(play.room.notes,
+              (std::vector<Text>{"CountDown off", "CountDown 0", "CountDown on", "VersteckeLeiste",
+                                 "GegenstaendeLaden", "Lade " + play.z.PfadRooms + Text("Küche.lsd"_t)}));
     EXPECT_TRUE(play.backend.boxes.empty());
 }
 
 TEST(SpielLaden, BringsItemsToTheDirectoryOfThisData) {
     SavesPlay play;
-    play.z.PfadItems = play.platform.files.programDirectory() + "items\\";
-    play.directory.write("items/seil.bmp", "");
-    play.directory.write("items/Brief.bmp", "");
+    play.data({"seil.bmp", "Brief.bmp"});
     const Text anders = upper(play.z.PfadItems) + "BRIEF.BMP";
     Zustand saved;
     playOn(saved);
@@ -99,10 +100,32 @@ TEST(SpielLaden, BringsItemsToTheDirectoryOfThisData) {
     saved.InventarLetzter = 2;
     play.directory.write("saves/alt.xtc", savedPart(saved));
     play.answer("alt");
+    play.backend.key(key::enter);
     EXPECT_TRUE(SpielLaden(play.platform, play.z, play.room));
+    EXPECT_TRUE(play.lastBox().ends_with("Es fehlt:\r\n    Schlüssel"_t)) << "what is gone is told";
     EXPECT_EQ(play.z.Inventar[0], play.z.PfadItems + "seil.bmp");
     EXPECT_EQ(play.z.Inventar[1], saved.Inventar[1]) << "this data has no such item";
     EXPECT_EQ(play.z.Inventar[2], anders) << "a path that is found as it stands stays";
+}
+
+TEST(SpielLaden, ARoomThatIsGoneIsToldOfAndLeavesTheGameAlone) {
+    SavesPlay play;
+    play.data({});
+    Zustand saved;
+    playOn(saved);
+    saved.RaumDatei = "Weg.lsd";
+    play.directory.write("saves/alt.xtc", savedPart(saved));
+    play.room.countDown = 700;
+    play.z.RaumDatei = "Hof.lsd";
+    const Text before = savedPart(play.z);
+    play.answer("alt");
+    play.backend.key(key::enter);
+    EXPECT_FALSE(SpielLaden(play.platform, play.z, play.room));
+    EXPECT_TRUE(play.lastBox().starts_with("alt.xtc kann nicht geladen werden."));
+    EXPECT_NE(play.lastBox().find("Weg.lsd"), Text::npos);
+    EXPECT_EQ(savedPart(play.z), before);
+    EXPECT_EQ(play.room.notes, (std::vector<Text>{"CountDown off", "CountDown on"}));
+    EXPECT_EQ(play.room.countDown, 700);
 }
 
 TEST(SpielLaden, CancelledOrNotFoundLetsTheCountDownRunOn) {
@@ -129,6 +152,8 @@ TEST(SpielLaden, AnEmptyFieldIsNoNameToBeOfferedAgain) {
     }
     Zustand saved;
     playOn(saved);
+    saved.InventarLetzter = -1;
+    play.data({});
     play.directory.write("saves/.xtc", savedPart(saved));
     play.z.LetzterSpielstand = "";
     play.backend.key(key::enter);
