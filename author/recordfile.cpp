@@ -9,6 +9,10 @@ namespace fs = std::filesystem;
 
 void RecordText::line(const std::string& line) {
     tail_.clear();
+    if (lines_.size() >= most) {
+        lines_.erase(lines_.begin(), lines_.begin() + most / 2);
+        cut_ = true;
+    }
     lines_.push_back(last_ = line);
 }
 
@@ -27,6 +31,7 @@ void RecordText::clear() {
     lines_.clear();
     tail_.clear();
     last_.clear();
+    cut_ = false;
 }
 
 RecordFile::RecordFile(const fs::path& path, bool goOn) : path_(path) {

@@ -24,17 +24,23 @@ protected:
     std::string last_;
 };
 
-// In memory.
+// In memory, which it does not fill: of more than `most` lines the older half goes.
 class RecordText : public RecordLines {
 public:
+    static constexpr std::size_t most = 20'000;
+
     void line(const std::string& line) override;
     void tail(const std::string& line) override { tail_ = line; }
     void changeLast(const std::string& line) override;
     std::string text() const;
     void clear();
+    std::size_t lines() const { return lines_.size(); }
+    // Lines have gone.
+    bool cut() const { return cut_; }
 
 private:
     std::vector<std::string> lines_;
+    bool cut_ = false;
     std::string tail_;
 };
 

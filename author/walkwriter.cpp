@@ -16,6 +16,8 @@ namespace {
 constexpr Milliseconds usualLimit = 30000;  // half of what a walk waits by itself
 constexpr int lookedAt = 0;
 constexpr int droppedOn = 2;
+constexpr std::size_t mostPassed = 10'000;  // texts of one script that are told one by one
+constexpr std::size_t mostTyped = 1000;     // characters in a line
 
 Text baseName(TextView path) {
     Text name = Dateiname(path);
@@ -255,6 +257,7 @@ void WalkWriter::Gelesen() {
         put("read");
         passed_.clear();
     }
+    if (passed_.size() == mostPassed) passed_.erase(passed_.begin());
     passed_.push_back(std::exchange(text_, {}));
 }
 
@@ -370,7 +373,7 @@ void WalkWriter::types(const Window& window, char character) {
     const std::string typed = toUtf8(Text(1, character));
     if (character == '"') return remarks("a quotation mark was typed here, which a walk can't");
     const std::string& last = file_.last();
-    const bool goesOn = window_ == toUtf8(window.name()) && last.starts_with(begin);
+    const bool goesOn = window_ == toUtf8(window.name()) && last.starts_with(begin) && last.size() < mostTyped;
     if (goesOn) return file_.changeLast(last.substr(0, last.size() - 1) + typed + '"');
     inWindow(toUtf8(window.name()));
     put(std::string(begin) + typed + '"');

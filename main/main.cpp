@@ -109,6 +109,18 @@ void offerSilence(Comforts& comforts) {
     comforts.platform().backend.restart();
 }
 
+// A fault of the program is told of while there still is something to report.
+int playOn(Platform& platform, Zustand& zustand, const Text& commandLine, const Extras& extras,
+           std::optional<Report>& report) {
+    try {
+        return Spielen(platform, zustand, commandLine, extras);
+    } catch (const std::exception& error) {
+        std::cerr << "zentrox: " << error.what() << '\n';
+        if (report) report->offerAfter(error.what());
+        return 1;
+    }
+}
+
 int play(const Options& options, const StoryPlace& place) {
     const Files& files = place.files;
     checkBeginning(options.beginning, files);
@@ -148,7 +160,7 @@ int play(const Options& options, const StoryPlace& place) {
         extras.withoutMenu = true;
     }
     extras.menuStands = [&keepsakes](auto begin) { keepsakes.menuStands(std::move(begin)); };
-    const int status = Spielen(platform, *zustand, fromUtf8(options.commandLine), extras);
+    const int status = playOn(platform, *zustand, fromUtf8(options.commandLine), extras, report);
     if (status != 0 && sound->error() == SoundError::noDriver) offerSilence(comforts);
     return status;
 }

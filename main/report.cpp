@@ -4,10 +4,12 @@
 #include <system_error>
 
 #include "comfort/pictures.h"
+#include "comfort/question.h"
 #include "engine/state/felder.h"
 #include "platform/codec/pictures.h"
 #include "platform/machine/replace_file.h"
 #include "platform/values/base64.h"
+#include "platform/values/error.h"
 #include "platform/window/messagebox.h"
 #include "saves/saves.h"
 #include "saves/spielstand.h"
@@ -19,6 +21,9 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t lineLength = 100;
+constexpr std::size_t mostOfARoom = 2000;  // lines of a walk that are kept of one room, while it rests now and then
+constexpr TextView programFault =
+    "Das Programm ist an einem Fehler gescheitert. Soll darüber ein Problembericht geschrieben werden?\n\n"_t;
 
 // For the player, who may want to know before it is mailed.
 constexpr const char* contents =
@@ -87,7 +92,7 @@ Report::Report(Comforts& comforts, fs::path directory, const std::string& call)
                           .control = true,
                           .label = "Strg+P",
                           .does = "einen Problembericht schreiben",
-                          .down = [this] { write(); },
+                          .down = [this] { comforts_.notice(write()); },
                           .nests = true});
 }
 
@@ -99,6 +104,18 @@ void Report::beginWalk(const std::string& call) {
 }
 
 void Report::Betritt(TextView room) {
+    room_ = room;
+    shortened_ = false;
+    beginHere();
+}
+
+void Report::Ruht() {
+    if (walk_.lines() < mostOfARoom) return;
+    shortened_ = true;
+    beginHere();
+}
+
+void Report::beginHere() {
     const Zustand& z = comforts_.zustand();
     Beginning beginning;
     for (const Text& flag : z.Merker)
@@ -107,7 +124,7 @@ void Report::Betritt(TextView room) {
         beginning.items.push_back(toUtf8(baseName(z.Inventar[static_cast<std::size_t>(i)])));
     beginning.evil = z.BösePunkte;
     beginning.random = comforts_.platform().random.state();
-    beginWalk(walkCall(toUtf8(room), beginning));
+    beginWalk(walkCall(toUtf8(room_), beginning));
 }
 
 std::string Report::head() const {
@@ -118,6 +135,12 @@ std::string Report::head() const {
         if (!line.empty()) out += remark("Einstellung", std::string(line));
     out += remark("Wartet in", toUtf8(comforts_.platform().queue.reasons()));
     out += remark("Meldung", boxText(comforts_.platform().queue));
+    out += remark("Am Ende stand ein Fehler", fault_);
+    if (shortened_)
+        out +=
+            "# Der Raum wurde sehr lange gespielt. Der Bericht beginnt dort, wo zuletzt nichts lief; was im Raum\n"
+            "# verändert war, ist beim Nachspielen wie beim Betreten.\n";
+    if (walk_.cut()) out += "# Der Anfang fehlt; der Rest lässt sich so nicht nachspielen.\n";
     return out + "#\n";
 }
 
@@ -127,16 +150,26 @@ std::string Report::tail() const {
            inRemarks("Bild, PNG", window != nullptr ? pngFile(window->compose()) : "");
 }
 
-void Report::write() {
+Text Report::write() {
     std::error_code error;
     fs::create_directories(directory_, error);
     const fs::path file = datedFile(directory_, "Zentrox-Bericht", ".txt");
     try {
         replaceFile(file, call_ + head() + walk_.text() + tail());
-        comforts_.notice(Text("Problembericht geschrieben:\n") + fromUtf8(file.string()));
+        return Text("Problembericht geschrieben:\n") + fromUtf8(file.string());
     } catch (const std::system_error& failure) {
-        comforts_.notice(Text("Der Bericht kann nicht geschrieben werden:\n") +
-                         SchreibfehlerText(failure.code().value()));
+        return Text("Der Bericht kann nicht geschrieben werden:\n") + SchreibfehlerText(failure.code().value());
+    }
+}
+
+void Report::offerAfter(const std::string& fault) {
+    fault_ = fault;
+    Platform& platform = comforts_.platform();
+    try {
+        if (ask(platform, Text(programFault) + fromUtf8(fault), "Bericht schreiben", "Beenden"))
+            showMessageBox(platform, {"Zentrox", write(), MessageBox::Icon::information});
+    } catch (const ProgramEnd&) {
+        // The question was cut off with the process.
     }
 }
 

@@ -21,16 +21,26 @@ public:
 
     // Begins the walk anew.
     void Betritt(TextView room) override;
+    // So it does where a room has been played for very long, with what a saved game would hold.
+    void Ruht() override;
+
+    // The play has ended by a fault of the program, its windows are gone: asks whether to write a report, and does.
+    void offerAfter(const std::string& fault);
 
 private:
     void beginWalk(const std::string& call);
-    void write();
+    void beginHere();
+    // What has become of it, for the player.
+    Text write();
     std::string head() const;
     std::string tail() const;
 
     Comforts& comforts_;
     std::filesystem::path directory_;
     std::string call_;
+    std::string fault_;
+    Text room_;
+    bool shortened_ = false;  // the walk does not begin where the room was entered
     author::RecordText walk_;
     std::optional<author::WalkWriter> writer_;  // always the same place in memory: it listens from there
 };

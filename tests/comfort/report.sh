@@ -72,5 +72,17 @@ reports "until idle
 $write"
 leads 'until window Menu'
 
+# A room that is played for very long: the report begins where it rested, and is no longer than others.
+reports "until idle
+use Tür
+until idle
+$(for i in $(seq 1100); do printf 'use _Wand\nuntil idle\nuse Lang\nuntil text "passt."\nkey a\nuntil idle\n'; done)
+$write
+say state" --args Bequem.lsd
+leads $'until idle\nsay state'
+grep -q '^# Der Raum wurde sehr lange gespielt' "$report" || fail "it does not say that it was cut"
+[ "$(grep -vc '^#' "$report")" -lt 2100 ] || fail "it holds all of a long play"
+head -1 "$report" | grep -q -e '--flags DA,WAND' || fail "not begun with the state it was cut at: $(head -1 "$report")"
+
 [ ! -e "$scratch/none" ] || fail "settings were written"
 exit $status

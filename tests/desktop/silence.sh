@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A machine without sound: the box and the end as ever, then the offer to begin again without, which is remembered; the
-# pictures that a player takes; a machine without fonts.
+# pictures that a player takes; a machine without fonts, or where one goes.
 set -uo pipefail
 zentrox=$1 data=$2 out=$3
 . "$(dirname "$0")/display.bash"
@@ -98,4 +98,33 @@ must_live "the menu without fonts"
 kill "$game"
 wait "$game"
 
+# A fault of the program, here a font that goes after it was listed: a report of it is offered and written.
+rm -rf fonts cache documents
+mkdir fonts documents
+cp /usr/share/fonts/truetype/liberation/Liberation{Sans-Regular,Serif-Bold}.ttf fonts/
+echo "<?xml version='1.0'?><fontconfig><dir>$PWD/fonts</dir><cachedir>$PWD/cache</cachedir></fontconfig>" >some.conf
+export FONTCONFIG_FILE=$PWD/some.conf XDG_DOCUMENTS_DIR=$PWD/documents
+play "$zentrox" --no-sound --dir "$data" Spiele.lsd
+sleep 1
+field 0 2
+sleep 0.8
+key space
+sleep 0.5
+rm fonts/LiberationSerif-Bold.ttf
+field 2 0
+eventually grep -q "LiberationSerif-Bold" game.log || fail "the font that is gone is no fault"
+sleep 0.8
+import -window root fault.png
+must_live "the question after a fault"
+key Return
+written() { ls documents/Zentrox-Bericht*.txt >/dev/null 2>&1; }
+eventually written || fail "no report"
+grep -q '^# Am Ende stand ein Fehler: .*LiberationSerif-Bold' documents/Zentrox-Bericht*.txt ||
+    fail "the report does not tell of the fault"
+sleep 0.4
+import -window root fault-told.png
+key Return
+eventually gone || fail "it does not end after the report"
+wait "$game"
+[ $? = 1 ] || fail "a fault has another status"
 exit 0
