@@ -1,6 +1,7 @@
 #include "comfort/hands.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 
 #include "platform/values/keys.h"
@@ -202,11 +203,12 @@ void Hands::draw(Bitmap& picture, const Rect& top) {
     if (comforts_.keys().busy()) return;
     const auto all = targets();
     const auto onPicture = [&](const Rect& area) { return Rect{area.at() + top.at(), area.size()}; };
+    std::vector<Rect> taken;
     if (showsAll_)
         for (const Target& one : all) {
             const bool dim = one.kind == Target::Kind::thing && used_.count(one.index) > 0;
             picture.outline(onPicture(one.area), dim ? dimmed : look::highlight);
-            drawName(picture, onPicture(one.area), one.name, dim);
+            drawName(picture, onPicture(one.area), one.name, dim, taken);
         }
     if (!focus_ || !comforts_.settings().keyboardPlay) return;
     const auto here = std::find(all.begin(), all.end(), *focus_);
@@ -216,16 +218,31 @@ void Hands::draw(Bitmap& picture, const Rect& top) {
     picture.outline(area, black);
     picture.outline(look::shrunk(area, 1), frameColour);
     picture.outline(look::shrunk(area, 2), black);
-    drawName(picture, area, here->name, false);
+    taken.clear();
+    drawName(picture, area, here->name, false, taken);
 }
 
-// In the middle of the place, held inside the picture.
-void Hands::drawName(Bitmap& picture, const Rect& area, TextView name, bool dim) const {
+// In the middle of the place, held inside the picture. Larger letters go out of the way of names that stand
+// already.
+void Hands::drawName(Bitmap& picture, const Rect& area, TextView name, bool dim, std::vector<Rect>& taken) const {
     if (name.empty()) return;
     const Font& font = comforts_.platform().fonts.get(comforts_.platform().boxFont());
     const Size size{font.width(name) + 2 * nameInset, font.lineHeight() + 2};
-    const Point at{std::clamp(area.x + (area.w - size.w) / 2, 0, std::max(0, picture.width() - size.w)),
-                   std::clamp(area.y + (area.h - size.h) / 2, 0, std::max(0, picture.height() - size.h))};
+    const auto heldAt = [&](int rows) {
+        return Point{
+            std::clamp(area.x + (area.w - size.w) / 2, 0, std::max(0, picture.width() - size.w)),
+            std::clamp(area.y + (area.h - size.h) / 2 + rows * size.h, 0, std::max(0, picture.height() - size.h))};
+    };
+    const auto free = [&](Point at) {
+        return std::none_of(taken.begin(), taken.end(), [&](const Rect& one) {
+            return !intersection(one, {at, size}).empty();
+        });
+    };
+    constexpr std::array ways{0, 1, -1, 2, -2, 3, -3};
+    const bool dodges = comforts_.platform().boxPercent > 100;
+    const auto way = std::find_if(ways.begin(), ways.end(), [&](int rows) { return free(heldAt(rows)); });
+    const Point at = heldAt(dodges && way != ways.end() ? *way : 0);
+    taken.push_back({at, size});
     picture.fill({at, size}, black);
     font.draw(picture, at + Point{nameInset, 1}, name, dim ? dimmed : look::highlight);
 }

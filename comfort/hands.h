@@ -37,7 +37,7 @@ private:
     void putBack();
     void handOver(Input::Kind kind, Point at, Button button = Button::none);
     void draw(Bitmap& picture, const Rect& top);
-    void drawName(Bitmap& picture, const Rect& area, TextView name, bool dim) const;
+    void drawName(Bitmap& picture, const Rect& area, TextView name, bool dim, std::vector<Rect>& taken) const;
 
     Comforts& comforts_;
     std::optional<Target> focus_;

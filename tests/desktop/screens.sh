@@ -40,6 +40,9 @@ screen() {
     display "$1" "$manager"
     mkdir -p config/zentrox
     echo 'vollbild = ja' >config/zentrox/einstellungen.txt
+    # What a desktop says of its scale changes nothing in pixels of the screen.
+    xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER $'Xft.dpi: 192\n'
+    export GDK_SCALE=2
     play "$zentrox" --dir "$data" Spiele.lsd
     eventually looks ganz 4 || fail "$1: whole multiples are off"
     key F8
