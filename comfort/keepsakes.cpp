@@ -11,6 +11,7 @@
 #include "engine/state/felder.h"
 #include "platform/values/error.h"
 #include "platform/values/keys.h"
+#include "saves/laden.h"
 
 namespace zentrox {
 
@@ -126,8 +127,9 @@ void Keepsakes::Geschrieben(const Text& path, TextView bytes) {
 }
 
 bool Keepsakes::TrotzdemLaden(Platform& platform, const std::vector<Text>& items) {
-    if (!comforts_.settings().richDialog) return Speicherwart::TrotzdemLaden(platform, items);
-    return loadWithout(platform, items);
+    if (comforts_.settings().richDialog) return loadWithout(platform, items);
+    comforts_.notice(FehlendesText(items));
+    return true;
 }
 
 // The player has closed the room window, and something would be lost.

@@ -76,11 +76,6 @@ Text Speicherwart::Fragen(Platform& platform, Zustand& z, TextView titel) {
     return pfad != nullptr ? *pfad : Text();
 }
 
-bool Speicherwart::TrotzdemLaden(Platform& platform, const std::vector<Text>& gegenstände) {
-    melden(platform, FehlendesText(gegenstände), MessageBox::Icon::information);
-    return true;
-}
-
 void SpielSpeichern(Platform& platform, Zustand& z, Raumfenster& raum, Speicherwart& wart) {
     if (raum.CountDownPeriode() != 0)
         return melden(platform, Text("Speichern nicht möglich!"_t), MessageBox::Icon::none);

@@ -18,9 +18,8 @@ public:
     virtual Text Fragen(Platform& platform, Zustand& z, TextView titel);
     // The running game has been written there.
     virtual void Geschrieben(const Text& /*pfad*/, TextView /*bytes*/) {}
-    // Whether a game shall be loaded although this data lacks items of it, given by their names. This one says so
-    // in a box and loads.
-    virtual bool TrotzdemLaden(Platform& platform, const std::vector<Text>& gegenstände);
+    // Whether a game shall be loaded although this data lacks items of it, given by their names.
+    virtual bool TrotzdemLaden(Platform& /*platform*/, const std::vector<Text>& /*gegenstände*/) { return true; }
 };
 
 // Asks for a name and writes the game. A failure is a message box, after which the game goes on.
