@@ -13,7 +13,7 @@ FontSpec fittingFont(const Platform& platform, TextView text, Size room) {
         const Font& face = platform.fonts.get(font);
         if (static_cast<int>(wrapText(face, text, room.w).size()) * face.lineHeight() <= room.h) return font;
     }
-    return usual;
+    return {};
 }
 
 }  // namespace zentrox

@@ -83,15 +83,16 @@ void SettingsWindow::place() {
     hint_.setArea(layout.hint);
     hint_.setFont(platform().boxFont());
     const Font& font = platform().fonts.get(platform().boxFont());
-    const int room = layout.client.w - 2 * inset;
-    const auto button = [&](PushButton& one, int share) {
-        const Size size{std::max(118, font.width(one.caption()) + 12), layout.buttonHeight};
-        one.setFont(platform().boxFont());
-        one.setArea({{inset + (room - size.w) * share / 2, layout.buttonTop}, size});
-    };
-    button(keys_, 0);
-    button(reset_, 1);
-    button(close_, 2);
+    int gaps = layout.client.w - 2 * inset;
+    for (PushButton* const one : {&keys_, &reset_, &close_}) {
+        const Size size{std::max(118, font.width(one->caption()) + 12), layout.buttonHeight};
+        one->setFont(platform().boxFont());
+        one->setArea({{0, layout.buttonTop}, size});
+        gaps -= size.w;
+    }
+    keys_.moveTo({inset, layout.buttonTop});
+    reset_.moveTo({keys_.area().right() + gaps / 2, layout.buttonTop});
+    close_.moveTo({layout.client.w - inset - close_.width(), layout.buttonTop});
     placeRows();
     root().changed();
 }

@@ -119,5 +119,16 @@ TEST(ARecordFrom, TheMiddleOfAStoryBeginsThere) {
         EXPECT_NE(first.states.front().find(part), Text::npos) << part;
 }
 
+TEST(ARecordInMemory, ForgetsTheOlderHalfOfVeryMuch) {
+    RecordText text;
+    for (std::size_t i = 0; i < RecordText::most; ++i) text.line("use " + std::to_string(i));
+    EXPECT_FALSE(text.cut());
+    text.line("use last");
+    EXPECT_TRUE(text.cut());
+    EXPECT_EQ(text.lines(), RecordText::most / 2 + 1);
+    EXPECT_TRUE(text.text().starts_with("use " + std::to_string(RecordText::most / 2) + "\n"));
+    EXPECT_EQ(text.last(), "use last");
+}
+
 }  // namespace
 }  // namespace zentrox::author
