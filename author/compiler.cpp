@@ -3,10 +3,10 @@
 #include <sstream>
 
 #include "platform/values/text.h"
+#include "tools/reasons/reasons.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
 #include "tools/story/datafiles.h"
-#include "tools/story/german.h"
 #include "tools/story/inputs.h"
 #include "tools/story/parser.h"
 
@@ -60,7 +60,7 @@ Compiler::Result Compiler::compile() {
     } catch (const story::WrongCall& call) {
         return failed(call.why);
     } catch (const fs::filesystem_error& error) {
-        return failed(error.path1().string() + ": " + story::inGerman(error.code()));
+        return failed(error.path1().string() + ": " + reasonInGerman(error.code()));
     } catch (const std::exception& error) {
         return failed(error.what());
     }

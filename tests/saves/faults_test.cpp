@@ -145,8 +145,8 @@ INSTANTIATE_TEST_SUITE_P(
         Written{"picture", probe({"--out", "@"}), "bild.png", {}, "until idle\nshot bild.png\n"},
         Written{"lines", probe({"--ran", "@/ran.json"}), "ran.json", {}, "until idle\nuse Ding\nuntil idle\n"},
         Written{"pack", {STORY, "pack", "%story", "--into", "@/x.zentrox"}, "x.zentrox"},
-        Written{"digits", {DIGITS, "500", "@/pi.txt"}, "pi.txt"},
-        Written{"notes", {NOTES, SONG, "@/lied.mid"}, "lied.mid"},
+        Written{"digits", {DIGITS, "500", "@/pi.txt"}, "pi.txt", {"lässt sich nicht schreiben: "}},
+        Written{"notes", {NOTES, SONG, "@/lied.mid"}, "lied.mid", {"lässt sich nicht schreiben: "}},
         Written{"story", {STORY, "build", ROOM, "--into", "@"}, "rooms/Klein.lsd"}),
     [](const auto& program) { return program.param.name; });
 

@@ -6,6 +6,7 @@
 
 #include "platform/machine/replace_file.h"
 #include "tools/digits/pi.h"
+#include "tools/reasons/reasons.h"
 
 int main(int count, char** arguments) {
     constexpr int callFailed = 2;
@@ -18,7 +19,7 @@ int main(int count, char** arguments) {
     try {
         zentrox::replaceFile(arguments[2], zentrox::piCharacters(characters));
     } catch (const std::system_error& error) {
-        std::cerr << "zentrox-digits: " << arguments[2] << ": " << error.code().message() << '\n';
+        std::cerr << "zentrox-digits: " << zentrox::cannotWrite(arguments[2], error) << '\n';
         return 1;
     }
     return 0;

@@ -7,6 +7,7 @@
 #include "platform/machine/whole_file.h"
 #include "tools/completion/completion.h"
 #include "tools/notes/song.h"
+#include "tools/reasons/reasons.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ int convert(const std::string& from, const std::string& to) {
     try {
         zentrox::replaceFile(to, zentrox::notes::midiFile(zentrox::notes::readSong(*text)));
     } catch (const std::system_error& error) {
-        return fail(to + ": " + error.code().message());
+        return fail(zentrox::cannotWrite(to, error));
     } catch (const zentrox::notes::SongError& error) {
         return fail(from + ":" + std::to_string(error.line) + ": " + error.what());
     }

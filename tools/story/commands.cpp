@@ -9,6 +9,7 @@
 #include "tools/completion/completion.h"
 #include "tools/editors/grammars.h"
 #include "tools/lsp/server.h"
+#include "tools/reasons/reasons.h"
 #include "tools/story/build.h"
 #include "tools/story/check.h"
 #include "tools/story/coverage.h"
@@ -350,7 +351,7 @@ int run(std::vector<std::string> arguments, std::ostream& out, std::ostream& err
     } catch (const WrongCall& call) {
         err << "zentrox-story: " << call.why << "\n";
     } catch (const fs::filesystem_error& error) {
-        err << "zentrox-story: " << error.path1().string() << ": " << inGerman(error.code()) << "\n";
+        err << "zentrox-story: " << error.path1().string() << ": " << reasonInGerman(error.code()) << "\n";
     }
     return wrongCall;
 }

@@ -11,7 +11,5 @@ void speakGerman(CLI::App& app);
 
 // What is wrong with a call.
 std::string inGerman(const CLI::ParseError& error);
-// Why the system refuses.
-std::string inGerman(const std::error_code& error);
 
 }  // namespace zentrox::story

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "platform/values/text.h"
+#include "tools/reasons/reasons.h"
 #include "tools/story/data.h"
 #include "tools/story/german.h"
 
@@ -31,7 +32,7 @@ std::vector<fs::path> filesIn(const fs::path& directory, bool (*wanted)(const fs
     std::vector<fs::path> inside;
     std::error_code error;
     fs::directory_iterator entries(directory, error);
-    if (error) throw WrongCall{directory.string() + " lässt sich nicht lesen: " + inGerman(error)};
+    if (error) throw WrongCall{directory.string() + " lässt sich nicht lesen: " + reasonInGerman(error)};
     for (const auto& entry : entries)
         if (wanted(entry.path()) && entry.is_regular_file(error)) inside.push_back(entry.path());
     std::sort(inside.begin(), inside.end());
