@@ -20,6 +20,7 @@
 #include "main/spiel.h"
 #include "main/story.h"
 #include "platform/codec/apart/handlers.h"
+#include "platform/codec/mp3.h"
 #include "platform/codec/zip.h"
 #include "platform/machine/roots.h"
 #include "platform/machine/system.h"
@@ -180,6 +181,12 @@ int refuse(const Options& options, const DataError& error) {
     return 1;
 }
 
+apart::Handlers handlers() {
+    apart::Handlers all = apart::handlers();
+    all[static_cast<std::size_t>(apart::Job::mp3)] = mp3Handler();
+    return all;
+}
+
 int play(Options options) {
     if (options.author && !options.storyNamed) {
         options.directory = author::dataOf(*options.author);
@@ -202,7 +209,7 @@ int play(Options options) {
 int main(int argc, char** argv) {
     const Call call = readOptions(argc, argv, programDirectory());
     if (!call.options) return call.status;
-    const apart::Apart decoders(apart::handlers(), apart::ofPlayers);
+    const apart::Apart decoders(handlers(), apart::ofPlayers);
     try {
         return play(*call.options);
     } catch (const std::exception& error) {

@@ -3,10 +3,13 @@
 
 #include <SDL_surface.h>
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string_view>
 
 #include "platform/machine/files.h"
+#include "platform/values/geometry.h"
 
 namespace zentrox {
 
@@ -34,9 +37,20 @@ private:
     std::string_view bytes_;
 };
 
-// The picture in a JPEG, bitmap or PNG file; null where it is another file, incomplete, or claims a size that its
-// bytes can't fill.
-SurfaceHandle decodePicture(std::string_view bytes);
+// What becomes of what a picture lets through.
+enum class Opacity : std::uint8_t {
+    filled,  // 0x00RRGGBB; it is black
+    kept     // 0xAARRGGBB
+};
+
+// Makes room for the pixels of a picture of this size.
+using PixelRoom = std::function<std::uint32_t*(Size size)>;
+
+// The picture in a JPEG, bitmap or PNG file, row by row. False where it is another file, incomplete, or claims a
+// size that its bytes can't fill. A worker decodes it if there is one.
+bool decodePicture(std::string_view bytes, Opacity opacity, const PixelRoom& room);
+// The same, always in this process.
+bool decodePictureHere(std::string_view bytes, Opacity opacity, const PixelRoom& room);
 
 // The failure of a file that is no picture, or none any more.
 [[noreturn]] void failDamaged(const Files& files, TextView path);

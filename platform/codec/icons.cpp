@@ -1,8 +1,5 @@
 // Icon files: a directory of pictures, each a small bitmap with a mask or a PNG.
-#include <SDL_pixels.h>
-
 #include <cstdlib>
-#include <cstring>
 #include <optional>
 
 #include "platform/codec/decode.h"
@@ -159,16 +156,13 @@ bool readBitmap(Icon& icon, const Head& head) {
 }
 
 bool readPng(Icon& icon, const Head& head) {
-    const SurfaceHandle picture = decodePicture(head.data.from(0));
-    if (!picture || picture->w != head.size.w || picture->h != head.size.h) return false;
-    const SurfaceHandle plain(SDL_ConvertSurfaceFormat(picture.get(), SDL_PIXELFORMAT_ARGB8888, 0));
-    if (!plain) return false;
-    const auto width = static_cast<std::size_t>(head.size.w);
-    icon.pixels.resize(width * static_cast<std::size_t>(head.size.h));
-    for (int y = 0; y < head.size.h; ++y)
-        std::memcpy(icon.pixels.data() + static_cast<std::size_t>(y) * width,
-                    static_cast<const char*>(plain->pixels) + std::ptrdiff_t{y} * plain->pitch, width * 4);
-    return true;
+    bool right = false;
+    const bool decoded = decodePicture(head.data.from(0), Opacity::kept, [&](Size size) {
+        right = size == head.size;
+        icon.pixels.resize(static_cast<std::size_t>(size.w) * static_cast<std::size_t>(size.h));
+        return icon.pixels.data();
+    });
+    return decoded && right;
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 
 #include <array>
 
+#include "platform/codec/apart/media.h"
+
 namespace zentrox {
 
 namespace {
@@ -21,7 +23,7 @@ struct Closer {
 template <class T>
 using Owned = std::unique_ptr<T, Closer>;
 
-Owned<mpg123_handle> openDecoder(const std::filesystem::path& file) {
+Owned<mpg123_handle> openDecoder(const OpenFile& file) {
     mpg123_init();
     Owned<mpg123_handle> decoder(mpg123_new(nullptr, nullptr));
     if (!decoder) return nullptr;
@@ -32,12 +34,12 @@ Owned<mpg123_handle> openDecoder(const std::filesystem::path& file) {
     mpg123_format_none(decoder.get());
     for (std::size_t i = 0; i < count; ++i)
         mpg123_format(decoder.get(), rates[i], MPG123_STEREO, MPG123_ENC_SIGNED_16);
-    return mpg123_open(decoder.get(), file.c_str()) == MPG123_OK ? std::move(decoder) : nullptr;
+    return mpg123_open_fd(decoder.get(), file.file->number()) == MPG123_OK ? std::move(decoder) : nullptr;
 }
 
 class Mp3Reader final : public AudioReader {
 public:
-    explicit Mp3Reader(Owned<mpg123_handle> decoder) : decoder_(std::move(decoder)) {}
+    Mp3Reader(OpenFile file, Owned<mpg123_handle> decoder) : file_(std::move(file)), decoder_(std::move(decoder)) {}
 
     // False if there is not a single frame of sound.
     bool begin() {
@@ -68,20 +70,34 @@ private:
         return got > 0;
     }
 
+    OpenFile file_;
     Owned<mpg123_handle> decoder_;
     Owned<SDL_AudioStream> resampler_;
     std::array<unsigned char, 4608> decoded_{};  // one frame of the file
     bool ended_ = false;
 };
 
-}  // namespace
-
-std::unique_ptr<AudioReader> openMp3(const std::filesystem::path& file) {
+std::unique_ptr<AudioReader> openHere(const OpenFile& file) {
     auto decoder = openDecoder(file);
     if (!decoder) return nullptr;
-    auto reader = std::make_unique<Mp3Reader>(std::move(decoder));
+    auto reader = std::make_unique<Mp3Reader>(file, std::move(decoder));
     if (!reader->begin()) return nullptr;
     return reader;
+}
+
+}  // namespace
+
+std::unique_ptr<AudioReader> openMp3(const std::filesystem::path& path) {
+    const OpenFile file{sharedForReading(path), path.filename().string()};
+    if (!file.file) return nullptr;
+    if (auto worker = apart::workerFor(apart::Job::mp3, file)) return apart::soundFrom(std::move(worker));
+    return openHere(file);
+}
+
+apart::Handler mp3Handler() {
+    return {nullptr, [](apart::Channel& channel, const OpenFile& file) {
+                apart::serveSound(channel, openHere(file).get());
+            }};
 }
 
 }  // namespace zentrox

@@ -1,6 +1,7 @@
 #include <SDL_image.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <system_error>
 
@@ -121,10 +122,10 @@ const char* usableFormat(const FileBytes& file) {
     return nullptr;
 }
 
-// A surface of SDL's whose pixels are those of a bitmap.
-SurfaceHandle wrapped(Bitmap& bitmap) {
-    return SurfaceHandle(SDL_CreateRGBSurfaceWithFormatFrom(bitmap.row(0), bitmap.width(), bitmap.height(), 32,
-                                                            bitmap.width() * 4, SDL_PIXELFORMAT_XRGB8888));
+// A surface of SDL's that has these pixels.
+SurfaceHandle surfaceOn(std::uint32_t* pixels, Size size) {
+    return SurfaceHandle(
+        SDL_CreateRGBSurfaceWithFormatFrom(pixels, size.w, size.h, 32, size.w * 4, SDL_PIXELFORMAT_XRGB8888));
 }
 
 // A stream of SDL's that appends what is written to a text.
@@ -149,11 +150,43 @@ SDL_RWops* writerTo(std::string& bytes) {
 
 }  // namespace
 
-SurfaceHandle decodePicture(std::string_view bytes) {
+namespace {
+
+SurfaceHandle surfaceOf(std::string_view bytes) {
     const char* const format = usableFormat(FileBytes(bytes));
     if (format == nullptr) return nullptr;
     SDL_RWops* const in = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
     return SurfaceHandle(IMG_LoadTyped_RW(in, 1, format));
+}
+
+bool copyFilled(SDL_Surface& picture, bool bitmap, std::uint32_t* pixels) {
+    const SurfaceHandle target = surfaceOn(pixels, {picture.w, picture.h});
+    // A bitmap's fourth byte means nothing; what a PNG lets through is black.
+    if (bitmap) SDL_SetSurfaceBlendMode(&picture, SDL_BLENDMODE_NONE);
+    if (!target || SDL_BlitSurface(&picture, nullptr, target.get(), nullptr) != 0) return false;
+    const std::size_t count = static_cast<std::size_t>(picture.w) * static_cast<std::size_t>(picture.h);
+    for (std::size_t i = 0; i < count; ++i) pixels[i] &= white.rgb;
+    return true;
+}
+
+bool copyWhole(SDL_Surface& picture, std::uint32_t* pixels) {
+    const SurfaceHandle plain(SDL_ConvertSurfaceFormat(&picture, SDL_PIXELFORMAT_ARGB8888, 0));
+    if (!plain) return false;
+    const auto width = static_cast<std::size_t>(plain->w);
+    for (int y = 0; y < plain->h; ++y)
+        std::memcpy(pixels + static_cast<std::size_t>(y) * width,
+                    static_cast<const char*>(plain->pixels) + std::ptrdiff_t{y} * plain->pitch, width * 4);
+    return true;
+}
+
+}  // namespace
+
+bool decodePictureHere(std::string_view bytes, Opacity opacity, const PixelRoom& room) {
+    const SurfaceHandle picture = surfaceOf(bytes);
+    if (!picture) return false;
+    std::uint32_t* const pixels = room({picture->w, picture->h});
+    return opacity == Opacity::kept ? copyWhole(*picture, pixels)
+                                    : copyFilled(*picture, bytes.starts_with("BM"), pixels);
 }
 
 void failDamaged(const Files& files, TextView path) {
@@ -163,16 +196,12 @@ void failDamaged(const Files& files, TextView path) {
 namespace {
 
 Bitmap decoded(const Files& files, TextView path, const std::string& bytes) {
-    const SurfaceHandle picture = decodePicture(bytes);
-    if (!picture) failDamaged(files, path);
-    Bitmap bitmap({picture->w, picture->h});
-    const SurfaceHandle target = wrapped(bitmap);
-    // A bitmap's fourth byte means nothing; what a PNG lets through is black.
-    if (bytes.starts_with("BM")) SDL_SetSurfaceBlendMode(picture.get(), SDL_BLENDMODE_NONE);
-    if (!target || SDL_BlitSurface(picture.get(), nullptr, target.get(), nullptr) != 0) failDamaged(files, path);
-    const std::size_t count = static_cast<std::size_t>(bitmap.width()) * static_cast<std::size_t>(bitmap.height());
-    std::uint32_t* const pixels = bitmap.row(0);
-    for (std::size_t i = 0; i < count; ++i) pixels[i] &= white.rgb;
+    Bitmap bitmap;
+    const bool good = decodePicture(bytes, Opacity::filled, [&](Size size) {
+        bitmap = Bitmap(size);
+        return bitmap.row(0);
+    });
+    if (!good) failDamaged(files, path);
     return bitmap;
 }
 
@@ -195,7 +224,7 @@ Bitmap loadPicture(const Files& files, TextView path, Size size) {
 std::string pngFile(const Bitmap& bitmap) {
     if (bitmap.empty()) return {};
     Bitmap copy = bitmap;
-    const SurfaceHandle surface = wrapped(copy);
+    const SurfaceHandle surface = surfaceOn(copy.row(0), copy.size());
     std::string file;
     if (!surface || IMG_SavePNG_RW(surface.get(), writerTo(file), 1) != 0) return {};
     return file;
@@ -204,7 +233,7 @@ std::string pngFile(const Bitmap& bitmap) {
 std::string jpegFile(const Bitmap& bitmap, int quality) {
     if (bitmap.empty()) return {};
     Bitmap copy = bitmap;
-    const SurfaceHandle surface = wrapped(copy);
+    const SurfaceHandle surface = surfaceOn(copy.row(0), copy.size());
     std::string file;
     if (!surface || IMG_SaveJPG_RW(surface.get(), writerTo(file), 1, quality) != 0) return {};
     return file;

@@ -140,7 +140,7 @@ void silence(int standard) {
 }
 
 // Serves the program as long as there is one.
-[[noreturn]] void help(const Handler* handlers, int program) {
+[[noreturn]] void help(const Handlers& handlers, int program) {
     std::array<bool, jobs> prepared{};
     const pid_t self = getpid();
     for (;;) {
@@ -149,7 +149,8 @@ void silence(int standard) {
         if (!receiveWith(program, order, files)) _exit(0);
         const auto number = static_cast<std::size_t>(order.job);
         const Handler& handler = handlers[number];
-        if (!prepared[number]) prepared[number] = handler.prepare == nullptr || handler.prepare();
+        if (!prepared[number])
+            prepared[number] = handler.work != nullptr && (handler.prepare == nullptr || handler.prepare());
         if (!prepared[number] || !order.worker) {
             sendWith(program, Answer{prepared[number]}, {});
             continue;
@@ -165,7 +166,7 @@ void silence(int standard) {
 }
 
 // A terminal's and a session's end are the program's matter; nobody waits for workers.
-[[noreturn]] void becomeHelper(const Handler* handlers, Descriptor program, pid_t parent) {
+[[noreturn]] void becomeHelper(const Handlers& handlers, Descriptor program, pid_t parent) {
     for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGPIPE, SIGCHLD})
         static_cast<void>(std::signal(signal, SIG_IGN));
     prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -190,7 +191,7 @@ Apart* Apart::standing() {
     return theOne();
 }
 
-Apart::Apart(const Handler* handlers, Patience patience) : patience_(patience) {
+Apart::Apart(const Handlers& handlers, Patience patience) : patience_(patience) {
     auto [ours, theirs] = socketPair(SOCK_SEQPACKET);
     if (!ours.isOpen()) return;
     const pid_t parent = getpid();
@@ -204,6 +205,7 @@ Apart::Apart(const Handler* handlers, Patience patience) : patience_(patience) {
 Apart::~Apart() {
     if (process_ < 0) return;
     theOne() = nullptr;
+    pictures_.reset();
     helper_.reset();
     while (waitpid(process_, nullptr, 0) < 0 && errno == EINTR) {
     }
@@ -236,7 +238,13 @@ std::unique_ptr<Worker> Apart::worker(Job job, const OpenFile& file) {
     return std::make_unique<Worker>(Channel(std::move(ours)), std::move(process.places[0]), patience_);
 }
 
+Worker* Apart::pictureWorker() {
+    if (!pictures_ || pictures_->ended() || pictures_->channel.gone()) pictures_ = worker(Job::pictures);
+    return pictures_.get();
+}
+
 void Worker::end() {
+    ended_ = true;
     if (process_.isOpen()) syscall(SYS_pidfd_send_signal, process_.number(), SIGKILL, nullptr, 0);
     process_.reset();
 }

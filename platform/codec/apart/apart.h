@@ -16,13 +16,17 @@
 
 namespace zentrox::apart {
 
-enum class Job { sound, soundLength, film, filmLength };
-constexpr std::size_t jobs = 4;
+enum class Job { sound, soundLength, film, filmLength, mp3, pictures };
+constexpr std::size_t jobs = 6;
 
 struct Handler {
     bool (*prepare)();  // in the helper, with all rights and no data, before the first of its workers; may be null
-    void (*work)(Channel& channel, const OpenFile& file);  // sealed
+    // Sealed. Without it the program does the job in its own process.
+    void (*work)(Channel& channel, const OpenFile& file);
 };
+
+// In the order of the jobs.
+using Handlers = std::array<Handler, jobs>;
 
 // How long the program waits for a worker.
 struct Patience {
@@ -47,19 +51,20 @@ public:
     Worker& operator=(const Worker&) = delete;
 
     void end();
+    bool ended() const { return ended_; }
 
     Channel channel;
     Patience patience;
 
 private:
     Descriptor process_;  // not open where the kernel has no such thing; who finds the channel closed ends then
+    bool ended_ = false;
 };
 
 // The helper's life. For the main thread; to be made before there is another one.
 class Apart {
 public:
-    // `handlers` has an element for each job.
-    Apart(const Handler* handlers, Patience patience);
+    Apart(const Handlers& handlers, Patience patience);
     ~Apart();
     Apart(const Apart&) = delete;
     Apart& operator=(const Apart&) = delete;
@@ -68,6 +73,8 @@ public:
     bool prepared(Job job);
     // Null where there is no helper, or it can't fork: the system is short of something.
     std::unique_ptr<Worker> worker(Job job, const OpenFile& file = {});
+    // The one for all pictures, anew where the last one is gone; null as above.
+    Worker* pictureWorker();
     // The one that is alive; null where all is decoded in this process.
     static Apart* standing();
 
@@ -76,6 +83,7 @@ private:
     int process_ = -1;
     Patience patience_;
     std::array<bool, jobs> prepared_{};
+    std::unique_ptr<Worker> pictures_;
 };
 
 // Null where it has to be done in this process.

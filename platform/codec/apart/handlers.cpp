@@ -1,6 +1,7 @@
 #include "platform/codec/apart/handlers.h"
 
 #include "platform/codec/apart/media.h"
+#include "platform/codec/apart/pictures.h"
 
 namespace zentrox::apart {
 
@@ -26,17 +27,21 @@ void filmLength(Channel& channel, const OpenFile& file) {
     channel.sendValue(loadedDecoder()->videoLength(file));
 }
 
-constexpr std::array<Handler, jobs> table{{
-    {load, sound},
-    {load, soundLength},
-    {load, film},
-    {load, filmLength},
-}};
+void pictures(Channel& channel, const OpenFile& /*none*/) {
+    servePictures(channel);
+}
 
 }  // namespace
 
-const Handler* handlers() {
-    return table.data();
+Handlers handlers() {
+    return {{
+        {load, sound},
+        {load, soundLength},
+        {load, film},
+        {load, filmLength},
+        {nullptr, nullptr},
+        {nullptr, pictures},
+    }};
 }
 
 }  // namespace zentrox::apart

@@ -5,7 +5,7 @@
 
 namespace zentrox::apart {
 
-// One for each job, in their order.
-const Handler* handlers();
+// For what every machine decodes; MP3 has one of its own (mp3.h).
+Handlers handlers();
 
 }  // namespace zentrox::apart
