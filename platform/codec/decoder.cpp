@@ -50,13 +50,15 @@ public:
     std::int64_t audioLength(const std::filesystem::path& path) override {
         const OpenFile file = open(path);
         if (!file.file) return 0;
-        if (const auto worker = apart::workerFor(Job::soundLength, file)) return apart::lengthFrom(*worker);
+        if (auto* const worker = apart::residentFor(Job::lengths))
+            return apart::lengthFrom(*worker, apart::Length::ofSound, file);
         return loadedDecoder() != nullptr ? loadedDecoder()->audioLength(file) : 0;
     }
     std::int64_t videoLength(const std::filesystem::path& path) override {
         const OpenFile file = open(path);
         if (!file.file) return 0;
-        if (const auto worker = apart::workerFor(Job::filmLength, file)) return apart::lengthFrom(*worker);
+        if (auto* const worker = apart::residentFor(Job::lengths))
+            return apart::lengthFrom(*worker, apart::Length::ofFilm, file);
         return loadedDecoder() != nullptr ? loadedDecoder()->videoLength(file) : 0;
     }
 

@@ -37,7 +37,8 @@ Pixels decoded(decltype(decodePicture)& decode, const std::string& file, Opacity
 std::vector<std::string> pictures() {
     Bitmap bitmap({203, 97});
     for (int y = 0; y < 97; ++y)
-        for (int x = 0; x < 203; ++x) bitmap.row(y)[x] = static_cast<std::uint32_t>(x * 70'001 + y * 131) & white.rgb;
+        for (int x = 0; x < 203; ++x)
+            bitmap.row(y)[x] = static_cast<std::uint32_t>(x * 70'001 + y * 131) & white.rgb;
     const std::string png = pngFile(bitmap);
     // One pixel that lets half of the light through.
     constexpr std::string_view halfSeen(
@@ -48,7 +49,8 @@ std::vector<std::string> pictures() {
         70);
     std::string damaged = png;
     damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 0x55);
-    return {png, jpegFile(bitmap, 80), std::string(halfSeen), png.substr(0, png.size() / 2), damaged, "kein Bild", ""};
+    return {png, jpegFile(bitmap, 80), std::string(halfSeen), png.substr(0, png.size() / 2), damaged, "kein Bild",
+            ""};
 }
 
 std::vector<pid_t> workers() {
@@ -77,7 +79,8 @@ TEST(Pictures, AreToTheByteWhatThisProcessMakesOfThem) {
 }
 
 TEST(Pictures, GoOnWhereTheirWorkerIsKilled) {
-    const Apart apart(apart::handlers(), {std::chrono::milliseconds(50), std::chrono::seconds(1), std::chrono::seconds(1)});
+    const Apart apart(apart::handlers(),
+                      {std::chrono::milliseconds(50), std::chrono::seconds(1), std::chrono::seconds(1)});
     const std::string file = pictures()[0];
     EXPECT_TRUE(decoded(decodePicture, file, Opacity::filled).good);
     kill(workers().at(0), SIGKILL);

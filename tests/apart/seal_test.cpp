@@ -103,12 +103,12 @@ const std::vector<Attempt>& attempts() {
 }
 
 // Seals itself and answers with a letter for each attempt.
-[[noreturn]] void tryAll(int answers, const std::filesystem::path& file) {
+[[noreturn]] void tryAll(int answers, const std::filesystem::path& file, bool takesFiles) {
     const int readable = open(file.c_str(), O_RDONLY);
     const int writable = open(file.c_str(), O_RDWR);
     dup2(answers, 20), dup2(readable, 21), dup2(writable, 22);
     dup2(20, channelPlace), dup2(21, filePlace), dup2(22, other);
-    std::string result(1, apart::seal() ? 's' : 'u');
+    std::string result(1, apart::seal(takesFiles) ? 's' : 'u');
     for (const Attempt& attempt : attempts()) {
         errno = 0;
         const long got = attempt.tried();
@@ -122,13 +122,15 @@ const std::vector<Attempt>& attempts() {
     _exit(0);
 }
 
-TEST(Seal, LeavesNoRightsButToReckonAndToAnswer) {
+class Seal : public testing::TestWithParam<bool> {};
+
+TEST_P(Seal, LeavesNoRightsButToReckonAndToAnswer) {
     const TempDirectory directory;
     const auto file = directory.write("daten", "daten");
     std::array<int, 2> ends{};
     ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
     const pid_t child = fork();
-    if (child == 0) tryAll(ends[1], file);
+    if (child == 0) tryAll(ends[1], file, GetParam());
     close(ends[1]);
     std::string result;
     std::array<char, 100> buffer{};
@@ -141,6 +143,8 @@ TEST(Seal, LeavesNoRightsButToReckonAndToAnswer) {
     for (std::size_t i = 0; i < attempts().size(); ++i)
         EXPECT_EQ(result[i + 1], attempts()[i].possible ? 'y' : 'n') << attempts()[i].what;
 }
+
+INSTANTIATE_TEST_SUITE_P(WithAndWithoutFurtherFiles, Seal, testing::Bool());
 
 }  // namespace
 }  // namespace zentrox::test

@@ -10,9 +10,9 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <utility>
 
+#include "platform/codec/apart/messages.h"
 #include "platform/codec/apart/seal.h"
 
 namespace zentrox::apart {
@@ -23,71 +23,12 @@ namespace {
 struct Order {
     Job job{};
     bool worker = false;  // else to prepare only
-    std::array<char, 64> ending{};
+    Ending ending;
 };
 
 struct Answer {
     bool done = false;
 };
-
-constexpr std::size_t mostFiles = 2;
-
-struct Files {
-    std::array<Descriptor, mostFiles> places;
-};
-
-// --- messages with open files
-
-template <class Value>
-bool sendWith(int socket, const Value& value, std::initializer_list<int> files) {
-    iovec piece{const_cast<Value*>(&value), sizeof value};
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int) * mostFiles)> control{};
-    msghdr message{};
-    message.msg_iov = &piece;
-    message.msg_iovlen = 1;
-    if (files.size() > 0) {
-        message.msg_control = control.data();
-        message.msg_controllen = CMSG_SPACE(sizeof(int) * files.size());
-        cmsghdr* const head = CMSG_FIRSTHDR(&message);
-        head->cmsg_level = SOL_SOCKET;
-        head->cmsg_type = SCM_RIGHTS;
-        head->cmsg_len = CMSG_LEN(sizeof(int) * files.size());
-        std::memcpy(CMSG_DATA(head), files.begin(), sizeof(int) * files.size());
-    }
-    for (;;) {
-        const ssize_t sent = sendmsg(socket, &message, MSG_NOSIGNAL);
-        if (sent >= 0 || errno != EINTR) return sent == sizeof value;
-    }
-}
-
-void keepFiles(msghdr& message, Files& files) {
-    for (cmsghdr* head = CMSG_FIRSTHDR(&message); head != nullptr; head = CMSG_NXTHDR(&message, head)) {
-        if (head->cmsg_level != SOL_SOCKET || head->cmsg_type != SCM_RIGHTS) continue;
-        const std::size_t count = (head->cmsg_len - CMSG_LEN(0)) / sizeof(int);
-        for (std::size_t i = 0; i < std::min(count, mostFiles); ++i) {
-            int number = -1;
-            std::memcpy(&number, CMSG_DATA(head) + i * sizeof(int), sizeof number);
-            files.places[i] = Descriptor(number);
-        }
-    }
-}
-
-template <class Value>
-bool receiveWith(int socket, Value& value, Files& files) {
-    iovec piece{&value, sizeof value};
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int) * mostFiles)> control{};
-    msghdr message{};
-    message.msg_iov = &piece;
-    message.msg_iovlen = 1;
-    message.msg_control = control.data();
-    message.msg_controllen = control.size();
-    for (;;) {
-        const ssize_t got = recvmsg(socket, &message, MSG_CMSG_CLOEXEC);
-        if (got < 0 && errno == EINTR) continue;
-        if (got > 0) keepFiles(message, files);
-        return got == sizeof value;
-    }
-}
 
 std::pair<Descriptor, Descriptor> socketPair(int type) {
     std::array<int, 2> ends{-1, -1};
@@ -128,9 +69,9 @@ void silence(int standard) {
         keepOnly({files.places[0].number(), files.places[1].number()});
     else
         keepOnly({files.places[0].number()});
-    const OpenFile file{hasFile ? std::make_shared<const Descriptor>(filePlace) : nullptr, order.ending.data()};
+    const OpenFile file{hasFile ? std::make_shared<const Descriptor>(filePlace) : nullptr, order.ending.text()};
     Channel channel{Descriptor(channelPlace)};
-    seal();
+    seal(handler.takesFiles);
     try {
         handler.work(channel, file);
     } catch (...) {
@@ -205,7 +146,7 @@ Apart::Apart(const Handlers& handlers, Patience patience) : patience_(patience) 
 Apart::~Apart() {
     if (process_ < 0) return;
     theOne() = nullptr;
-    pictures_.reset();
+    for (auto& resident : residents_) resident.reset();
     helper_.reset();
     while (waitpid(process_, nullptr, 0) < 0 && errno == EINTR) {
     }
@@ -224,12 +165,14 @@ std::unique_ptr<Worker> workerFor(Job job, const OpenFile& file) {
     return Apart::standing() != nullptr ? Apart::standing()->worker(job, file) : nullptr;
 }
 
+Worker* residentFor(Job job) {
+    return Apart::standing() != nullptr ? Apart::standing()->resident(job) : nullptr;
+}
+
 std::unique_ptr<Worker> Apart::worker(Job job, const OpenFile& file) {
     auto [ours, theirs] = socketPair(SOCK_STREAM);
     if (!ours.isOpen()) return nullptr;
-    Order order{job, true};
-    const std::size_t length = std::min(file.name.size(), order.ending.size() - 1);
-    file.name.copy(order.ending.data(), length, file.name.size() - length);
+    const Order order{job, true, Ending(file.name)};
     Answer answer;
     Files process;
     const bool sent = file.file ? sendWith(helper_.number(), order, {theirs.number(), file.file->number()})
@@ -238,9 +181,10 @@ std::unique_ptr<Worker> Apart::worker(Job job, const OpenFile& file) {
     return std::make_unique<Worker>(Channel(std::move(ours)), std::move(process.places[0]), patience_);
 }
 
-Worker* Apart::pictureWorker() {
-    if (!pictures_ || pictures_->ended() || pictures_->channel.gone()) pictures_ = worker(Job::pictures);
-    return pictures_.get();
+Worker* Apart::resident(Job job) {
+    auto& known = residents_[static_cast<std::size_t>(job)];
+    if (!known || known->ended() || known->channel.gone()) known = worker(job);
+    return known.get();
 }
 
 void Worker::end() {

@@ -1,9 +1,9 @@
 // Decodes in other processes. Decoders are libraries with a history, and files of a story come from anywhere:
 // whatever a file makes of its decoder, it stays in a process that has no rights (seal.h).
 //
-// A helper is forked when the program begins. It reads no data; for each sound and film, and once for all pictures,
-// it forks a worker, which is sealed before it reads the first byte. Workers end with the helper, and the helper
-// with the program, however that ends.
+// A helper is forked when the program begins. It reads no data; for each sound and film that plays, for all
+// pictures and for all lengths, it forks a worker, which is sealed before it reads the first byte. Workers end with
+// the helper, and the helper with the program, however that ends.
 #pragma once
 
 #include <array>
@@ -16,13 +16,14 @@
 
 namespace zentrox::apart {
 
-enum class Job { sound, soundLength, film, filmLength, mp3, pictures };
-constexpr std::size_t jobs = 6;
+enum class Job { sound, film, lengths, mp3, pictures };
+constexpr std::size_t jobs = 5;
 
 struct Handler {
     bool (*prepare)();  // in the helper, with all rights and no data, before the first of its workers; may be null
     // Sealed. Without it the program does the job in its own process.
     void (*work)(Channel& channel, const OpenFile& file);
+    bool takesFiles = false;  // through the channel, one after the other
 };
 
 // In the order of the jobs.
@@ -73,8 +74,8 @@ public:
     bool prepared(Job job);
     // Null where there is no helper, or it can't fork: the system is short of something.
     std::unique_ptr<Worker> worker(Job job, const OpenFile& file = {});
-    // The one for all pictures, anew where the last one is gone; null as above.
-    Worker* pictureWorker();
+    // The one for all files of its kind, anew where the last one is gone; null as above.
+    Worker* resident(Job job);
     // The one that is alive; null where all is decoded in this process.
     static Apart* standing();
 
@@ -83,10 +84,11 @@ private:
     int process_ = -1;
     Patience patience_;
     std::array<bool, jobs> prepared_{};
-    std::unique_ptr<Worker> pictures_;
+    std::array<std::unique_ptr<Worker>, jobs> residents_;
 };
 
 // Null where it has to be done in this process.
-std::unique_ptr<Worker> workerFor(Job job, const OpenFile& file = {});
+std::unique_ptr<Worker> workerFor(Job job, const OpenFile& file);
+Worker* residentFor(Job job);
 
 }  // namespace zentrox::apart

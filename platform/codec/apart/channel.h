@@ -22,6 +22,7 @@ public:
     std::size_t receive(void* bytes, std::size_t size, Wait wait = {});
     // False where not all of them could be sent. Who ignores SIGPIPE may wait as long as it takes.
     bool send(const void* bytes, std::size_t size, Wait wait = {});
+    int socket() const { return socket_.number(); }
     // The other end is gone, as far as has been tried.
     bool gone() const { return gone_; }
 

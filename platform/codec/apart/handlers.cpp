@@ -15,16 +15,12 @@ void sound(Channel& channel, const OpenFile& file) {
     serveSound(channel, loadedDecoder()->openAudio(file).get());
 }
 
-void soundLength(Channel& channel, const OpenFile& file) {
-    channel.sendValue(loadedDecoder()->audioLength(file));
-}
-
 void film(Channel& channel, const OpenFile& file) {
     serveFilm(channel, loadedDecoder()->openVideo(file).get());
 }
 
-void filmLength(Channel& channel, const OpenFile& file) {
-    channel.sendValue(loadedDecoder()->videoLength(file));
+void lengths(Channel& channel, const OpenFile& /*none*/) {
+    serveLengths(channel, *loadedDecoder());
 }
 
 void pictures(Channel& channel, const OpenFile& /*none*/) {
@@ -36,9 +32,8 @@ void pictures(Channel& channel, const OpenFile& /*none*/) {
 Handlers handlers() {
     return {{
         {load, sound},
-        {load, soundLength},
         {load, film},
-        {load, filmLength},
+        {load, lengths, true},
         {nullptr, nullptr},
         {nullptr, pictures},
     }};

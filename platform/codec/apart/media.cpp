@@ -5,6 +5,8 @@
 #include <limits>
 #include <vector>
 
+#include "platform/codec/apart/messages.h"
+
 namespace zentrox::apart {
 
 namespace {
@@ -29,6 +31,12 @@ struct Head {
 struct Look {
     Flag another = 0;
     std::int64_t endsAt = notYet;
+};
+
+// Of which file the length is wanted; with it comes the file.
+struct LengthQuestion {
+    Flag film = 0;
+    Ending ending;
 };
 
 // The first position at which the film has ended; `notYet` while there are pictures to come.
@@ -162,9 +170,25 @@ std::unique_ptr<VideoReader> filmFrom(std::unique_ptr<Worker> worker) {
     return std::make_unique<FilmFromWorker>(std::move(worker), head);
 }
 
-std::int64_t lengthFrom(Worker& worker) {
-    std::int64_t length = 0;
-    return worker.channel.receiveValue(length, worker.patience.whole) ? std::max<std::int64_t>(0, length) : 0;
+void serveLengths(Channel& channel, FileDecoder& decoder) {
+    for (;;) {
+        LengthQuestion question;
+        Files files;
+        if (!receiveWith(channel.socket(), question, files)) return;
+        const OpenFile file{std::make_shared<const Descriptor>(std::move(files.places[0])), question.ending.text()};
+        const auto length = question.film != 0 ? decoder.videoLength(file) : decoder.audioLength(file);
+        if (!channel.sendValue(length)) return;
+    }
+}
+
+std::int64_t lengthFrom(Worker& worker, Length length, const OpenFile& file) {
+    const LengthQuestion question{Flag{length == Length::ofFilm}, Ending(file.name)};
+    std::int64_t found = 0;
+    if (sendWith(worker.channel.socket(), question, {file.file->number()}) &&
+        worker.channel.receiveValue(found, worker.patience.whole))
+        return std::max<std::int64_t>(0, found);
+    worker.end();
+    return 0;
 }
 
 }  // namespace zentrox::apart

@@ -54,8 +54,7 @@ bool askFor(Worker& worker, std::string_view bytes, Opacity opacity, const Pixel
 }  // namespace
 
 bool decodePicture(std::string_view bytes, Opacity opacity, const PixelRoom& room) {
-    apart::Apart* const apart = apart::Apart::standing();
-    Worker* const worker = apart != nullptr ? apart->pictureWorker() : nullptr;
+    Worker* const worker = apart::residentFor(apart::Job::pictures);
     return worker != nullptr ? askFor(*worker, bytes, opacity, room) : decodePictureHere(bytes, opacity, room);
 }
 

@@ -131,12 +131,16 @@ private:
     std::vector<sock_filter> code_;
 };
 
-bool setFilter() {
+bool setFilter(bool takesFiles) {
     if (machine == 0) return false;
     Filter filter;
     for (const long call : harmless) filter.allow(call);
     filter.allowOn(SYS_write, channelPlace);
     if (watched) filter.allowOn(SYS_write, STDERR_FILENO);
+    if (takesFiles) {
+        filter.allowOn(SYS_recvmsg, channelPlace);
+        filter.allow(SYS_close);
+    }
 #ifdef SYS_mmap
     filter.allowWithout(SYS_mmap, 2, PROT_EXEC);
 #endif
@@ -154,16 +158,16 @@ void bound(decltype(RLIMIT_CORE) what, std::uint64_t most) {
 
 }  // namespace
 
-bool seal() {
+bool seal(bool takesFiles) {
     bound(RLIMIT_CORE, 0);
     bound(RLIMIT_NPROC, 0);
-    bound(RLIMIT_NOFILE, 0);  // what is open stays so
+    bound(RLIMIT_NOFILE, takesFiles ? 8 : 0);
     bound(RLIMIT_CPU, limits::workerSeconds);
     if (!watched) {  // sanitizers reserve terabytes, and write down what they find
         bound(RLIMIT_DATA, limits::workerBytes);
         bound(RLIMIT_FSIZE, 0);
     }
-    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && setFilter();
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && setFilter(takesFiles);
 }
 
 }  // namespace zentrox::apart
