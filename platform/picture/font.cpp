@@ -18,12 +18,20 @@ int brightness(Colour colour) {
 
 }  // namespace
 
+// It comes as a picture: a part of what the letters stand on, and no letters itself.
 void Font::drawOutline(Bitmap& target, Point at, TextView line, Colour colour) const {
     const int breadth = lineHeight() < thickFrom ? 1 : 2;
+    const Colour round = brightness(colour) < darkBelow ? light : black;
+    const int lean = lineHeight() / 2;
+    const Rect whole{at.x - lean, at.y - lean, width(line) + 2 * lean, lineHeight() + 2 * lean};
+    const Rect area = intersection(whole, target.clip());
+    if (area.empty()) return;
+    Bitmap piece(area.size());
+    for (int y = 0; y < area.h; ++y) std::copy_n(target.row(area.y + y) + area.x, area.w, piece.row(y));
     for (int y = -breadth; y <= breadth; ++y)
         for (int x = -breadth; x <= breadth; ++x)
-            if (x != 0 || y != 0)
-                draw(target, at + Point{x, y}, line, brightness(colour) < darkBelow ? light : black);
+            if (x != 0 || y != 0) ink(piece, at - area.at() + Point{x, y}, line, round);
+    target.copy(piece, piece.bounds(), area.at());
 }
 
 Size Font::measure(TextView text) const {

@@ -89,6 +89,21 @@ TEST(Letters, ChangeNothingAndCanBeLifted) {
     EXPECT_GT(lifted, 1000U);
 }
 
+TEST(Letters, StandOnTheirOutlineAlsoInTheColourOfTheGround) {
+    const auto fonts = makeFonts();
+    fonts->setNotes(true);
+    Bitmap picture(area);
+    const Font& font = fonts->get({});
+    font.drawOutline(picture, {20, 20}, "Ab", black);
+    EXPECT_EQ(picture.letters(), nullptr) << "an outline is no text";
+    const Bitmap outline = picture;
+    font.draw(picture, {20, 20}, "Ab", black);
+    LetterLift lift;
+    Rect part = picture.bounds();
+    EXPECT_EQ(lift.lift(picture, part).size(), 2U);
+    EXPECT_EQ(lift.base(), outline);
+}
+
 // A room with a surface on it, at three times its size.
 struct Room {
     Room() { scene.opened(window); }
