@@ -36,6 +36,8 @@ const Text* missing(const std::vector<Text>& some, const std::vector<Text>& othe
 
 // --- lines
 
+WalkWriter::~WalkWriter() = default;
+
 void WalkWriter::put(const std::string& line) {
     const Milliseconds now = platform_ != nullptr ? platform_->queue.clock() : lastAt_;
     if (wait_) file_.line("wait " + std::to_string(now - lastAt_));

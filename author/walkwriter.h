@@ -17,6 +17,7 @@ namespace zentrox::author {
 class WalkWriter : public Beobachter {
 public:
     explicit WalkWriter(RecordLines& file) : file_(file) {}
+    ~WalkWriter() override;  // inline, GCC 14 takes it for one of a writer that was never made
 
     // A life of the program begins, with its menu if it is not the first; both null: it is over.
     void watch(Platform* platform, const Zustand* state);
