@@ -49,7 +49,8 @@ constexpr std::int64_t countedBytes = 512LL << 20U;
 constexpr std::int64_t filmPixels = 4096LL * 2304;
 constexpr double filmPicture =
     60'000;  // milliseconds; a picture that is said to be seen for longer is wrongly dated
-constexpr std::int64_t filmGap = 64'000'000;  // bytes that are read without a picture or sound among them
+constexpr std::int64_t filmGap = 64'000'000;      // bytes that are read without a picture or sound among them
+constexpr std::int64_t filmOpening = 24'000'000;  // bytes that are read to find out what a file holds
 constexpr std::int64_t filmSearch =
     250;  // ms of the processor for the next piece of a file, or all pictures of a moment
 constexpr std::uint64_t filmPiece = 128'000'000;  // bytes that a decoder may ask for at once

@@ -33,7 +33,8 @@ std::int64_t timeOfThread() {
 bool Input::impatient() const {
     const AVIOContext* const file = reading_ == nullptr ? nullptr : reading_->pb;
     if (file == nullptr) return false;
-    return file->bytes_read - foundAt_ > limits::filmGap || timeOfThread() - searchesSince_ > limits::filmSearch;
+    return file->bytes_read - foundAt_ > (format_ ? limits::filmGap : limits::filmOpening) ||
+           timeOfThread() - searchesSince_ > limits::filmSearch;
 }
 
 bool Input::readPiece() {
@@ -91,8 +92,9 @@ bool Input::openFile() {
     const int failed = avformat_open_input(&format, ("file:" + file_.name).c_str(), nullptr, &options);
     av_dict_free(&options);
     if (failed != 0) return false;
+    const bool known = avformat_find_stream_info(format, nullptr) >= 0;
     format_.reset(format);
-    if (avformat_find_stream_info(format, nullptr) < 0) return false;
+    if (!known) return false;
     found();
     return true;
 }
