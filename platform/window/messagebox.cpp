@@ -15,10 +15,11 @@ namespace zentrox {
 
 namespace {
 
-constexpr int margin = 12;       // pixels round all that stands in the box
-constexpr int iconSide = 32;     // pixels
-constexpr int widestText = 420;  // pixels; longer lines are wrapped
-constexpr int veryWidest = 560;  // of larger letters
+constexpr int margin = 12;        // pixels round all that stands in the box
+constexpr int iconSide = 32;      // pixels
+constexpr int widestText = 420;   // pixels; longer lines are wrapped
+constexpr int veryWidest = 560;   // of larger letters
+constexpr int tallestText = 400;  // pixels; the rest is cut, so that the button stays in sight
 constexpr Size buttonSize{75, 23};
 constexpr int titleExtra = 60;  // what a title bar needs beside its text
 
@@ -92,20 +93,33 @@ Bitmap draw(MessageBox::Icon icon) {
 
 // Where everything stands in a box.
 struct Layout {
+    Text words;
     Size client;
     Rect text;
     Rect icon;
     Rect button;
 };
 
+// What stands in so many lines of the text; the last of them then ends in dots.
+Text cut(const Text& text, std::vector<TextLine>& lines, std::size_t most) {
+    if (lines.size() <= most) return text;
+    lines.resize(most);
+    TextLine& last = lines.back();
+    last.end = std::max(last.begin, last.end - std::min(last.end, std::size_t{3}));
+    Text words = text.substr(0, last.end) + "...";
+    last.end = words.size();
+    return words;
+}
+
 Layout layOut(Platform& platform, const MessageBox& box) {
     const int percent = platform.boxPercent;
     const Font& font = platform.fonts.get(platform.boxFont());
     const Size button{buttonSize.w * percent / 100, buttonSize.h * percent / 100};
-    const auto lines = wrapText(font, box.text, std::min(widestText * percent / 100, veryWidest));
+    auto lines = wrapText(font, box.text, std::min(widestText * percent / 100, veryWidest));
     const bool hasIcon = box.icon != MessageBox::Icon::none;
     Layout out;
-    out.text = {hasIcon ? 2 * margin + iconSide : margin, margin, widestLine(font, box.text, lines),
+    out.words = cut(box.text, lines, static_cast<std::size_t>(tallestText / font.lineHeight()));
+    out.text = {hasIcon ? 2 * margin + iconSide : margin, margin, widestLine(font, out.words, lines),
                 static_cast<int>(lines.size()) * font.lineHeight()};
     out.icon = {margin, margin, hasIcon ? iconSide : 0, hasIcon ? iconSide : 0};
     if (hasIcon) out.text.y += std::max(0, (iconSide - out.text.h) / 2);
@@ -122,7 +136,7 @@ public:
     MsgBox(Platform& platform, const MessageBox& box, const Layout& layout)
         : Window(platform, "MsgBox", box.title, layout.client, Frame::dialog),
           icon_(&root(), layout.icon),
-          text_(&root(), layout.text, box.text),
+          text_(&root(), layout.text, layout.words),
           ok_(&root(), layout.button, "OK"),
           failure_(box.icon == MessageBox::Icon::critical) {
         text_.setFont(platform.boxFont());

@@ -31,7 +31,8 @@ opens() {
 heard() { tail -c 38400 heard.raw | tr -d '\0' | wc -c; }
 sounds() { [ "$(heard)" -gt 1000 ]; }
 # What the pi game's circle has of its 91 points; there are three, each a second and a half.
-points() { import -window root -crop 400x300+312+234 -depth 8 rgb:- 2>/dev/null | xxd -p -c 3 | grep -c '^00ff00$'; }
+points() { import -window root -crop 400x300+312+234 -depth 8 rgb:- 2>/dev/null |
+    od -An -v -tx1 -w3 | grep -c '00 ff 00'; }
 some_points() { [ "$(points)" -ge 10 ]; }
 # Milliseconds of the processor that the program has used, its sound aside, which has a thread of its own.
 used() { awk '{ print int($1 / 1000000) }' "/proc/$game/schedstat"; }
