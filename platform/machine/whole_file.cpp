@@ -15,7 +15,7 @@ constexpr std::uint64_t piece = 65'536;  // bytes read at a time where nobody sa
 // Appends up to `count` bytes; false at the end.
 bool readMore(std::istream& in, std::string& bytes, std::uint64_t count) {
     const std::size_t before = bytes.size();
-    bytes.resize(before + count);
+    bytes.resize(before + static_cast<std::size_t>(count));
     in.read(bytes.data() + before, static_cast<std::streamsize>(count));
     bytes.resize(before + static_cast<std::size_t>(in.gcount()));
     return in.good();
