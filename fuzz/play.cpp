@@ -185,7 +185,12 @@ Stage::~Stage() {
 
 void Stage::lay(const std::string& file) const {
     fs::create_directories((directory_ / file).parent_path());
-    fs::copy_file(fs::path(ZENTROX_FUZZ_STORY) / file, directory_ / file, fs::copy_options::overwrite_existing);
+    const fs::path from = fs::path(ZENTROX_FUZZ_STORY) / file;
+    std::error_code error;
+    // The fuzzer's own timer interrupts a copy that a burdened machine takes long for.
+    do fs::copy_file(from, directory_ / file, fs::copy_options::overwrite_existing, error);
+    while (error == std::errc::interrupted);
+    if (error) throw fs::filesystem_error("no copy", from, error);
 }
 
 std::string Stage::whole(const std::string& file) const {
