@@ -82,9 +82,9 @@ KeyPage::KeyPage(Control* parent, const Rect& area, std::vector<KeyLine> lines)
 }
 
 const Font& KeyPage::font(bool bold) const {
-    FontSpec spec = window()->platform().boxFont();
-    spec.bold = bold;
-    return look::fontFor(*this, spec);
+    FontSpec wanted = window()->platform().boxFont();
+    wanted.bold = bold;
+    return look::fontFor(*this, wanted);
 }
 
 int KeyPage::pitch() const {

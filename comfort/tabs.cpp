@@ -25,7 +25,8 @@ Text Tabs::shownText() const {
 
 // The room that the names leave is shared by all.
 Rect Tabs::tab(std::size_t index) const {
-    const Font& font = look::fontFor(*this, window()->platform().boxFont());
+    const FontSpec wanted = window()->platform().boxFont();
+    const Font& font = look::fontFor(*this, wanted);
     const auto count = static_cast<int>(names_.size());
     int all = 0;
     int before = 0;
@@ -67,7 +68,8 @@ bool Tabs::keyDown(int code, bool /*shift*/, bool control) {
 }
 
 void Tabs::paint(Bitmap& onto, Point at) {
-    const Font& font = look::fontFor(*this, window()->platform().boxFont());
+    const FontSpec wanted = window()->platform().boxFont();
+    const Font& font = look::fontFor(*this, wanted);
     const look::Clip clip(onto, {at, area().size()});
     for (std::size_t i = 0; i < names_.size(); ++i) {
         Rect body{tab(i).at() + at, tab(i).size()};
