@@ -14,13 +14,13 @@ video() { # NAME SECONDS PICTURE SOUND FILTER
 }
 
 # From the stars down to the school, where one window is green. It winks.
-sox -V1 "$sounds/bonus-nacht.mp3" "$work/nacht.wav" pad 2 8 reverb 20 40 60 gain -n -4
+sox -V1 -R "$sounds/bonus-nacht.mp3" "$work/nacht.wav" pad 2 8 reverb 20 40 60 gain -n -4
 video Nachtgeschichte 26 raum_nacht.svg nacht.wav \
     "drawbox=x=1432:y=1736:w=20:h=28:color=0x5cf08e:t=fill:enable='between(t,22,22.4)+between(t,22.8,24.6)',crop=1280:960:640:'960*(1-cos(PI*min(t/19,1)))/2'"
 
 # Along the writing on the blackboard; the chalk is heard before it speaks.
 sox -V1 -R -n -r 22050 -b 16 -c 1 "$work/kratzen.wav" synth 0.16 pinknoise highpass 1800 gain -14 fade q 0.02 0.16 0.08 pad 0.1 0.09 repeat 4
-sox -V1 "$sounds/bonus-kreide.mp3" "$work/rede.wav" pad 1.9 4
-sox -V1 -m "$work/kratzen.wav" "$work/rede.wav" "$work/kreide.wav" gain -n -4
+sox -V1 -R "$sounds/bonus-kreide.mp3" "$work/rede.wav" pad 1.9 4
+sox -V1 -R -m "$work/kratzen.wav" "$work/rede.wav" "$work/kreide.wav" gain -n -4
 video "Die Kreide spricht" 7 raum_chemie.svg kreide.wav "crop=480:360:'760-14*t':'318+112*(1-cos(PI*min(t/5,1)))/2'"
 rm -f "$work"/*.wav "$work"/*.png

@@ -28,19 +28,19 @@ tone summen synth 10 sine 50 synth 10 sine mix 100 synth 10 sine mix 150 gain -1
 for at in 0.6 1.0 1.4 1.8; do
     tone "relais$at" synth 0.03 whitenoise highpass 900 gain -9 fade l 0.001 0.03 0.025 : \
         synth 0.06 sine 210-150 gain -9 fade l 0.001 0.06 0.05
-    sox -V1 "$work/relais$at.wav" "$work/teil_relais$at.wav" pad "$at"
+    sox -V1 -R "$work/relais$at.wav" "$work/teil_relais$at.wav" pad "$at"
 done
 tone motor synth 2.2 sawtooth 18-96 lowpass 620 gain -13 fade q 0.6 2.2 0 : \
     synth 5.5 sawtooth 96 lowpass 620 gain -13 tremolo 4 18 fade t 0 5.5 1.2
-sox -V1 "$work/motor.wav" "$work/teil_motor.wav" pad 2.3
+sox -V1 -R "$work/motor.wav" "$work/teil_motor.wav" pad 2.3
 tone roehre synth 0.06 whitenoise gain -9 fade l 0.001 0.06 0.04 : synth 0.5 sine 60-2400 gain -16 fade q 0.02 0.5 0.4
-sox -V1 "$work/roehre.wav" "$work/teil_roehre.wav" pad 4.5
+sox -V1 -R "$work/roehre.wav" "$work/teil_roehre.wav" pad 4.5
 tone zeichen synth 0.022 square 1318 lowpass 3500 gain -20 fade l 0.001 0.022 0.01 pad 0 0.044667 repeat 38
-sox -V1 "$work/zeichen.wav" "$work/teil_zeichen.wav" pad 5.0
+sox -V1 -R "$work/zeichen.wav" "$work/teil_zeichen.wav" pad 5.0
 tone gruss synth 0.16 triangle 523 gain -12 fade l 0.003 0.16 0.04 : synth 0.16 triangle 659 gain -12 fade l 0.003 0.16 0.04 : \
     synth 0.90 triangle 784 synth 0.90 triangle mix 1047 gain -10 fade l 0.003 0.90 0.85
-sox -V1 "$work/gruss.wav" "$work/teil_gruss.wav" pad 7.95
-sox -V1 -m "$work/summen.wav" "$work"/teil_*.wav "$work/ton.wav" trim 0 10 reverb 16 40 40 gain -n -5 fade t 0.01 10 0.3
+sox -V1 -R "$work/gruss.wav" "$work/teil_gruss.wav" pad 7.95
+sox -V1 -R -m "$work/summen.wav" "$work"/teil_*.wav "$work/ton.wav" trim 0 10 reverb 16 40 40 gain -n -5 fade t 0.01 10 0.3
 
 ffmpeg -loglevel error -y -framerate 15 -i "$work/bild%03d.png" -i "$work/ton.wav" -t 10 \
     -c:v mpeg4 -qscale:v 4 -g 30 -pix_fmt yuv420p -c:a libmp3lame -b:a 64k -f avi "$work/zentrox.avi"
